@@ -1,0 +1,17 @@
+#pragma once
+
+namespace vermo {
+
+/// How far long work has come, and the window kept alive meanwhile.
+class Progression {
+  public:
+    virtual ~Progression() = default;
+    virtual void debut(long minimum, long maximum) = 0;
+    /// Shows the value and lets the windows repaint. Cheap enough to be called at every step of a scan.
+    virtual void avance(long valeur) = 0;
+    virtual void fin() = 0;
+    /// Lets the interface run while something is waited for. False when the person asked to give up.
+    virtual bool patienter() = 0;
+};
+
+} // namespace vermo

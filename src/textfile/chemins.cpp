@@ -1,0 +1,77 @@
+#include "textfile/chemins.h"
+
+#include "textfile/fichier.h"
+
+#include <dirent.h>
+#include <memory>
+
+namespace vermo {
+namespace {
+
+struct Fermer {
+    void operator()(DIR* d) const { closedir(d); }
+};
+
+/// Calls `faire` with each name of a directory.
+template <class Faire>
+void lister(const Utf8& repertoire, Faire faire) {
+    const std::unique_ptr<DIR, Fermer> dir(opendir(repertoire.empty() ? "." : repertoire.c_str()));
+    if (!dir) return;
+    while (const dirent* entree = readdir(dir.get()))
+        faire(Utf8(entree->d_name));
+}
+
+} // namespace
+
+Utf8 repertoireDe(const Utf8& chemin) {
+    return chemin.substr(0, chemin.rfind('/') + 1);
+}
+
+Utf8 nomDe(const Utf8& chemin) {
+    return chemin.substr(chemin.rfind('/') + 1);
+}
+
+std::string compagnon(std::string_view nom, std::string_view extension) {
+    std::string resultat(nom.substr(0, nom.size() < 3 ? 0 : nom.size() - 3));
+    resultat += extension;
+    return resultat;
+}
+
+std::string extension3(std::string_view nom) {
+    return majuscules(nom.substr(nom.size() < 3 ? 0 : nom.size() - 3));
+}
+
+std::optional<Utf8> trouver(const Utf8& chemin) {
+    if (fichierExiste(chemin)) return chemin;
+    const Utf8 repertoire = repertoireDe(chemin);
+    const Utf8 cherche = majusculesUtf8(nomDe(chemin));
+    Utf8 trouve;
+    lister(repertoire, [&](const Utf8& nom) {
+        if ((trouve.empty() || nom < trouve) && majusculesUtf8(nom) == cherche) trouve = nom;
+    });
+    if (trouve.empty()) return std::nullopt;
+    return repertoire + trouve;
+}
+
+Utf8 cheminReel(const Utf8& chemin) {
+    return trouver(chemin).value_or(chemin);
+}
+
+IndexRepertoire::IndexRepertoire(const Utf8& repertoire) : repertoire_(repertoire) {
+    if (!repertoire_.empty() && repertoire_.back() != '/') repertoire_ += '/';
+    lister(repertoire_, [&](const Utf8& nom) {
+        Utf8& garde = sansCasse_[majusculesUtf8(nom)];
+        if (garde.empty() || nom < garde) garde = nom;
+        exacts_.insert(nom);
+    });
+}
+
+std::optional<Utf8> IndexRepertoire::trouver(const Utf8& nom) const {
+    if (nom.find('/') != Utf8::npos) return vermo::trouver(repertoire_ + nom);
+    if (exacts_.contains(nom)) return repertoire_ + nom;
+    const auto autre = sansCasse_.find(majusculesUtf8(nom));
+    if (autre == sansCasse_.end()) return std::nullopt;
+    return repertoire_ + autre->second;
+}
+
+} // namespace vermo

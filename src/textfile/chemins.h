@@ -1,0 +1,46 @@
+#pragma once
+#include "textfile/texte.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace vermo {
+
+/// Everything through the last slash; empty when there is none.
+Utf8 repertoireDe(const Utf8& chemin);
+
+/// Everything after the last slash.
+Utf8 nomDe(const Utf8& chemin);
+
+/// A recording's companion: the last three characters replaced ("a.wav", "Rtr" -> "a.Rtr"). A name of fewer
+/// than three characters is replaced whole. Works on CP1252 and on ASCII-ended UTF-8 alike.
+std::string compagnon(std::string_view nom, std::string_view extension);
+
+/// Upper-cased last three characters, as tests for "WAV" want them.
+std::string extension3(std::string_view nom);
+
+/// The file on the disk that `chemin` means: the exact name, else the same name in another case (in the same
+/// directory), as corpora come from systems where case doesn't count; the first in byte order when several
+/// differ by case only. Whatever bears the name counts, a directory too: opening it tells what is wrong.
+std::optional<Utf8> trouver(const Utf8& chemin);
+
+/// `trouver`, or the path itself when nothing is there: the name under which to create it.
+Utf8 cheminReel(const Utf8& chemin);
+
+/// One listing of a directory, for looking up many names. A directory that can't be listed holds none.
+class IndexRepertoire {
+  public:
+    explicit IndexRepertoire(const Utf8& repertoire);
+    /// Full path of the file that `nom` means, by the rule of `vermo::trouver`.
+    std::optional<Utf8> trouver(const Utf8& nom) const;
+
+  private:
+    Utf8 repertoire_;
+    std::unordered_set<Utf8> exacts_;
+    std::unordered_map<Utf8, Utf8> sansCasse_; ///< upper-cased name -> name
+};
+
+} // namespace vermo

@@ -1,0 +1,282 @@
+#include "textfile/fichier.h"
+
+#include "textfile/faute.h"
+#include "textfile/memoire.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace vermo {
+namespace {
+
+[[noreturn]] void refuser(const char* action, int erreur, const Utf8& chemin) {
+    throw FauteExecution(action + (" impossible : " + causeSysteme(erreur)), chemin);
+}
+
+constexpr char lecture[] = "Lecture";
+constexpr char ecriture[] = "Écriture";
+
+void exigerOrdinaire(const char* action, const struct stat& etat, const Utf8& chemin) {
+    if (S_ISDIR(etat.st_mode)) refuser(action, EISDIR, chemin);
+    if (!S_ISREG(etat.st_mode))
+        throw FauteExecution(action + std::string(" impossible : ce n'est pas un fichier ordinaire"), chemin);
+}
+
+/// `stat` of a name; a name with a NUL byte in it, which the system would cut, is that of no file.
+bool etatDe(const Utf8& chemin, struct stat& etat) noexcept {
+    return chemin.find('\0') == Utf8::npos && ::stat(chemin.c_str(), &etat) == 0;
+}
+
+/// Closes what it holds.
+class Descripteur {
+  public:
+    Descripteur() = default;
+    explicit Descripteur(int valeur) : valeur_(valeur) {}
+    Descripteur(Descripteur&& autre) noexcept : valeur_(std::exchange(autre.valeur_, -1)) {}
+    Descripteur& operator=(Descripteur&& autre) noexcept {
+        std::swap(valeur_, autre.valeur_);
+        return *this;
+    }
+    ~Descripteur() {
+        if (ouvert()) fermer();
+    }
+    bool ouvert() const { return valeur_ >= 0; }
+    int valeur() const { return valeur_; }
+    int fermer() { return appelsSysteme().close(std::exchange(valeur_, -1)); }
+
+  private:
+    int valeur_ = -1;
+};
+
+/// A file open for reading, known to be an ordinary one.
+class Source {
+  public:
+    explicit Source(const Utf8& chemin) : chemin_(chemin) {
+        if (chemin.find('\0') != Utf8::npos) refuser(lecture, ENOENT, chemin);
+        // Without O_NONBLOCK a named pipe would hold us here.
+        fichier_ = Descripteur(::open(chemin.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+        struct stat etat {};
+        if (!fichier_.ouvert() || ::fstat(fichier_.valeur(), &etat) != 0) refuser(lecture, errno, chemin);
+        exigerOrdinaire(lecture, etat, chemin);
+        taille_ = etat.st_size;
+    }
+
+    /// Bytes the file had when it was opened.
+    std::int64_t taille() const { return taille_; }
+
+    /// Reads up to `voulus` bytes, fewer only at the end of the file.
+    std::size_t lire(char* vers, std::size_t voulus) {
+        std::size_t lus = 0;
+        while (lus < voulus) {
+            const ssize_t n = ::read(fichier_.valeur(), vers + lus, voulus - lus);
+            if (n == 0) break;
+            if (n < 0 && errno != EINTR) refuser(lecture, errno, chemin_);
+            if (n > 0) lus += static_cast<std::size_t>(n);
+        }
+        return lus;
+    }
+
+  private:
+    const Utf8& chemin_;
+    Descripteur fichier_;
+    std::int64_t taille_ = 0;
+};
+
+/// The file that a name stands for once symbolic links are followed, be there a file or not.
+Utf8 cibleDe(const Utf8& chemin) {
+    constexpr int liensMax = 40;
+    Utf8 cible = chemin;
+    for (int i = 0; i < liensMax; ++i) {
+        char lien[4096];
+        const ssize_t n = ::readlink(cible.c_str(), lien, sizeof lien);
+        if (n < 0) return cible;
+        const Utf8 suite(lien, static_cast<std::size_t>(n));
+        cible = suite.starts_with('/') ? suite : cible.substr(0, cible.rfind('/') + 1) + suite;
+    }
+    refuser(ecriture, ELOOP, chemin);
+}
+
+/// A full disk's sibling, the limit of a file's size, must come back as an error and not end the program.
+void ignorerSigxfsz() {
+    [[maybe_unused]] static const auto avant = std::signal(SIGXFSZ, SIG_IGN);
+}
+
+/// The one replacement of a file. `ecrire` its bytes, then `valider`; without that the old file stays, and
+/// the temporary one goes.
+class Remplacement {
+  public:
+    explicit Remplacement(const Utf8& chemin) : chemin_(chemin) {
+        ignorerSigxfsz();
+        if (chemin.find('\0') != Utf8::npos) refuser(ecriture, EINVAL, chemin);
+        cible_ = cibleDe(chemin);
+        existe_ = ::stat(cible_.c_str(), &ancien_) == 0;
+        if (existe_) {
+            exigerOrdinaire(ecriture, ancien_, chemin);
+            exiger(::access(cible_.c_str(), W_OK) == 0);
+        }
+        ouvrirRepertoire();
+        creerTemporaire();
+    }
+    ~Remplacement() {
+        if (!temporaire_.empty()) appelsSysteme().unlink(temporaire_.c_str());
+    }
+    Remplacement(const Remplacement&) = delete;
+    Remplacement& operator=(const Remplacement&) = delete;
+
+    void ecrire(std::string_view octets) {
+        while (!octets.empty()) {
+            const ssize_t n = appelsSysteme().write(fichier_.valeur(), octets.data(), octets.size());
+            if (n < 0 && errno == EINTR) continue;
+            if (n <= 0) refuser(ecriture, n < 0 ? errno : EIO, chemin_);
+            octets.remove_prefix(static_cast<std::size_t>(n));
+        }
+    }
+
+    void valider() {
+        AppelsSysteme& appels = appelsSysteme();
+        reprendreDroits();
+        exiger(synchroniser(appels.fdatasync, fichier_.valeur()));
+        // The descriptor is gone even when close is interrupted, and the bytes are already on the disk.
+        exiger(fichier_.fermer() == 0 || errno == EINTR);
+        exiger(appels.rename(temporaire_.c_str(), cible_.c_str()) == 0);
+        temporaire_.clear();
+        // Some network file systems can't sync a directory and say EINVAL: there is nothing more to do there.
+        if (!synchroniser(appels.fsync, repertoire_.valeur()) && errno != EINVAL)
+            throw FauteExecution("Enregistrement incertain après une coupure : " + causeSysteme(errno),
+                                 chemin_);
+    }
+
+  private:
+    void exiger(bool reussi) const {
+        if (!reussi) refuser(ecriture, errno, chemin_);
+    }
+
+    static bool synchroniser(int (*appel)(int), int descripteur) {
+        int resultat = 0;
+        do
+            resultat = appel(descripteur);
+        while (resultat != 0 && errno == EINTR);
+        return resultat == 0;
+    }
+
+    /// Before anything is written: a directory that can't be synced later on leaves the old file.
+    void ouvrirRepertoire() {
+        const Utf8 repertoire = cible_.substr(0, cible_.rfind('/') + 1);
+        repertoire_ = Descripteur(appelsSysteme().open(repertoire.empty() ? "." : repertoire.c_str(),
+                                                       O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0));
+        exiger(repertoire_.ouvert());
+    }
+
+    void creerTemporaire() {
+        static std::atomic<unsigned> suivant = 0;
+        const Utf8 debut =
+            cible_.substr(0, cible_.rfind('/') + 1) + ".vermo-" + std::to_string(::getpid()) + "-";
+        constexpr int essais = 100;
+        for (int i = 0; i < essais && !fichier_.ouvert(); ++i) {
+            const Utf8 nom = debut + std::to_string(++suivant) + ".tmp";
+            fichier_ = Descripteur(appelsSysteme().open(nom.c_str(),
+                                                        O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                                                        existe_ ? ancien_.st_mode & 0666 : 0666));
+            if (fichier_.ouvert())
+                temporaire_ = nom;
+            else
+                exiger(errno == EEXIST || errno == EINTR);
+        }
+        exiger(fichier_.ouvert());
+    }
+
+    /// Gives the new file the old one's owner, where the system lets us, and its mode.
+    void reprendreDroits() const {
+        if (!existe_) return;
+        if (ancien_.st_uid != ::geteuid() || ancien_.st_gid != ::getegid()) {
+            [[maybe_unused]] const int selonDroits =
+                ::fchown(fichier_.valeur(), ancien_.st_uid, ancien_.st_gid);
+        }
+        exiger(::fchmod(fichier_.valeur(), ancien_.st_mode & 07777) == 0 || errno == EPERM);
+    }
+
+    const Utf8& chemin_;
+    Utf8 cible_;
+    Utf8 temporaire_; ///< empty when there is none on the disk
+    struct stat ancien_ {};
+    bool existe_ = false;
+    Descripteur repertoire_;
+    Descripteur fichier_;
+};
+
+} // namespace
+
+AppelsSysteme& appelsSysteme() {
+    static AppelsSysteme table{
+        [](const char* chemin, int drapeaux, mode_t mode) { return ::open(chemin, drapeaux, mode); },
+        ::write,
+        ::fdatasync,
+        ::fsync,
+        ::close,
+        ::rename,
+        ::unlink};
+    return table;
+}
+
+IdentiteFichier identiteFichier(const Utf8& chemin) noexcept {
+    struct stat etat {};
+    if (!etatDe(chemin, etat)) return {};
+    return {etat.st_size, etat.st_mtim.tv_sec * 1'000'000'000 + etat.st_mtim.tv_nsec, etat.st_ino};
+}
+
+bool fichierExiste(const Utf8& chemin) noexcept {
+    struct stat etat {};
+    return etatDe(chemin, etat);
+}
+
+std::string lireFichier(const Utf8& chemin) {
+    Source source(chemin);
+    const auto taille = static_cast<std::size_t>(source.taille());
+    std::string octets;
+    octets.reserve(taille);
+    peuplerMemoire(octets.data(), taille);
+    octets.resize(taille);
+    octets.resize(source.lire(octets.data(), octets.size()));
+    // A file may have grown meanwhile; /proc says 0 bytes of files that have some.
+    char suite[4096];
+    while (const std::size_t lus = source.lire(suite, sizeof suite))
+        octets.append(suite, lus);
+    return octets;
+}
+
+void remplacerFichier(const Utf8& chemin, std::string_view octets) {
+    Remplacement remplacement(chemin);
+    remplacement.ecrire(octets);
+    remplacement.valider();
+}
+
+bool copierFichier(const Utf8& source, const Utf8& cible,
+                   const std::function<bool(std::int64_t, std::int64_t)>& avance) {
+    constexpr std::size_t bloc = 1 << 20;
+    Source origine(source);
+    Remplacement remplacement(cible);
+    std::string tampon(bloc, '\0');
+    std::int64_t copies = 0;
+    while (const std::size_t lus = origine.lire(tampon.data(), tampon.size())) {
+        remplacement.ecrire(std::string_view(tampon).substr(0, lus));
+        copies += static_cast<std::int64_t>(lus);
+        if (avance && !avance(copies, std::max(copies, origine.taille()))) return false;
+    }
+    if (copies < origine.taille())
+        throw FauteExecution("Copie impossible : le fichier a été raccourci pendant la lecture", source);
+    remplacement.valider();
+    return true;
+}
+
+void supprimerFichier(const Utf8& chemin) {
+    if (chemin.find('\0') != Utf8::npos) return;
+    if (appelsSysteme().unlink(chemin.c_str()) != 0 && errno != ENOENT) refuser("Suppression", errno, chemin);
+}
+
+} // namespace vermo

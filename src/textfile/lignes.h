@@ -1,0 +1,34 @@
+#pragma once
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace vermo {
+
+/// Walks the lines of a text file held in memory. A line ends at CR LF or at a lone CR; a lone LF is part
+/// of the line. A last line without an end counts when it is not empty.
+class Lignes {
+  public:
+    explicit Lignes(std::string_view octets) : reste_(octets) {}
+
+    /// Next line, without its end. False at the end of the text.
+    bool suivante(std::string_view& ligne);
+
+    /// Skips lines up to and including the first that contains `balise`. False when none does.
+    bool jusqua(std::string_view balise);
+
+    /// Number of the last line given, from 1.
+    std::size_t numero() const noexcept { return numero_; }
+
+    /// What has not been given yet.
+    std::string_view reste() const noexcept { return reste_; }
+
+  private:
+    std::string_view reste_;
+    std::size_t numero_ = 0;
+};
+
+/// The line, then CR LF.
+void ecrireLigne(std::string& sortie, std::string_view ligne);
+
+} // namespace vermo

@@ -1,0 +1,59 @@
+#pragma once
+#include "textfile/texte.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+namespace vermo::essai {
+
+/// A directory of the test's own, removed at its end with all that it holds.
+class DossierTemporaire {
+  public:
+    DossierTemporaire() {
+        std::string modele = (std::filesystem::temp_directory_path() / "vermo-XXXXXX").string();
+        if (!mkdtemp(modele.data()))
+            throw std::filesystem::filesystem_error("mkdtemp",
+                                                    std::error_code(errno, std::generic_category()));
+        chemin_ = modele + "/";
+    }
+    DossierTemporaire(const DossierTemporaire&) = delete;
+    DossierTemporaire& operator=(const DossierTemporaire&) = delete;
+    ~DossierTemporaire() {
+        std::error_code sansImportance;
+        std::filesystem::remove_all(chemin_, sansImportance);
+    }
+
+    /// Full path of the directory, slash included, and of a file in it.
+    const Utf8& chemin() const { return chemin_; }
+    Utf8 chemin(const Utf8& nom) const { return chemin_ + nom; }
+
+    bool existe(const Utf8& nom) const { return std::filesystem::exists(chemin(nom)); }
+
+    /// Writes a file (and the directories on its way); gives its full path.
+    Utf8 ecrire(const Utf8& nom, std::string_view octets) const {
+        std::filesystem::create_directories(std::filesystem::path(chemin(nom)).parent_path());
+        std::ofstream fichier(chemin(nom), std::ios::binary);
+        fichier.write(octets.data(), static_cast<std::streamsize>(octets.size()));
+        fichier.close();
+        EXPECT_TRUE(fichier) << "cannot write " << chemin(nom);
+        return chemin(nom);
+    }
+
+    /// All bytes of a file; fails the test when there is none.
+    std::string lire(const Utf8& nom) const {
+        std::ifstream fichier(chemin(nom), std::ios::binary);
+        EXPECT_TRUE(fichier) << "no file " << chemin(nom);
+        return {std::istreambuf_iterator<char>(fichier), {}};
+    }
+
+  private:
+    Utf8 chemin_;
+};
+
+} // namespace vermo::essai

@@ -1,0 +1,117 @@
+#pragma once
+#include "platform/LecteurMedia.h"
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace vermo::essai {
+
+/// A player whose clock is moved by hand. A recording is ready as soon as it is loaded, unless `lent` is set:
+/// then `pret()` ends the loading.
+class LecteurSimule : public LecteurMedia {
+  public:
+    std::map<Utf8, double> durees; ///< seconds, by full path or by the name alone
+    double dureeParDefaut = 60;    ///< of a recording that the table doesn't name; 0: it can't be loaded
+    bool lent = false;
+    bool vitesseReglable = true;
+    bool sansSon = false;
+
+    /// Commands in order: "URL a.wav", "play", "pause", "stop", "position 12.5", "volume 80", "rate 1.5".
+    const std::vector<std::string>& journal() const { return journal_; }
+    void effacerJournal() { journal_.clear(); }
+    double vitesse() const { return vitesse_; }
+
+    /// Lets `secondes` of the clock pass. At the end of the recording it stops there.
+    void avancer(double secondes) {
+        if (etat_ != EtatLecture::Lecture) return;
+        position_ = std::min(position_ + secondes * vitesse_, duree_);
+        if (position_ >= duree_) passer(EtatLecture::Arrete);
+    }
+
+    void pret() {
+        duree_ = dureeDe(url_);
+        erreur_ = duree_ > 0 ? Utf8() : "Lecture impossible : " + url_;
+        position_ = std::min(position_, duree_);
+        passer(duree_ <= 0         ? EtatLecture::Indefini
+               : jouerUneFoisPret_ ? EtatLecture::Lecture
+                                   : EtatLecture::Arrete);
+    }
+
+    Utf8 URL() const override { return url_; }
+    void URL(const Utf8& chemin) override {
+        journal_.push_back("URL " + nomSeul(chemin));
+        url_ = chemin;
+        position_ = duree_ = 0;
+        jouerUneFoisPret_ = false;
+        erreur_.clear();
+        passer(chemin.empty() ? EtatLecture::Indefini : EtatLecture::Chargement);
+        if (!lent && !chemin.empty()) pret();
+    }
+    EtatLecture playState() const override { return etat_; }
+    void play() override {
+        journal_.push_back("play");
+        jouerUneFoisPret_ = etat_ == EtatLecture::Chargement;
+        if (duree_ <= 0) return;
+        if (position_ >= duree_) position_ = 0;
+        passer(EtatLecture::Lecture);
+    }
+    void pause() override {
+        journal_.push_back("pause");
+        jouerUneFoisPret_ = false;
+        if (etat_ == EtatLecture::Lecture) passer(EtatLecture::EnPause);
+    }
+    void stop() override {
+        journal_.push_back("stop");
+        jouerUneFoisPret_ = false;
+        position_ = 0;
+        if (duree_ > 0) passer(EtatLecture::Arrete);
+    }
+    double currentPosition() const override { return position_; }
+    void currentPosition(double secondes) override {
+        journal_.push_back("position " + texte(secondes));
+        position_ =
+            etat_ == EtatLecture::Chargement ? std::max(0.0, secondes) : std::clamp(secondes, 0.0, duree_);
+    }
+    double duration() const override { return duree_; }
+    int volume() const override { return volume_; }
+    void volume(int part) override {
+        journal_.push_back("volume " + std::to_string(part));
+        volume_ = std::clamp(part, 0, 100);
+    }
+    bool rateDisponible() const override { return vitesseReglable; }
+    void rate(double facteur) override {
+        journal_.push_back("rate " + texte(facteur));
+        vitesse_ = facteur;
+    }
+    Utf8 erreur() const override { return erreur_; }
+    bool muet() const override { return sansSon; }
+
+  private:
+    static Utf8 nomSeul(const Utf8& chemin) { return chemin.substr(chemin.rfind('/') + 1); }
+    static std::string texte(double nombre) {
+        std::string t = std::to_string(nombre);
+        t.erase(t.find_last_not_of('0') + 1);
+        return t.back() == '.' ? t.substr(0, t.size() - 1) : t;
+    }
+    double dureeDe(const Utf8& chemin) const {
+        for (const Utf8& cle : {chemin, nomSeul(chemin)})
+            if (auto trouvee = durees.find(cle); trouvee != durees.end()) return trouvee->second;
+        return dureeParDefaut;
+    }
+    void passer(EtatLecture etat) {
+        if (etat == etat_) return;
+        etat_ = etat;
+        if (surChangementEtat) surChangementEtat(etat);
+    }
+
+    Utf8 url_, erreur_;
+    EtatLecture etat_ = EtatLecture::Indefini;
+    double position_ = 0, duree_ = 0, vitesse_ = 1;
+    int volume_ = 100;
+    bool jouerUneFoisPret_ = false;
+    std::vector<std::string> journal_;
+};
+
+} // namespace vermo::essai

@@ -1,0 +1,134 @@
+#pragma once
+#include "support/DossierTemporaire.h"
+#include "textfile/fichier.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <functional>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace vermo::essai {
+
+/// A fault in the system calls that replace files: every call of the table is counted from 1.
+struct Panne {
+    int rang = 0;                   ///< the call that is struck; 0: none
+    int erreur = 0;                 ///< errno that the call fails with; 0: the process is killed there
+    std::string appel = {};         ///< strikes only this call ("write"), counted alone
+    bool toujours = false;          ///< strikes again at each later one
+    std::size_t morceau = SIZE_MAX; ///< bytes that one write takes at most
+};
+
+/// Puts a `Panne` into the table while it lives.
+class Pannes {
+  public:
+    explicit Pannes(Panne panne) : vrais_(appelsSysteme()) {
+        etat() = {std::move(panne), 0, vrais_};
+        AppelsSysteme& table = appelsSysteme();
+        table.open = [](const char* chemin, int drapeaux, mode_t mode) {
+            return frappe("open") ? -1 : etat().vrais.open(chemin, drapeaux, mode);
+        };
+        table.write = [](int d, const void* octets, std::size_t taille) -> ssize_t {
+            return frappe("write") ? -1
+                                   : etat().vrais.write(d, octets, std::min(taille, etat().panne.morceau));
+        };
+        table.fdatasync = [](int d) { return frappe("fdatasync") ? -1 : etat().vrais.fdatasync(d); };
+        table.fsync = [](int d) { return frappe("fsync") ? -1 : etat().vrais.fsync(d); };
+        table.close = [](int d) {
+            const bool echec = frappe("close");
+            const int erreur = errno;
+            const int resultat = etat().vrais.close(d);
+            if (!echec) return resultat;
+            errno = erreur;
+            return -1;
+        };
+        table.rename = [](const char* a, const char* b) {
+            return frappe("rename") ? -1 : etat().vrais.rename(a, b);
+        };
+        table.unlink = [](const char* c) { return frappe("unlink") ? -1 : etat().vrais.unlink(c); };
+    }
+    Pannes(const Pannes&) = delete;
+    Pannes& operator=(const Pannes&) = delete;
+    ~Pannes() { appelsSysteme() = vrais_; }
+
+    /// Calls counted so far.
+    int appels() const { return etat().compte; }
+
+  private:
+    struct Etat {
+        Panne panne;
+        int compte = 0;
+        AppelsSysteme vrais{};
+    };
+    static Etat& etat() {
+        static Etat seul;
+        return seul;
+    }
+    static bool frappe(const std::string& appel) {
+        const Panne& panne = etat().panne;
+        if (!panne.appel.empty() && panne.appel != appel) return false;
+        const int compte = ++etat().compte;
+        if (panne.rang == 0 || (panne.toujours ? compte < panne.rang : compte != panne.rang)) return false;
+        if (panne.erreur == 0) raise(SIGKILL);
+        errno = panne.erreur;
+        return true;
+    }
+
+    AppelsSysteme vrais_;
+};
+
+inline long temporairesRestants(const DossierTemporaire& dossier) {
+    const std::filesystem::directory_iterator entrees(dossier.chemin());
+    return std::count_if(begin(entrees), end(entrees), [](const auto& entree) {
+        return entree.path().filename().string().starts_with(".vermo-");
+    });
+}
+
+/// Runs `action`, which replaces the existing file `nom`, with each of its system calls failing in turn (I/O
+/// error, full disk, read-only), and in child processes killed at each call, inside the writing too. After
+/// each, the file must be the old one or the new one, whole, and no temporary file left but by a kill.
+inline void survitAuxPannes(const DossierTemporaire& dossier, const Utf8& nom,
+                            const std::function<void()>& action) {
+    const std::string ancien = dossier.lire(nom);
+    action();
+    const std::string nouveau = dossier.lire(nom);
+    ASSERT_NE(ancien, nouveau) << "the action must change " << nom;
+    const std::size_t morceau = std::max<std::size_t>(nouveau.size() / 3, 1);
+    const auto essayer = [&](const Panne& panne) {
+        dossier.ecrire(nom, ancien);
+        Pannes pannes(panne);
+        try {
+            action();
+        } catch (const std::exception&) {
+            EXPECT_NE(panne.rang, 0) << "fails without a fault";
+        }
+        return pannes.appels();
+    };
+    const int appels = essayer({.morceau = morceau});
+    ASSERT_GT(appels, 0);
+    for (int rang = 1; rang <= appels; ++rang) {
+        for (const int erreur : {EIO, ENOSPC, EROFS}) {
+            essayer({.rang = rang, .erreur = erreur, .morceau = morceau});
+            const std::string apres = dossier.lire(nom);
+            EXPECT_TRUE(apres == ancien || apres == nouveau)
+                << "torn: errno " << erreur << " at call " << rang;
+            EXPECT_EQ(temporairesRestants(dossier), 0) << "errno " << erreur << " at call " << rang;
+        }
+        const pid_t enfant = fork();
+        if (enfant == 0) {
+            essayer({.rang = rang, .morceau = morceau});
+            _exit(0);
+        }
+        int fin = 0;
+        ASSERT_EQ(waitpid(enfant, &fin, 0), enfant);
+        EXPECT_TRUE(WIFSIGNALED(fin) && WTERMSIG(fin) == SIGKILL) << "not killed at call " << rang;
+        const std::string apres = dossier.lire(nom);
+        EXPECT_TRUE(apres == ancien || apres == nouveau) << "torn: killed at call " << rang;
+        for (const auto& entree : std::filesystem::directory_iterator(dossier.chemin()))
+            if (entree.path().filename().string().starts_with(".vermo-")) std::filesystem::remove(entree);
+    }
+}
+
+} // namespace vermo::essai

@@ -1,0 +1,87 @@
+#pragma once
+#include "platform/Plateforme.h"
+#include "support/DialoguesScriptees.h"
+#include "support/DossierTemporaire.h"
+#include "support/LecteurSimule.h"
+
+#include <string>
+#include <vector>
+
+namespace vermo::essai {
+
+/// A clock that stands still until the test moves it: 3 April 2009, 14:05:06.
+class HorlogeFixe : public Horloge {
+  public:
+    std::tm heure = {.tm_sec = 6,
+                     .tm_min = 5,
+                     .tm_hour = 14,
+                     .tm_mday = 3,
+                     .tm_mon = 3,
+                     .tm_year = 109,
+                     .tm_wday = 5,
+                     .tm_yday = 92,
+                     .tm_isdst = 0,
+                     .tm_gmtoff = 0,
+                     .tm_zone = nullptr};
+    std::tm maintenant() const override { return heure; }
+};
+
+/// Notes the programs it is asked to start.
+class LanceurSimule : public Lanceur {
+  public:
+    bool accepte = true;
+    std::vector<Utf8> lances;
+    bool lancer(const Utf8& chemin) override {
+        lances.push_back(chemin);
+        return accepte;
+    }
+};
+
+/// A screen of 1920 x 1080 pixels without a task bar.
+class EcranFixe : public Ecran {
+  public:
+    ZoneTravail zone;
+    Pointeur pointeurCourant = Pointeur::Normal;
+    ZoneTravail zoneTravail() const override { return zone; }
+    void pointeur(Pointeur voulu) override { pointeurCourant = voulu; }
+};
+
+/// Shows nothing. The person waits patiently `patience` times, then gives up.
+class ProgressionMuette : public Progression {
+  public:
+    int patience = 1000;
+    long minimum = 0, maximum = 0, valeur = 0;
+    int debuts = 0, fins = 0;
+    void debut(long de, long a) override {
+        minimum = valeur = de;
+        maximum = a;
+        ++debuts;
+    }
+    void avance(long v) override { valeur = v; }
+    void fin() override { ++fins; }
+    bool patienter() override { return patience-- > 0; }
+};
+
+/// The whole host, simulated; each of its parts stands open to the test. `dossier` is the place "beside the
+/// program": its "programme/", "donnees/" (read-only data) and "personne/" are made empty.
+struct PlateformeDeTest {
+    DossierTemporaire dossier;
+    DialoguesScriptees dialogues;
+    LecteurSimule media;
+    HorlogeFixe horloge;
+    LanceurSimule lanceur;
+    EcranFixe ecran;
+    ProgressionMuette progression;
+    Plateforme plateforme{dialogues, media, horloge, lanceur, ecran, progression, emplacements(dossier)};
+
+    operator Plateforme&() { return plateforme; }
+
+  private:
+    static Emplacements emplacements(const DossierTemporaire& dossier) {
+        for (const char* nom : {"programme", "donnees", "personne"})
+            std::filesystem::create_directory(dossier.chemin(nom));
+        return {dossier.chemin("programme/"), dossier.chemin("donnees/"), dossier.chemin("personne/")};
+    }
+};
+
+} // namespace vermo::essai
