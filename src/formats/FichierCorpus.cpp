@@ -1,0 +1,160 @@
+#include "formats/FichierCorpus.h"
+
+#include "formats/Champs.h"
+#include "textfile/jetons.h"
+#include "textfile/lignes.h"
+#include "textfile/nombres.h"
+
+namespace vermo::crp {
+namespace {
+
+/// A section by its tags.
+struct Section {
+    std::string_view ouverture;
+    std::string_view fermeture;
+};
+constexpr Section THEM{"<|THEM|", ">|THEM|"};
+constexpr Section POS{"<|POS|", ">|POS|"};
+constexpr Section DIC{"<|DIC|", ">|DIC|"};
+constexpr Section ENTR{"<|ENTR|", ">|ENTR|"};
+
+bool contient(std::string_view ligne, std::string_view balise) {
+    return ligne.find(balise) != std::string_view::npos;
+}
+
+/// Rows of a section, one a line that isn't empty; `lireRang` takes a line and where it stands.
+template <class Rang, class LireRang>
+std::optional<std::vector<Rang>> lireSection(std::string_view octets, const Section& section,
+                                             const Utf8& fichier, std::size_t maximum, LireRang lireRang) {
+    Lignes lignes(octets);
+    if (!lignes.jusqua(section.ouverture)) return std::nullopt;
+    std::vector<Rang> rangs;
+    std::string_view ligne;
+    while (lignes.suivante(ligne) && !contient(ligne, section.fermeture)) {
+        if (ligne.empty()) continue;
+        const Lieu lieu{fichier, lignes.numero()};
+        refuserNul(ligne, lieu);
+        if (rangs.size() == maximum)
+            lieu.refuser("La section " + std::string(section.ouverture) + " tient au plus " +
+                         std::to_string(maximum) + " lignes.");
+        rangs.push_back(lireRang(ligne, lieu));
+    }
+    return rangs;
+}
+
+std::string_view champ(std::string_view& reste, const std::string& quoi, const Lieu& lieu) {
+    const auto avant = avantVirgule(reste);
+    if (!avant) lieu.refuser("Il manque une virgule dans la ligne de " + quoi + ".");
+    return *avant;
+}
+
+Thematique lireThematique(std::string_view ligne, const Lieu& lieu) {
+    Thematique rang;
+    rang.code = champ(ligne, "thématique", lieu);
+    rang.couleur = champ(ligne, "thématique", lieu);
+    rang.nom = ligne;
+    try {
+        couleur(rang.couleur);
+    } catch (const FauteExecution& faute) {
+        lieu.refuser(faute.quoi());
+    }
+    return rang;
+}
+
+/// What a rewrite keeps of a file: the lines up to the opening tag, that one included, and those behind the
+/// closing one. Nothing when there is no opening tag.
+struct Cadre {
+    std::string_view tete;
+    std::string_view queue;
+};
+
+std::optional<Cadre> encadrer(std::string_view octets, const Section& section) {
+    Lignes lignes(octets);
+    if (!lignes.jusqua(section.ouverture)) return std::nullopt;
+    const std::string_view tete = octets.substr(0, octets.size() - lignes.reste().size());
+    lignes.jusqua(section.fermeture);
+    return Cadre{tete, lignes.reste()};
+}
+
+/// Every line of `octets` with a line end of the normal form.
+void copierLignes(std::string& sortie, std::string_view octets,
+                  void (*ecrire)(std::string&, std::string_view) = ecrireLigne) {
+    Lignes lignes(octets);
+    std::string_view ligne;
+    while (lignes.suivante(ligne))
+        ecrire(sortie, ligne);
+}
+
+} // namespace
+
+std::string nouveau(std::string_view date, std::string_view heure) {
+    std::string sortie;
+    const Texte annonce =
+        depuisUtf8("Projet crée le ") + std::string(date) + depuisUtf8(" à ") + std::string(heure);
+    const Texte sansThematique = depuisUtf8("000,&H0, Pas de thématique");
+    for (const std::string_view ligne :
+         {std::string_view(annonce), THEM.ouverture, std::string_view(sansThematique), THEM.fermeture,
+          POS.ouverture, POS.fermeture, DIC.ouverture, DIC.fermeture, ENTR.ouverture, ENTR.fermeture})
+        ecrireLigne(sortie, ligne);
+    return sortie;
+}
+
+std::optional<std::vector<Thematique>> lireThematiques(std::string_view octets, const Utf8& fichier) {
+    return lireSection<Thematique>(octets, THEM, fichier, THEMATIQUES_MAX, lireThematique);
+}
+
+std::optional<std::vector<Texte>> lireEntretiens(std::string_view octets, const Utf8& fichier) {
+    return lireSection<Texte>(octets, ENTR, fichier, ENTRETIENS_MAX,
+                              [](std::string_view ligne, const Lieu&) { return Texte(ligne); });
+}
+
+std::optional<std::vector<LigneVariable>> lirePos(std::string_view octets, const Utf8& fichier) {
+    return lireSection<LigneVariable>(octets, POS, fichier, octets.size(),
+                                      [](std::string_view ligne, const Lieu& lieu) {
+                                          const std::string_view numero = champ(ligne, "variable", lieu);
+                                          entierBorne(numero, 1, RANGS_MAX, "variable", lieu);
+                                          return LigneVariable{Texte(numero), Texte(ligne)};
+                                      });
+}
+
+std::optional<std::vector<LigneModalite>> lireDic(std::string_view octets, const Utf8& fichier) {
+    return lireSection<LigneModalite>(
+        octets, DIC, fichier, octets.size(), [](std::string_view ligne, const Lieu& lieu) {
+            const std::string_view variable = champ(ligne, "modalité", lieu);
+            const std::string_view modalite = champ(ligne, "modalité", lieu);
+            return LigneModalite{entierBorne(variable, 1, RANGS_MAX, "variable", lieu),
+                                 entierBorne(modalite, 1, RANGS_MAX, "modalité", lieu), Texte(ligne)};
+        });
+}
+
+std::optional<std::string> ecrireThematiques(std::string_view octets, const std::vector<Thematique>& rangs) {
+    const auto cadre = encadrer(octets, THEM);
+    if (!cadre) return std::nullopt;
+    std::string sortie;
+    sortie.reserve(octets.size() + 64 * rangs.size());
+    Jetons jetons(cadre->tete);
+    Texte item;
+    while (jetons.suivant(item))
+        ecrireLigne(sortie, item);
+    for (const Thematique& rang : rangs)
+        if (!rang.code.empty()) ecrireLigne(sortie, rang.code + "," + rang.couleur + "," + rang.nom);
+    ecrireLigne(sortie, THEM.fermeture);
+    copierLignes(sortie, cadre->queue);
+    return sortie;
+}
+
+std::optional<ReecritureEntretiens> ecrireEntretiens(std::string_view octets,
+                                                     const std::vector<Texte>& fichiers) {
+    const auto cadre = encadrer(octets, ENTR);
+    if (!cadre) return std::nullopt;
+    std::string sortie;
+    sortie.reserve(octets.size() + 32 * fichiers.size());
+    copierLignes(sortie, cadre->tete);
+    for (const Texte& fichier : fichiers)
+        if (!fichier.empty()) ecrireLigne(sortie, fichier);
+    ecrireLigne(sortie, ENTR.fermeture);
+    copierLignes(sortie, cadre->queue, ecrireEntreGuillemets);
+    return ReecritureEntretiens{sortie, sortie};
+}
+
+} // namespace vermo::crp

@@ -1,0 +1,215 @@
+#include "formats/FichierRtr.h"
+
+#include "formats/Champs.h"
+#include "formats/Marques.h"
+#include "textfile/lignes.h"
+#include "textfile/nombres.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace vermo::rtr {
+namespace {
+
+constexpr std::string_view OBS = "<|OBS|", FIN_OBS = ">|OBS|";
+constexpr std::string_view ATTR = "<|ATTR|", FIN_ATTR = ">|ATTR|";
+
+bool contient(std::string_view ligne, std::string_view balise) {
+    return ligne.find(balise) != std::string_view::npos;
+}
+
+/// Adds a line to a text; an empty one is absorbed by the line end before it.
+void ajouterLigne(Texte& texte, std::string_view ligne) {
+    texte.reserve(texte.size() + ligne.size() + 1);
+    texte.append(ligne).push_back(CR);
+    if (texte.size() > 1 && texte[texte.size() - 2] == CR) texte.pop_back();
+}
+
+void ouvrir(Lecture& lecture, const Marque& marque, const Lieu& lieu) {
+    if (lecture.extraits.size() > EXTRAITS_MAX)
+        lieu.refuser("Une retranscription tient au plus " + std::to_string(EXTRAITS_MAX) + " extraits.");
+    lecture.extraits.push_back({Texte(marque.temps), {}, Texte(marque.suite.substr(0, 3)), {}});
+    lecture.lignes.push_back({static_cast<std::uint32_t>(lieu.ligne), 0});
+}
+
+/// Sections open one at a time and close before the first mark line; line 1 holds the duration.
+void verifierEnTete(std::string_view octets, const Utf8& fichier, const Reglages& reglages) {
+    Lignes lignes(octets);
+    std::string_view ligne, attendue;
+    if (!lignes.suivante(ligne)) throw FauteExecution("Fichier vide : la durée manque.", fichier, 1);
+    tempsOuFaute(ligne, reglages, "La durée", {fichier, 1});
+    std::size_t ouverture = 0;
+    while (lignes.suivante(ligne) && !contient(ligne, MARQUE)) {
+        if (!attendue.empty()) {
+            if (contient(ligne, attendue)) attendue = {};
+            continue;
+        }
+        for (const auto& [debut, fin] : {std::pair(OBS, FIN_OBS), std::pair(ATTR, FIN_ATTR)}) {
+            if (contient(ligne, fin))
+                Lieu{fichier, lignes.numero()}.refuser("La balise " + std::string(fin) +
+                                                       " n'a pas d'ouverture.");
+            if (contient(ligne, debut)) attendue = fin;
+        }
+        ouverture = lignes.numero();
+    }
+    if (!attendue.empty())
+        Lieu{fichier, ouverture}.refuser("La balise " + std::string(attendue) +
+                                         " manque avant le premier extrait.");
+}
+
+void verifierExtrait(const Extrait& extrait, const LignesMarques& lignes, const Utf8& fichier,
+                     const Reglages& reglages) {
+    tempsOuFaute(extrait.debut, reglages, "Le début", {fichier, lignes.ouverture});
+    if (lignes.fermeture == 0) Lieu{fichier, lignes.ouverture}.refuser("L'extrait n'a pas de ligne de fin.");
+    tempsOuFaute(extrait.fin, reglages, "La fin", {fichier, lignes.fermeture});
+}
+
+void ecrireExtrait(std::string& sortie, const Extrait& extrait, const Reglages& reglages) {
+    const auto temps = [&](const Texte& champ) {
+        return formatDeuxDecimales(nombre(champ, reglages), reglages);
+    };
+    sortie.append(MARQUE).append(temps(extrait.debut)).append(MARQUE);
+    ecrireLigne(sortie, extrait.code);
+    ecrireLigne(sortie, extrait.texte);
+    sortie.append(MARQUE).append(temps(extrait.fin));
+    ecrireLigne(sortie, MARQUE);
+}
+
+/// An extract as an insertion writes it, its lines separated by lone CRs.
+std::string composer(const Extrait& extrait) {
+    std::string sortie;
+    sortie.append(MARQUE).append(extrait.debut).append(MARQUE).append(extrait.code) += CR;
+    sortie.append(extrait.texte) += CR;
+    return sortie.append(MARQUE).append(extrait.fin).append(MARQUE);
+}
+
+void copierLignes(std::string& sortie, std::string_view octets) {
+    Lignes lignes(octets);
+    std::string_view ligne;
+    while (lignes.suivante(ligne))
+        ecrireLigne(sortie, ligne);
+}
+
+} // namespace
+
+void lire(std::string_view octets, const Utf8& fichier, Lecture& lecture) {
+    lecture = {};
+    Lignes lignes(octets);
+    std::string_view ligne;
+    bool DansExtrait = false;
+    while (lignes.suivante(ligne)) {
+        const Lieu lieu{fichier, lignes.numero()};
+        refuserNul(ligne, lieu);
+        const auto marque = lireMarque(ligne, lieu);
+        if (!marque) {
+            ajouterLigne(lecture.extraits.back().texte, ligne);
+        } else if (!DansExtrait) {
+            ouvrir(lecture, *marque, lieu);
+            DansExtrait = true;
+        } else {
+            lecture.extraits.back().fin = marque->temps;
+            lecture.lignes.back().fermeture = static_cast<std::uint32_t>(lieu.ligne);
+            DansExtrait = false;
+        }
+    }
+}
+
+Lecture lire(std::string_view octets, const Utf8& fichier) {
+    Lecture lecture;
+    lire(octets, fichier, lecture);
+    return lecture;
+}
+
+void verifier(std::string_view octets, const Lecture& lecture, const Utf8& fichier,
+              const Reglages& reglages) {
+    verifierEnTete(octets, fichier, reglages);
+    Attributs attributs{};
+    lireAttributs(octets, attributs, fichier);
+    for (std::size_t n = 1; n < lecture.extraits.size(); ++n)
+        verifierExtrait(lecture.extraits[n], lecture.lignes[n], fichier, reglages);
+}
+
+Texte tempsEtranger(std::string_view octets, const Lecture& lecture, const Reglages& reglages) {
+    std::string_view duree;
+    if (Lignes(octets).suivante(duree) && separateurEtranger(duree, reglages)) return Texte(duree);
+    for (std::size_t n = 1; n < lecture.extraits.size(); ++n)
+        for (const Texte& temps : {lecture.extraits[n].debut, lecture.extraits[n].fin})
+            if (separateurEtranger(temps, reglages)) return temps;
+    return {};
+}
+
+std::string ecrire(const EnTete& enTete, const std::vector<Extrait>& extraits, Selection selection,
+                   const Reglages& reglages) {
+    std::string sortie;
+    ecrireLigne(sortie, imprimer(enTete.duree, reglages));
+    for (const std::string_view ligne : {OBS, std::string_view(enTete.observations), FIN_OBS, ATTR})
+        ecrireLigne(sortie, ligne);
+    for (std::size_t v = 0; v < enTete.attributs.size(); ++v)
+        if (enTete.attributs[v] != 0)
+            ecrireLigne(sortie,
+                        std::to_string(v + 1) + "," + imprimerSansBlancs(enTete.attributs[v], reglages));
+    ecrireLigne(sortie, FIN_ATTR);
+    for (std::size_t n = 1; n < extraits.size(); ++n) {
+        const bool saute = selection.sauterNegatifs && nombre(extraits[n].debut, reglages) < 0;
+        if (n != selection.exclu && !saute) ecrireExtrait(sortie, extraits[n], reglages);
+    }
+    return sortie;
+}
+
+std::string nouveau(float duree, const Reglages& reglages) {
+    std::string sortie;
+    ecrireLigne(sortie, imprimer(duree, reglages));
+    for (const std::string_view balise : {OBS, FIN_OBS, ATTR, FIN_ATTR})
+        ecrireLigne(sortie, balise);
+    return sortie;
+}
+
+std::string inserer(std::string_view octets, const Extrait& extrait, double debut, const Reglages& reglages,
+                    const Utf8& fichier) {
+    const std::string nouvel = composer(extrait);
+    std::string sortie;
+    sortie.reserve(octets.size() + nouvel.size() + 64);
+    Lignes lignes(octets);
+    std::string_view ligne;
+    bool DansExtrait = false, Insere = false;
+    while (lignes.suivante(ligne)) {
+        const Lieu lieu{fichier, lignes.numero()};
+        if (const auto marque = lireMarque(ligne, lieu)) {
+            DansExtrait = !DansExtrait;
+            if (DansExtrait && !Insere && tempsOuFaute(marque->temps, reglages, "Le début", lieu) > debut) {
+                copierLignes(sortie, nouvel);
+                Insere = true;
+            }
+        }
+        ecrireLigne(sortie, ligne);
+    }
+    if (!Insere) copierLignes(sortie, nouvel);
+    return sortie;
+}
+
+std::string creerAvec(float duree, const Extrait& extrait, const Reglages& reglages) {
+    std::string sortie;
+    ecrireLigne(sortie, imprimer(duree, reglages));
+    ecrireLigne(sortie, composer(extrait));
+    return sortie;
+}
+
+bool lireAttributs(std::string_view octets, Attributs& attributs, const Utf8& fichier) {
+    Lignes lignes(octets);
+    if (!lignes.jusqua(ATTR)) return false;
+    Attributs lus = attributs;
+    std::string_view ligne;
+    while (lignes.suivante(ligne) && !contient(ligne, FIN_ATTR)) {
+        if (ligne.empty()) continue;
+        const Lieu lieu{fichier, lignes.numero()};
+        const auto variable = avantVirgule(ligne);
+        if (!variable) lieu.refuser("Il manque une virgule dans la ligne d'attribut.");
+        const int v = entierBorne(*variable, 1, VARIABLES_MAX, "variable", lieu);
+        lus[static_cast<std::size_t>(v - 1)] =
+            static_cast<float>(entierBorne(ligne, 0, VARIABLES_MAX, "modalité", lieu));
+    }
+    attributs = lus;
+    return true;
+}
+
+} // namespace vermo::rtr

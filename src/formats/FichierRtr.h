@@ -1,0 +1,92 @@
+#pragma once
+#include "textfile/reglages.h"
+#include "textfile/texte.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The transcript file (.Rtr): duration, observations, attributes, then the extracts. Bytes to value and
+/// back; nothing touches the disk.
+namespace vermo::rtr {
+
+constexpr int VARIABLES_MAX = 99;
+constexpr std::size_t EXTRAITS_MAX = 9999; ///< in one transcript
+using Attributs = std::array<float, VARIABLES_MAX>;
+
+/// One extract as its three kinds of lines hold it. `texte` separates lines by one CR, as a rule with a CR at
+/// its end.
+struct Extrait {
+    Texte debut; ///< the field between the marks, a number in the machine's notation
+    Texte fin;
+    Texte code; ///< three characters after a read; everything up to the line's end when written
+    Texte texte;
+    bool operator==(const Extrait&) const = default;
+};
+
+/// The lines of a file on which an extract opens and closes, from 1; 0 where there is none.
+struct LignesMarques {
+    std::uint32_t ouverture = 0;
+    std::uint32_t fermeture = 0;
+};
+
+struct Lecture {
+    std::vector<Extrait> extraits{1}; ///< extract n at index n; index 0 gathers what stands before the first
+    std::vector<LignesMarques> lignes{1}; ///< by the same index
+};
+
+/// The extracts of a transcript. Empty lines of texts are absorbed. Throws FauteExecution with `fichier` and
+/// the line for a mark line without its second "::", extract 10,000 and a NUL byte; `lecture` then holds what
+/// was read until there.
+void lire(std::string_view octets, const Utf8& fichier, Lecture& lecture);
+Lecture lire(std::string_view octets, const Utf8& fichier);
+
+/// What else must hold before a transcript may be rewritten from memory: a duration on the first line,
+/// sections that open and close before the first extract, attributes that are numbers, times that are
+/// numbers, an end for each extract. Throws FauteExecution with `fichier` and the line for the first of these
+/// that doesn't.
+void verifier(std::string_view octets, const Lecture& lecture, const Utf8& fichier, const Reglages& reglages);
+
+/// The first time of the file, its duration included, that is written with the separator that `reglages`
+/// doesn't use; empty when none is.
+Texte tempsEtranger(std::string_view octets, const Lecture& lecture, const Reglages& reglages);
+
+/// What stands before the extracts.
+struct EnTete {
+    float duree = 0;       ///< seconds
+    Texte observations{};  ///< written as it stands
+    Attributs attributs{}; ///< written where not 0
+};
+
+/// A whole transcript. An extract with a negative start is left out when `sauterNegatifs`; extract number
+/// `exclu` is left out in any case (0: none). `extraits[0]` is no extract.
+struct Selection {
+    bool sauterNegatifs = false;
+    std::size_t exclu = 0;
+};
+/// Times are written by "0.00"; throws FauteExecution for one that is no number.
+std::string ecrire(const EnTete& enTete, const std::vector<Extrait>& extraits, Selection selection,
+                   const Reglages& reglages);
+
+/// What an import writes: the duration and the four markers.
+std::string nouveau(float duree, const Reglages& reglages);
+
+/// The transcript with one more extract, whose bounds stand as they are to be written, before the first one
+/// with a start strictly greater than `debut`. Every line end becomes CR LF. Throws FauteExecution as `lire`
+/// does.
+std::string inserer(std::string_view octets, const Extrait& extrait, double debut, const Reglages& reglages,
+                    const Utf8& fichier);
+
+/// The file that a first extract creates where there is no transcript: a duration and the extract, no
+/// sections. Line ends inside the extract are lone CRs.
+std::string creerAvec(float duree, const Extrait& extrait, const Reglages& reglages);
+
+/// Fills in the attributes of the ATTR section, leaving those without a line as they are. False when there is
+/// no such section. Throws FauteExecution, `attributs` untouched, for a line that is no pair of numbers, a
+/// variable outside 1 to 99 or a modality outside 0 to 99.
+bool lireAttributs(std::string_view octets, Attributs& attributs, const Utf8& fichier);
+
+} // namespace vermo::rtr

@@ -1,0 +1,42 @@
+#include "window/DatesFichier.h"
+
+#include <ctime>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace vermo {
+
+namespace {
+
+DateHeure locale(std::int64_t secondes) {
+    const std::time_t instant = secondes;
+    std::tm champs{};
+    localtime_r(&instant, &champs);
+    return {timegm(&champs)};
+}
+
+/// A directory opens for reading too, but is no file.
+bool interroger(const Utf8& chemin, struct statx& etat) {
+    const int descripteur = open(chemin.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descripteur < 0) return false;
+    const int refus = statx(descripteur, "", AT_EMPTY_PATH, STATX_TYPE | STATX_MTIME | STATX_BTIME, &etat);
+    close(descripteur);
+    return refus == 0 && !S_ISDIR(etat.stx_mode);
+}
+
+} // namespace
+
+std::optional<DatesDeFichier> LireDatesFichier(const Utf8& chemin, Dialogues& dialogues) {
+    struct statx etat {};
+    if (!interroger(chemin, etat)) {
+        dialogues.demander(
+            {.texte = "Impossible ouvrir le fichier : " + chemin, .icone = Icone::Exclamation});
+        return std::nullopt;
+    }
+    const bool naissance = etat.stx_mask & STATX_BTIME;
+    return DatesDeFichier{locale(naissance ? etat.stx_btime.tv_sec : etat.stx_mtime.tv_sec),
+                          locale(etat.stx_mtime.tv_sec)};
+}
+
+} // namespace vermo

@@ -1,0 +1,11 @@
+#pragma once
+#include "platform/Ecran.h"
+#include "window/Element.h"
+
+namespace vermo {
+
+/// `voulu`, moved and if need be cut so that it lies within the work area: no window opens outside the
+/// screen.
+Rectangle dansEcran(Rectangle voulu, const ZoneTravail& zone);
+
+} // namespace vermo

@@ -1,0 +1,130 @@
+#include "formats/FichierCorpus.h"
+#include "textfile/faute.h"
+
+#include <gtest/gtest.h>
+
+namespace vermo::crp {
+namespace {
+
+const std::string CORPUS =
+    "Projet cr\xE9"
+    "e le 03/04/2009 \xE0 14:05:06\r\n<|THEM|\r\n000,&H0, Pas de th\xE9matique\r\n"
+    "001,255,Famille, enfance\r\n>|THEM|\r\n<|POS|\r\n4,Profession\r\n>|POS|\r\n<|DIC|\r\n"
+    "4,1,Enseignant, chercheur\r\n>|DIC|\r\n<|ENTR|\r\na.wav\r\n>|ENTR|\r\n";
+
+TEST(FichierCorpus, UnCorpusNeufALesDixLignes) {
+    EXPECT_EQ(nouveau("03/04/2009", "14:05:06"),
+              "Projet cr\xE9"
+              "e le 03/04/2009 \xE0 14:05:06\r\n<|THEM|\r\n000,&H0, Pas de th\xE9matique\r\n>|THEM|\r\n"
+              "<|POS|\r\n>|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\n>|ENTR|\r\n");
+}
+
+TEST(FichierCorpus, LitLesQuatreSections) {
+    EXPECT_EQ(lireThematiques(CORPUS, "c.Crp"),
+              (std::vector<Thematique>{{"000", "&H0", " Pas de th\xE9matique"},
+                                       {"001", "255", "Famille, enfance"}}));
+    EXPECT_EQ(lirePos(CORPUS, "c.Crp"), (std::vector<LigneVariable>{{"4", "Profession"}}));
+    EXPECT_EQ(lireDic(CORPUS, "c.Crp"), (std::vector<LigneModalite>{{4, 1, "Enseignant, chercheur"}}));
+    EXPECT_EQ(lireEntretiens(CORPUS), std::vector<Texte>{"a.wav"});
+}
+
+TEST(FichierCorpus, BalisesOuVidesOuAbsentes) {
+    const struct {
+        std::string octets;
+        std::optional<std::vector<Texte>> entretiens;
+    } cas[] = {
+        {"", std::nullopt},
+        {"<|THEM|\r\n>|THEM|\r\na.wav\r\n>|ENTR|\r\n", std::nullopt},
+        {"xx<|ENTR|yy\ra.wav\r\r\nb.wav\rz>|ENTR|z\rc.wav\r", std::vector<Texte>{"a.wav", "b.wav"}},
+        {"<|ENTR|\r\na.wav", std::vector<Texte>{"a.wav"}},
+        {"<|ENTR|", std::vector<Texte>{}},
+    };
+    for (const auto& [octets, entretiens] : cas)
+        EXPECT_EQ(lireEntretiens(octets), entretiens) << octets;
+}
+
+TEST(FichierCorpus, RefuseEnNommantLaLigne) {
+    const auto plein = [](const char* ligne, int fois) {
+        std::string texte;
+        while (fois-- > 0)
+            texte += ligne;
+        return texte;
+    };
+    const struct {
+        std::string section, contenu;
+        std::size_t ligne;
+    } cas[] = {
+        {"THEM", "000,0,a\r\n\r\n001 0 b\r\n", 4},
+        {"THEM", "000,0 a\r\n", 2},
+        {"THEM", "000,rouge,a\r\n", 2},
+        {"THEM", std::string("000,0,a\0b\r\n", 11), 2},
+        {"THEM", plein("000,0,a\r\n", 1000), 1001},
+        {"POS", "Sexe\r\n", 2},
+        {"POS", "1,Sexe\r\n100,Age\r\n", 3},
+        {"POS", "x,Age\r\n", 2},
+        {"DIC", "4,1\r\n", 2},
+        {"DIC", "4,0,Non\r\n", 2},
+        {"DIC", "4,99999999999,Non\r\n", 2},
+        {"ENTR", plein("a.wav\r\n", 1000), 1001},
+        {"ENTR", std::string("a\0.wav", 6), 2},
+    };
+    for (const auto& [section, contenu, ligne] : cas) {
+        const std::string octets = "<|" + section + "|\r\n" + contenu;
+        std::size_t fautive = 0;
+        try {
+            lireThematiques(octets, "c.Crp");
+            lirePos(octets, "c.Crp");
+            lireDic(octets, "c.Crp");
+            lireEntretiens(octets, "c.Crp");
+        } catch (const FauteExecution& faute) {
+            EXPECT_EQ(faute.fichier(), "c.Crp");
+            fautive = faute.ligne();
+        }
+        EXPECT_EQ(fautive, ligne) << contenu.substr(0, 40);
+    }
+}
+
+TEST(FichierCorpus, LaReecritureDesThematiquesGardeLesNomsEtTombeLesCodesVides) {
+    const std::vector<Thematique> rangs = {{"000", "&H0", " Pas de th\xE9matique"},
+                                           {"", "255", "perdue"},
+                                           {"002", "16711680", " \"La\", vie \"dite\"\" bonne\""},
+                                           {"003", "1", "\"Jo\", boulanger"}};
+    const auto ecrit = ecrireThematiques(CORPUS, rangs);
+    ASSERT_TRUE(ecrit);
+    EXPECT_EQ(*ecrit, CORPUS.substr(0, CORPUS.find("001,255")) +
+                          "002,16711680, \"La\", vie \"dite\"\" bonne\"\r\n003,1,\"Jo\", boulanger\r\n" +
+                          CORPUS.substr(CORPUS.find(">|THEM|")));
+    EXPECT_EQ(lireThematiques(*ecrit, ""), (std::vector<Thematique>{rangs[0], rangs[2], rangs[3]}));
+    EXPECT_EQ(ecrireThematiques(*ecrit, {rangs[0], rangs[2], rangs[3]}), *ecrit);
+}
+
+TEST(FichierCorpus, LaReecritureDesThematiquesCoupeLaTeteEtElleSeule) {
+    EXPECT_EQ(ecrireThematiques(
+                  "Projet, dit  test\r \"entre, guillemets\"\rx <|THEM|\rvieux\r>|THEM|\r a, \"b\"\r\rfin",
+                  {{"000", "0", "n"}}),
+              "Projet\r\ndit  test\r\nentre, guillemets\r\nx <|THEM|\r\n000,0,n\r\n>|THEM|\r\n a, "
+              "\"b\"\r\n\r\nfin\r\n");
+    EXPECT_EQ(ecrireThematiques("<|THEM|\r\nvieux\r\n", {}), "<|THEM|\r\n>|THEM|\r\n");
+    EXPECT_EQ(ecrireThematiques("sans balise\r\n", {}), std::nullopt);
+}
+
+TEST(FichierCorpus, LaReecritureDesEntretiensMetLaSuiteEntreGuillemets) {
+    const auto ecrit =
+        ecrireEntretiens("Projet, le 3\r<|THEM|\r>|THEM|\r<|ENTR|\rvieux.wav\r>|ENTR|\rune, note\r\r",
+                         {"a, b.wav", "", "\"c\".mp3"});
+    ASSERT_TRUE(ecrit);
+    EXPECT_EQ(ecrit->corpus,
+              "Projet, le 3\r\n<|THEM|\r\n>|THEM|\r\n<|ENTR|\r\na, b.wav\r\n\"c\".mp3\r\n>|ENTR|\r\n"
+              "\"une, note\"\r\n\"\"\r\n");
+    EXPECT_EQ(ecrit->temporaire, ecrit->corpus);
+    EXPECT_EQ(lireEntretiens(ecrit->corpus), (std::vector<Texte>{"a, b.wav", "\"c\".mp3"}));
+
+    const auto apresThematiques = ecrireThematiques(ecrit->corpus, {});
+    EXPECT_EQ(apresThematiques->substr(apresThematiques->find("<|ENTR|")),
+              ecrit->corpus.substr(ecrit->corpus.find("<|ENTR|")));
+    EXPECT_EQ(ecrireEntretiens("<|ENTR|\r\na.wav", {"b.wav"})->corpus, "<|ENTR|\r\nb.wav\r\n>|ENTR|\r\n");
+    EXPECT_FALSE(ecrireEntretiens("", {"a.wav"}));
+}
+
+} // namespace
+} // namespace vermo::crp

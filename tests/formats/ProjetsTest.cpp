@@ -1,0 +1,36 @@
+#include "formats/Projets.h"
+#include "formats/EnTeteWav.h"
+#include "textfile/faute.h"
+
+#include <gtest/gtest.h>
+
+namespace vermo {
+namespace {
+
+TEST(Projets, LitParElementsEtGardeLesAutres) {
+    const auto lus = projets::lire("/a/\xE9t\xE9.Crp\r\n\r\n\"/b, c.Crp\"\r\n/d,/e\r/a/\xE9t\xE9.Crp");
+    EXPECT_EQ(lus, (std::vector<Utf8>{"/a/été.Crp", "/b, c.Crp", "/d", "/e", "/a/été.Crp"}));
+    EXPECT_EQ(projets::ecrire("/a/été.Crp", lus), "/a/\xE9t\xE9.Crp\r\n/b, c.Crp\r\n/d\r\n/e\r\n");
+    EXPECT_EQ(projets::ecrire("/n", {"", "/o"}), "/n\r\n/o\r\n");
+    EXPECT_TRUE(projets::lire("").empty());
+    EXPECT_THROW(projets::ecrire("/中.Crp", {}), FauteExecution);
+}
+
+TEST(EnTeteWav, ChampsAPlacesFixesEtZeroAuDelaDeLaFin) {
+    const std::string octets("RIFF\x24\x01\x00\x00WAVEfmt \x10\x00\x00\x00\x01\x00\x02\x00\x44\xAC\x00\x00"
+                             "\x10\xB1\x02\x00\x04\x00\x10\x00"
+                             "data\xFE\xFF\xFF\xFFsuite",
+                             49);
+    const EnTeteWav entier{"RIFF", 292, "WAVE", "fmt ", 16, 1, 2, 44100, 176400, 4, 16, "data", -2};
+    EXPECT_EQ(lireEnTeteWav(octets), entier);
+    EnTeteWav coupe = entier;
+    coupe.Frequence = 0x44;
+    coupe.OctetsParSeconde = coupe.TailleDonnees = 0;
+    coupe.AlignementBloc = coupe.BitsParEchantillon = 0;
+    coupe.Data = "";
+    EXPECT_EQ(lireEnTeteWav(octets.substr(0, 25)), coupe);
+    EXPECT_EQ(lireEnTeteWav(""), EnTeteWav{});
+}
+
+} // namespace
+} // namespace vermo

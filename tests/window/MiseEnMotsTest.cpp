@@ -1,0 +1,107 @@
+#include "window/MiseEnMots.h"
+
+#include "support/MetriquesFixes.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace vermo {
+namespace {
+
+/// "line left,top caption" of each word, "(…)" around hidden ones, "\" for a carriage return.
+std::string decrire(const MotsDisposes& disposes) {
+    std::string texte;
+    for (const Mot& mot : disposes.mots) {
+        std::string legende = disposes.texte.substr(mot.debut, mot.longueur);
+        if (legende.back() == CR) legende.back() = '\\';
+        const std::string lieu = std::to_string(mot.ligne) + " " + std::to_string(std::lround(mot.gauche)) +
+                                 "," + std::to_string(std::lround(mot.haut)) + " ";
+        texte += (mot.visible ? lieu + legende : "(" + legende + ")") + "|";
+    }
+    return texte;
+}
+
+// 1740 wide: words may reach 1500.
+struct CasMots {
+    const char* nom;
+    const char* texte;
+    const char* attendu;
+};
+
+class DispositionDesMots : public testing::TestWithParam<CasMots> {};
+
+TEST_P(DispositionDesMots, UneColonne) {
+    const ReglagesMots reglages{.LargeurTexte = 1740, .PasListe = 195};
+    EXPECT_EQ(decrire(DisposerMots(GetParam().texte, reglages, essai::metriquesFixes)), GetParam().attendu);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    MiseEnMots, DispositionDesMots,
+    testing::Values(CasMots{"vide", "", ""}, CasMots{"unCaractere", "a", ""},
+                    CasMots{"gapShared", "aaa bbb ccc ddd eee\r",
+                            "1 0,0 aaa |1 550,0 bbb |1 1100,0 ccc |2 0,195 ddd |2 430,195 eee\\|( )|"},
+                    CasMots{"exactFitStays", "aaa bbb ccc dd \r",
+                            "1 0,0 aaa |1 430,0 bbb |1 860,0 ccc |1 1290,0 dd |1 1620,0 \\|"},
+                    CasMots{"returnsEndLines", "a\rbb cc\r", "1 0,0 a\\|2 0,195 bb |2 330,195 cc\\|( )|"},
+                    CasMots{"returnHasNoWidth", "aaaa bbbb ccccc\r",
+                            "1 0,0 aaaa |1 530,0 bbbb |1 1060,0 ccccc\\|( )|"},
+                    CasMots{"emptyLineKept", "a\r\rb\r", "1 0,0 a\\|2 0,195 \\|3 0,390 b\\|( )|"},
+                    CasMots{"doubleBlankIsAWord", "a  b\r", "1 0,0 a |1 230,0  |1 360,0 b\\|( )|"},
+                    CasMots{"tooWideLeavesALineEmpty", "aaaaaaaaaaaaaaaaaaaa b\r",
+                            "2 0,195 aaaaaaaaaaaaaaaaaaaa |3 0,390 b\\|( )|"},
+                    CasMots{"loneWordIsNotSpread", "aaaaaaaaaa bbbbbbbbbb\r",
+                            "1 0,0 aaaaaaaaaa |2 0,195 bbbbbbbbbb\\|( )|"},
+                    CasMots{"noLineEndShowsNothing", "aaa bbb", "(aaa )|(bbb )|"},
+                    CasMots{"blankBeforeLastAddsNone", "aaa\rb c", "1 0,0 aaa\\|(b )|"}),
+    [](const auto& cas) { return cas.param.nom; });
+
+TEST(MiseEnMots, ColonnesAPartirDeDixLignes) {
+    struct Cas {
+        int lignes, colonnes, parColonne;
+    };
+    for (const Cas& cas :
+         {Cas{9, 2, 9}, {10, 2, 5}, {11, 2, 6}, {10, 3, 4}, {10, 1, 10}, {10, 0, 5}, {12, 20, 1}}) {
+        Texte texte;
+        for (int n = 0; n < cas.lignes; ++n)
+            texte += "a\r";
+        const ReglagesMots reglages{.LargeurTexte = 40000, .ColonnesTexte = cas.colonnes, .PasListe = 195};
+        const MotsDisposes disposes = DisposerMots(texte, reglages, essai::metriquesFixes);
+        EXPECT_EQ(disposes.LigneTexte, cas.lignes);
+        EXPECT_EQ(disposes.lignesParColonne, cas.parColonne) << cas.lignes << " lines, " << cas.colonnes;
+    }
+}
+
+TEST(MiseEnMots, LaSecondeColonneCommenceASaLargeur) {
+    Texte texte;
+    for (char c = 'a'; c < 'a' + 11; ++c)
+        texte += Texte{c} + " x\r";
+    const ReglagesMots reglages{
+        .depart = 5000, .haut = 300, .LargeurTexte = 6000, .ColonnesTexte = 2, .PasListe = 195};
+    const MotsDisposes disposes = DisposerMots(texte, reglages, essai::metriquesFixes);
+    const Mot &premier = disposes.mots[0], &finColonne = disposes.mots[11], &second = disposes.mots[12];
+    EXPECT_EQ((std::vector{premier.gauche, premier.haut}), (std::vector<Twips>{5000, 300}));
+    EXPECT_EQ((std::vector{finColonne.gauche, finColonne.haut}), (std::vector<Twips>{5230, 300 + 5 * 195}));
+    EXPECT_EQ((std::vector{second.gauche, second.haut}), (std::vector<Twips>{8000, 300}));
+    EXPECT_EQ(disposes.mots[13].gauche, 8230);
+}
+
+/// Bold takes half as much again.
+class MetriquesGrasses : public essai::MetriquesFixes {
+  public:
+    Twips largeur(std::string_view texte, int, bool gras) const override {
+        return (gras ? 150.0 : 100.0) * static_cast<double>(texte.size());
+    }
+};
+
+TEST(MiseEnMots, UnMotMarqueEstMesureEnGras) {
+    const ReglagesMots reglages{.LargeurTexte = 1740, .PasListe = 195, .marque = [](std::string_view mot) {
+                                    return mot.find("bb") != std::string_view::npos;
+                                }};
+    const MotsDisposes disposes = DisposerMots("aaa bbb ccc\r", reglages, MetriquesGrasses());
+    EXPECT_EQ(decrire(disposes), "1 0,0 aaa |1 430,0 bbb |1 1060,0 ccc\\|( )|");
+    EXPECT_TRUE(disposes.mots[1].marque);
+    EXPECT_FALSE(disposes.mots[2].marque);
+}
+
+} // namespace
+} // namespace vermo
