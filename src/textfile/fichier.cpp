@@ -250,6 +250,13 @@ std::string lireFichier(const Utf8& chemin) {
     return octets;
 }
 
+std::string lireDebut(const Utf8& chemin, std::size_t taille) {
+    Source source(chemin);
+    std::string octets(taille, '\0');
+    octets.resize(source.lire(octets.data(), octets.size()));
+    return octets;
+}
+
 void remplacerFichier(const Utf8& chemin, std::string_view octets) {
     Remplacement remplacement(chemin);
     remplacement.ecrire(octets);

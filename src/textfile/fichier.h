@@ -42,6 +42,9 @@ bool fichierExiste(const Utf8& chemin) noexcept;
 /// its end.
 std::string lireFichier(const Utf8& chemin);
 
+/// The first bytes of a file, at most `taille`; faults as for lireFichier.
+std::string lireDebut(const Utf8& chemin, std::size_t taille);
+
 /// Puts `octets` in the place of `chemin`, so that they stay after a power cut: written whole to a temporary
 /// file beside it, synced, renamed, the directory synced. On any failure throws FauteExecution with the
 /// system's cause, leaves the old file as it was and removes the temporary one. Only when the last step

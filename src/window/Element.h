@@ -29,15 +29,17 @@ struct Rectangle {
 };
 
 /// The controls that are painted rather than widgets. Prints as its name through `nomControle`.
-#define VERMO_CONTROLES(X)                                                                                   \
-    X(Aucun)                                                                                                 \
-    X(lblpiste) X(lblfich) X(ImgEnt) X(ShpFich) X(ImgOnOff) X(ImgPlay) X(LigneTps) X(PictTps) X(ShpThm)      \
-        X(Lblthm) X(LblCoul) X(ShpCoul) X(ImgCoul) X(ImgSurlig) X(LblScroll) X(LigneScroll) X(LblXtr)        \
-            X(ShpXtr) X(ShpXtrInt) X(LblXtrZ) X(LbltitreXtrZ) X(LbltxtXtrZ) X(ShpXtrZ) X(ShpXtrIntZ)         \
-                X(ImgBulleBlanche) X(ImgBulleBas) X(ImgBulleInt) X(LblMot) X(Shp_visu) X(Curseur)            \
-                    X(TotalSelect) X(shp_curseur_zoom) X(ZoomSelect) X(Pict_tps) X(Pict_tpsZ) X(Picture1)    \
-                        X(Pict_zoom) X(Pict_saisie) X(SaisieSelect) X(ShpDict) X(ShpCoulT) X(LblCoulThm)     \
-                            X(ShpFondSaisie) X(ShpFdThm) X(LblXtrBulle) X(lblcorpus) X(ImgPuce) X(lblmenu) X(Shape2)
+/// The formatter never settles on a list of macros.
+// clang-format off
+#define VERMO_CONTROLES(X) \
+    X(Aucun) X(lblpiste) X(lblfich) X(ImgEnt) X(ShpFich) X(ImgOnOff) X(ImgPlay) X(LigneTps) X(PictTps) \
+    X(ShpThm) X(Lblthm) X(LblCoul) X(ShpCoul) X(ImgCoul) X(ImgSurlig) X(LblScroll) X(LigneScroll) \
+    X(LblXtr) X(ShpXtr) X(ShpXtrInt) X(LblXtrZ) X(LbltitreXtrZ) X(LbltxtXtrZ) X(ShpXtrZ) X(ShpXtrIntZ) \
+    X(ImgBulleBlanche) X(ImgBulleBas) X(ImgBulleInt) X(LblMot) X(Shp_visu) X(Curseur) X(TotalSelect) \
+    X(shp_curseur_zoom) X(ZoomSelect) X(Pict_tps) X(Pict_tpsZ) X(Picture1) X(Pict_zoom) X(Pict_saisie) \
+    X(SaisieSelect) X(ShpDict) X(ShpCoulT) X(LblCoulThm) X(ShpFondSaisie) X(ShpFdThm) X(LblXtrBulle) \
+    X(lblcorpus) X(ImgPuce) X(lblmenu) X(Shape2)
+// clang-format on
 enum class Controle : std::uint16_t {
 #define X(nom) nom,
     VERMO_CONTROLES(X)
@@ -45,8 +47,9 @@ enum class Controle : std::uint16_t {
 };
 std::string_view nomControle(Controle controle);
 
-/// How a fill meets what lies under it: over it, or blended so that what lies under stays seen.
-enum class Encre : std::uint8_t { Copie, Fusion };
+/// How a fill meets what lies under it: over it, blended so that what lies under stays seen, or as a thin
+/// veil.
+enum class Encre : std::uint8_t { Copie, Fusion, Voile };
 enum class Alignement : std::uint8_t { Gauche, Centre, Droite };
 
 /// One item of a picture: what it is, where, and how it looks. Lists stand in drawing order, the last on top.

@@ -9,13 +9,16 @@
 namespace vermo {
 
 /// The word layout that bubbles, synthesis and reader share: a text laid out word by word in justified
-/// columns.
+/// columns. Words end at a blank or at a carriage return, and keep it (a return has no width). A line is
+/// filled up to 240 twips before the column's right edge, counted from `depart`, and justified; one that a
+/// return ends has 30 between its words. A word wider than a line stands alone, behind an empty line if it
+/// came first. Texts of fewer than ten lines stand in one column.
 struct ReglagesMots {
     Twips depart = 0; ///< Left of a line's first word, and of `PosMot` at the start
     Twips haut = 0;   ///< Top of the first line
     Twips LargeurTexte = 0;
-    int ColonnesTexte = 1;
-    Twips PasListe = 0; ///< line pitch
+    int ColonnesTexte = 1; ///< 0: never chosen, taken as 2
+    Twips PasListe = 0;    ///< line pitch
     int corps = 8;
     /// True for a word (its caption, blank included) that is to be marked. Empty: none is.
     std::function<bool(std::string_view)> marque = {};

@@ -1,0 +1,121 @@
+#include "corpus/AnalyserEntretiens.h"
+
+#include "corpus/OuvertureCorpus.h"
+#include "textfile/chemins.h"
+#include "window/DatesFichier.h"
+
+#include <algorithm>
+#include <string_view>
+#include <unordered_map>
+
+namespace vermo {
+namespace {
+
+std::size_t indice(int slot) {
+    return static_cast<std::size_t>(slot);
+}
+
+/// Paths of one interview's files, looked up in one listing of the directory.
+struct Fichiers {
+    Utf8 enregistrement;
+    std::optional<Utf8> rtr;
+};
+
+Fichiers fichiersDe(const Entretien& entretien, const Utf8& repertoire, const IndexRepertoire& index) {
+    const Utf8 nom = versUtf8(entretien.Fichier);
+    return {index.trouver(nom).value_or(repertoire + nom), index.trouver(compagnon(nom, "Rtr"))};
+}
+
+/// Gives the tables of before a reopening back to the interviews that have the same transcript, and forgets
+/// the others: their memory is free before the first file is read.
+void reprendreAnciens(EtatCorpus& corpus, const std::vector<Fichiers>& fichiers, int premier) {
+    std::unordered_map<std::string_view, ExtraitsEntretien*> anciens;
+    for (ExtraitsEntretien& ancien : corpus.anciensExtraits)
+        anciens.emplace(ancien.chemin, &ancien);
+    for (std::size_t i = 0; i < fichiers.size() && !anciens.empty(); ++i) {
+        const auto ancien = fichiers[i].rtr ? anciens.find(*fichiers[i].rtr) : anciens.end();
+        if (ancien == anciens.end()) continue;
+        ExtraitsEntretien* table = ancien->second;
+        anciens.erase(ancien);
+        corpus.extraits[indice(premier) + i] = std::move(*table);
+    }
+    corpus.anciensExtraits = {};
+}
+
+/// Reads a transcript into `table`, whose memory is given back first. A fault is said unless `taire`.
+void lireTable(ExtraitsEntretien& table, const Utf8& chemin, const Reglages& reglages, Dialogues& dialogues,
+               bool taire) {
+    const IdentiteFichier identite = identiteFichier(chemin);
+    table = {};
+    std::optional<FauteExecution> faute;
+    try {
+        LectureRtr lecture = analyser(lireFichier(chemin), reglages, chemin);
+        table = std::move(lecture.extraits);
+        faute = std::move(lecture.faute);
+    } catch (const FauteExecution& illisible) {
+        faute = illisible;
+    }
+    table.chemin = chemin;
+    table.identite = identite;
+    if (faute && !taire) direFaute(dialogues, *faute);
+}
+
+void compterExtraits(Entretien& entretien, const ExtraitsEntretien& table) {
+    entretien.NbExtraits = static_cast<float>(table.lignes.size());
+    entretien.PrcRtr = entretien.Duree == 0 ? 0 : table.somme / entretien.Duree;
+}
+
+void direManquant(Dialogues& dialogues, const Entretien& entretien) {
+    dialogues.demander({"Il y a un problème dans l'entretien suivant : \n" + versUtf8(entretien.Fichier) +
+                            "\nSon fichier Rtr est introuvable",
+                        "Vermo", Boutons::Ok, Icone::Exclamation});
+}
+
+void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const Fichiers& fichiers) {
+    Entretien& entretien = session.corpus.Entretiens[indice(slot)];
+    if (const auto dates = LireDatesFichier(fichiers.enregistrement, plateforme.dialogues)) {
+        entretien.DateAjout = dates->creation;
+        entretien.DateModif = dates->modification;
+    }
+    entretien.NbExtraits = 0;
+    if (!fichiers.rtr) return direManquant(plateforme.dialogues, entretien);
+    ExtraitsEntretien& table = session.corpus.extraits[indice(slot)];
+    if (table.chemin != *fichiers.rtr || table.identite != identiteFichier(*fichiers.rtr))
+        lireTable(table, *fichiers.rtr, session.reglages, plateforme.dialogues, false);
+    entretien.Duree = table.duree;
+    entretien.Observations = table.observations;
+    compterExtraits(entretien, table);
+}
+
+} // namespace
+
+void AnalyserEntretiens(Session& session, Plateforme& plateforme, int premier, int dernier) {
+    EtatCorpus& corpus = session.corpus;
+    premier = std::max(premier, 1);
+    dernier = std::min<int>(dernier, corpus.NbEntretiens);
+    corpus.extraits.resize(corpus.Entretiens.size());
+    const IndexRepertoire index(corpus.RepCorpus);
+    std::vector<Fichiers> fichiers;
+    for (int slot = premier; slot <= dernier; ++slot)
+        fichiers.push_back(fichiersDe(corpus.Entretiens[indice(slot)], corpus.RepCorpus, index));
+    reprendreAnciens(corpus, fichiers, premier);
+    for (int slot = premier; slot <= dernier; ++slot) {
+        analyserEntretien(session, plateforme, slot, fichiers[indice(slot - premier)]);
+        plateforme.progression.avance(slot);
+    }
+}
+
+void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
+    EtatCorpus& corpus = session.corpus;
+    if (slot < 1 || slot > corpus.NbEntretiens) return;
+    corpus.extraits.resize(corpus.Entretiens.size());
+    ExtraitsEntretien& table = corpus.extraits[indice(slot)];
+    const IdentiteFichier dite = table.identite;
+    table = {};
+    const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
+    if (fichierExiste(chemin))
+        lireTable(table, chemin, session.reglages, plateforme.dialogues, dite == identiteFichier(chemin));
+    compterExtraits(corpus.Entretiens[indice(slot)], table);
+}
+
+} // namespace vermo

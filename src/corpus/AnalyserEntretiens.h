@@ -1,0 +1,45 @@
+#pragma once
+#include "corpus/Session.h"
+#include "platform/Plateforme.h"
+#include "textfile/faute.h"
+
+#include <optional>
+
+/// The interview scan: dates of each recording, and from each transcript duration, observations and the rows
+/// of the corpus-wide tables.
+///
+/// A transcript is read once into one buffer, which is compacted in place and stays as the interview's own;
+/// the rows are offsets in it. A file whose identity (size, modification time, inode) is that of the last
+/// scan is not read again.
+namespace vermo {
+
+/// What a transcript holds for the corpus-wide tables. After a fault `extraits` holds the rows before it.
+struct LectureRtr {
+    ExtraitsEntretien extraits; ///< all but `identite` and `chemin`
+    std::optional<FauteExecution> faute;
+};
+
+/// Reads the bytes of a transcript; `fichier` names it in a fault.
+///
+/// Texts keep each line, empty ones too, followed by a CR; lines that stand behind a closing line still
+/// belong to the extract that it closed. The code has at most three characters.
+///
+/// Faults, each with its line: a duration or a time that is no number, a duration of 0, a mark line without
+/// its second "::", extract 1,000, an extract that the end of the file leaves open (its row is kept, without
+/// an end), a NUL byte, a file of 4 GiB or more.
+LectureRtr analyser(std::string octets, const Reglages& reglages, const Utf8& fichier);
+
+/// Scans slots `premier` to `dernier`: DateAjout, DateModif, Duree, NbExtraits, Observations, PrcRtr and the
+/// rows.
+///
+/// Says by one message each: a recording that can't be opened (its old dates stay), a transcript that is
+/// missing (nothing else of the slot changes), and a fault in a transcript, which is said once for each state
+/// of the file. The scan then goes on with the next slot. Tells `progression` each slot; the caller begins
+/// and ends it.
+void AnalyserEntretiens(Session& session, Plateforme& plateforme, int premier, int dernier);
+
+/// Reads the extracts of one interview again: clears its rows first, then NbExtraits, PrcRtr and the rows as
+/// the file has them. Without a file the rows stay empty, without a message.
+void RelireEntretien(Session& session, Plateforme& plateforme, int slot);
+
+} // namespace vermo

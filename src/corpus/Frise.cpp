@@ -1,0 +1,235 @@
+#include "corpus/Frise.h"
+
+#include "corpus/AnalyserEntretiens.h"
+#include "textfile/chemins.h"
+#include "textfile/nombres.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vermo {
+namespace {
+
+constexpr Couleur BARRE_VIDE = rvb(64, 64, 64), BORD_BARRE = rvb(84, 84, 90), NUMERO = rvb(164, 166, 172);
+constexpr Couleur HEURE = 0x636363, TRAIT = rvb(96, 96, 102), DEMI_TRAIT = 0x242424;
+constexpr Twips BAS_LIGNES_TPS = 33500;
+constexpr Twips MARGE_LIGNE = 60, POUCE_MIN = 300;
+constexpr int SUFFIXE_NOM = 4; ///< of a recording's name: its extension and the point
+
+const Entretien& entretienDe(const EtatCorpus& corpus, int slot) {
+    return corpus.Entretiens[static_cast<std::size_t>(slot)];
+}
+
+Twips hauteurLigne(const EtatCorpus& corpus) {
+    return corpus.HauteurEntretien > 0 ? corpus.HauteurEntretien : HAUTEUR_MIN;
+}
+
+Twips base(const EtatCorpus& corpus, int slot) {
+    return TAILLES_FRISE.premiereLigne + (slot - 1) * hauteurLigne(corpus);
+}
+
+/// Number of the row at a height, whether there is such a row or not.
+int ligneA(const EtatCorpus& corpus, Twips y) {
+    const double ligne = std::floor((y - TAILLES_FRISE.premiereLigne) / hauteurLigne(corpus)) + 1;
+    return static_cast<int>(std::clamp(ligne, 0.0, 1.0 + ENTRETIENS_MAX));
+}
+
+Element& ajouter(Elements& sortie, Controle controle, int slot, Rectangle cadre) {
+    Element& element = sortie.emplace_back();
+    element.controle = controle;
+    element.index = slot;
+    element.cadre = cadre;
+    return element;
+}
+
+void disposerNumeroEtNom(const EtatCorpus& corpus, int slot, Elements& sortie) {
+    const Texte& fichier = entretienDe(corpus, slot).Fichier;
+    const Twips y = base(corpus, slot), h = hauteurLigne(corpus);
+    const Rectangle numero = TAILLES_FRISE.lblpiste, nom = TAILLES_FRISE.lblfich;
+    Element& lblpiste =
+        ajouter(sortie, Controle::lblpiste, slot, {numero.gauche, y + 125, numero.largeur, h - 125});
+    lblpiste.texte = std::to_string(slot) + CR;
+    lblpiste.encreTexte = NUMERO;
+    lblpiste.alignement = Alignement::Droite;
+    lblpiste.sensible = true;
+    Element& lblfich = ajouter(sortie, Controle::lblfich, slot, {nom.gauche, y, nom.largeur, h - 120});
+    lblfich.texte = fichier.substr(0, fichier.size() - std::min<std::size_t>(fichier.size(), SUFFIXE_NOM));
+    lblfich.bulle = fichier;
+    lblfich.sensible = true;
+}
+
+void disposerBarre(const EtatCorpus& corpus, int slot, Rectangle cadre, const Utf8& vue, Elements& sortie) {
+    Element& ImgEnt = ajouter(sortie, Controle::ImgEnt, slot, cadre);
+    ImgEnt.image = vue;
+    if (!vue.empty()) ImgEnt.tag = entretienDe(corpus, slot).Fichier;
+    ImgEnt.rempli = vue.empty();
+    ImgEnt.fond = BARRE_VIDE;
+    ImgEnt.sensible = true;
+    Element& ShpFich = ajouter(sortie, Controle::ShpFich, slot, cadre);
+    ShpFich.borde = true;
+    ShpFich.bord = BORD_BARRE;
+}
+
+void disposerInterrupteur(const EtatCorpus& corpus, int slot, Elements& sortie) {
+    static const Texte bulle = depuisUtf8("Activer/désactiver l'entretien");
+    Rectangle cadre = TAILLES_FRISE.ImgOnOff;
+    cadre.haut = base(corpus, slot);
+    Element& ImgOnOff = ajouter(sortie, Controle::ImgOnOff, slot, cadre);
+    ImgOnOff.image = entretienDe(corpus, slot).Visible ? ":/icones/ImgOn.svg" : ":/icones/ImgOff.svg";
+    ImgOnOff.bulle = bulle;
+    ImgOnOff.sensible = true;
+}
+
+long pasRegle(float durmax) {
+    constexpr long marques = 5000;
+    long pas = durmax >= 360 ? 300 : 60;
+    while (static_cast<double>(durmax) / static_cast<double>(pas) > marques)
+        pas *= 2;
+    return pas;
+}
+
+/// Seconds at which the ruler has a line: every half step, and the end when it falls on a whole second.
+std::vector<double> marquesRegle(float durmax, long pas) {
+    std::vector<double> marques;
+    const double demi = static_cast<double>(pas) / 2;
+    for (double t = demi; t <= durmax; t += demi)
+        marques.push_back(t);
+    const bool entiere = std::floor(durmax) == durmax;
+    if (entiere && (marques.empty() || marques.back() != durmax)) marques.push_back(durmax);
+    return marques;
+}
+
+} // namespace
+
+float preparerFrise(Session& session, Plateforme& plateforme) {
+    EtatCorpus& corpus = session.corpus;
+    const int nombre = nombreLignes(corpus);
+    if (nombre == 0) return 0;
+    plateforme.progression.debut(1, nombre);
+    AnalyserEntretiens(session, plateforme, 1, nombre);
+    plateforme.progression.fin();
+    const float durmax = dureeMax(corpus);
+    if (durmax == 0) {
+        plateforme.dialogues.demander({"Durmax à Zéro"});
+        corpus.TailleReelle = false;
+    }
+    return durmax;
+}
+
+float dureeMax(const EtatCorpus& corpus) {
+    float durmax = 0;
+    for (int slot = 1; slot <= nombreLignes(corpus); ++slot)
+        durmax = std::max(durmax, entretienDe(corpus, slot).Duree);
+    return durmax;
+}
+
+int nombreLignes(const EtatCorpus& corpus) {
+    return corpus.ouvertureInachevee ? 0 : corpus.NbEntretiens;
+}
+
+std::vector<Utf8> cheminsVues(const Session& session) {
+    const EtatCorpus& corpus = session.corpus;
+    const IndexRepertoire index(corpus.RepCorpus);
+    std::vector<Utf8> vues(1);
+    for (int slot = 1; slot <= nombreLignes(corpus); ++slot)
+        vues.push_back(
+            index.trouver(versUtf8(compagnon(entretienDe(corpus, slot).Fichier, "Bmp"))).value_or(Utf8()));
+    return vues;
+}
+
+Twips largeurBarre(const VueFrise& vue) {
+    return std::max(vue.largeur - TAILLES_FRISE.gaucheImgEnt - TAILLES_FRISE.margeImgEnt, 0.0);
+}
+
+Rectangle cadreImgEnt(const Session& session, int slot, const VueFrise& vue, float durmax) {
+    const EtatCorpus& corpus = session.corpus;
+    Twips largeur = largeurBarre(vue);
+    if (corpus.TailleReelle && durmax > 0)
+        largeur *= static_cast<double>(entretienDe(corpus, slot).Duree) / static_cast<double>(durmax);
+    return {TAILLES_FRISE.gaucheImgEnt, base(corpus, slot), largeur, hauteurLigne(corpus) - 120};
+}
+
+LignesEnVue lignesEnVue(const Session& session, const VueFrise& vue) {
+    const EtatCorpus& corpus = session.corpus;
+    return {std::max(ligneA(corpus, vue.defilement), 1),
+            std::min(ligneA(corpus, vue.defilement + vue.hauteur), nombreLignes(corpus))};
+}
+
+int slotSous(const Session& session, Twips y) {
+    const int ligne = ligneA(session.corpus, y);
+    return ligne <= nombreLignes(session.corpus) ? ligne : 0;
+}
+
+void DisposerFrise(const Session& session, const VueFrise& vue, const std::vector<Utf8>& vues,
+                   Elements& sortie) {
+    const EtatCorpus& corpus = session.corpus;
+    const float durmax = dureeMax(corpus);
+    const LignesEnVue lignes = lignesEnVue(session, vue);
+    for (int slot = lignes.premiere; slot <= lignes.derniere; ++slot) {
+        const auto i = static_cast<std::size_t>(slot);
+        disposerNumeroEtNom(corpus, slot, sortie);
+        disposerBarre(corpus, slot, cadreImgEnt(session, slot, vue, durmax), i < vues.size() ? vues[i] : "",
+                      sortie);
+        disposerInterrupteur(corpus, slot, sortie);
+    }
+}
+
+Dessin DisposerRegle(const Session& session, Twips largeurBarre) {
+    Dessin dessin;
+    const float durmax = dureeMax(session.corpus);
+    if (!session.corpus.TailleReelle || !(durmax > 0)) return dessin;
+    const long pas = pasRegle(durmax);
+    for (const double t : marquesRegle(durmax, pas)) {
+        const Twips x = largeurBarre * t / static_cast<double>(durmax);
+        const double dansLePas = std::fmod(t, static_cast<double>(pas));
+        if (dansLePas == 0) dessin.inscriptions.push_back({x, 0, HeureTexte(t), HEURE});
+        const Twips trait = TAILLES_FRISE.gaucheImgEnt + x;
+        dessin.traits.push_back({trait, 0, trait, BAS_LIGNES_TPS,
+                                 2 * dansLePas == static_cast<double>(pas) ? DEMI_TRAIT : TRAIT});
+    }
+    return dessin;
+}
+
+Defilement AjusterDefilement(const Session& session, Twips hauteurCadre) {
+    const EtatCorpus& corpus = session.corpus;
+    Defilement defilement;
+    defilement.hauteurSurface = hauteurCadre;
+    const int derniere = nombreLignes(corpus);
+    if (derniere == 0) return defilement;
+    const auto bas = static_cast<Twips>(arrondi(base(corpus, derniere) + hauteurLigne(corpus) - 120));
+    if (bas <= hauteurCadre) return defilement;
+    defilement.visible = true;
+    defilement.hauteurSurface = bas;
+    defilement.excedent = bas - hauteurCadre;
+    defilement.hautLigne = MARGE_LIGNE;
+    defilement.basLigne = std::max(hauteurCadre - MARGE_LIGNE, MARGE_LIGNE);
+    const Twips course = defilement.basLigne - defilement.hautLigne;
+    defilement.hauteurPouce = std::min(std::max(course * hauteurCadre / bas, POUCE_MIN), course);
+    return defilement;
+}
+
+Twips bornerDefilement(const Defilement& defilement, Twips voulu) {
+    return std::clamp(voulu, 0.0, defilement.excedent);
+}
+
+Twips hautPouce(const Defilement& defilement, Twips defile) {
+    if (!defilement.visible) return defilement.hautLigne;
+    const Twips course = defilement.basLigne - defilement.hautLigne - defilement.hauteurPouce;
+    return defilement.hautLigne + course * bornerDefilement(defilement, defile) / defilement.excedent;
+}
+
+Twips defilementDe(const Defilement& defilement, Twips hautPouce) {
+    const Twips course = defilement.basLigne - defilement.hautLigne - defilement.hauteurPouce;
+    if (!defilement.visible || course <= 0) return 0;
+    return bornerDefilement(defilement, defilement.excedent * (hautPouce - defilement.hautLigne) / course);
+}
+
+float zoomAvant(float hauteur) {
+    return hauteur < HAUTEUR_ZOOM_MAX ? hauteur * 3 / 2 : hauteur;
+}
+
+float zoomArriere(float hauteur) {
+    return hauteur > HAUTEUR_ZOOM_MIN ? hauteur / 3 * 2 : hauteur;
+}
+
+} // namespace vermo

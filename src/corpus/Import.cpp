@@ -1,0 +1,185 @@
+#include "corpus/Import.h"
+
+#include "formats/FichierRtr.h"
+#include "textfile/chemins.h"
+#include "textfile/faute.h"
+#include "textfile/fichier.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace vermo {
+namespace {
+
+constexpr const char* CONVERTISSEUR = "Convertisseur.exe";
+
+bool memeRepertoire(const Utf8& un, const Utf8& autre) {
+    if (un == autre) return true;
+    std::error_code absent;
+    return std::filesystem::equivalent(un, autre, absent);
+}
+
+/// False when the copy that is there is to be used.
+bool aCopier(Plateforme& plateforme, const Utf8& cible, const Utf8& nom) {
+    if (!fichierExiste(cible)) return true;
+    return plateforme.dialogues.demander(
+               {"Le fichier que vous souhaitez importer (" + nom + " ) existe déjà.\nVoulez-vous l'écraser?",
+                {},
+                Boutons::OuiNon,
+                Icone::Question}) == Reponse::Oui;
+}
+
+/// False when the person gave up.
+bool copierAvecProgression(Plateforme& plateforme, const Utf8& source, const Utf8& cible) {
+    plateforme.progression.debut(0, 100);
+    const bool copie = copierFichier(source, cible, [&](std::int64_t fait, std::int64_t total) {
+        plateforme.progression.avance(total > 0 ? static_cast<long>(fait * 100 / total) : 100);
+        return plateforme.progression.patienter();
+    });
+    plateforme.progression.fin();
+    return copie;
+}
+
+void libererMedia(LecteurMedia& media, const Utf8& chemin) {
+    media.stop();
+    if (media.URL() == chemin) media.URL(Utf8());
+}
+
+bool copierDansCorpus(const Session& session, Plateforme& plateforme, const Utf8& source, const Utf8& cible) {
+    try {
+        libererMedia(plateforme.media, cible);
+        if (!copierAvecProgression(plateforme, source, cible)) return false;
+    } catch (const FauteExecution&) {
+        plateforme.progression.fin();
+        plateforme.dialogues.demander(
+            {"La copie du fichier est impossible.\nLe fichier est peut-être en cours d'écoute.",
+             {},
+             Boutons::Ok,
+             Icone::Critique});
+        return false;
+    }
+    plateforme.dialogues.demander({"Le fichier a été copié dans le répertoire.\n" + session.corpus.RepCorpus +
+                                       "\nIl va maintenant être ajouté au projet.",
+                                   "Vermo", Boutons::Ok, Icone::Information});
+    return true;
+}
+
+Utf8 nomCanaux(int canaux) {
+    return canaux == 1 ? "Mono" : canaux == 2 ? "Stereo" : "";
+}
+
+} // namespace
+
+bool proposerOuverture(Plateforme& plateforme) {
+    return plateforme.dialogues.demander({"Il n'y a pas de projet ouvert.\nVoulez-vous en ouvrir un?",
+                                          {},
+                                          Boutons::OuiNon,
+                                          Icone::Question}) == Reponse::Oui;
+}
+
+Utf8 choisirEnregistrement(const Session& session, Plateforme& plateforme) {
+    return plateforme.dialogues.choisirFichier(
+        {"Choisissez un fichier Son", "Fichiers WAV|*.Wav", "Wav", false, session.corpus.RepCorpus});
+}
+
+ChoixFormat demanderFormat(const EnTeteWav& enTete, Plateforme& plateforme) {
+    if (enTete.BitsParEchantillon != 16 && enTete.NbCanaux != 2) return ChoixFormat::Garder;
+    const Reponse reponse = plateforme.dialogues.demander(
+        {"Le fichier que vous souhaitez importer est au format : \n" + nomCanaux(enTete.NbCanaux) + " - " +
+             std::to_string(enTete.BitsParEchantillon) +
+             " bits \n\nPour travailler dans Vermo, le Format 8 bits mono est préférable...\n"
+             "Souhaitez-vous utiliser le convertisseur?",
+         "Vermo - Conversion de fichier?", Boutons::OuiNonAnnuler, Icone::Question});
+    return reponse == Reponse::Oui   ? ChoixFormat::Convertir
+           : reponse == Reponse::Non ? ChoixFormat::Garder
+                                     : ChoixFormat::Annuler;
+}
+
+void lancerConvertisseur(Plateforme& plateforme) {
+    const Utf8 programme = plateforme.emplacements.fichierLu(CONVERTISSEUR);
+    if (programme.empty()) {
+        plateforme.dialogues.demander({"Impossible de lancer le convertisseur!\nLe fichier " +
+                                           plateforme.emplacements.programme + CONVERTISSEUR +
+                                           " est introuvable",
+                                       "Vermo", Boutons::Ok, Icone::Exclamation});
+        return;
+    }
+    if (!plateforme.lanceur.lancer(programme))
+        throw FauteExecution("Impossible de lancer le convertisseur!", programme);
+}
+
+Texte nomImporte(const Utf8& chemin) {
+    const Utf8 nom = nomDe(chemin);
+    if (nom.find_first_of("\r\n") != Utf8::npos)
+        throw FauteExecution("Le nom du fichier tient sur plusieurs lignes.", chemin);
+    try {
+        return depuisUtf8(nom);
+    } catch (const FauteExecution& faute) {
+        throw FauteExecution("Le nom du fichier ne convient pas : " + faute.quoi(), chemin);
+    }
+}
+
+bool apporterDansCorpus(const Session& session, Plateforme& plateforme, const Utf8& chemin) {
+    const Utf8& RepCorpus = session.corpus.RepCorpus;
+    if (memeRepertoire(repertoireDe(chemin), RepCorpus)) return true;
+    if (plateforme.dialogues.demander(
+            {"Le fichier sélectionné est hors du répertoire du projet.\nVoulez-vous l'importer?",
+             "Import du fichier", Boutons::OkAnnuler, Icone::Question}) != Reponse::Ok)
+        return false;
+    plateforme.ecran.pointeur(Pointeur::FlecheSablier);
+    const Utf8 cible = cheminReel(RepCorpus + nomDe(chemin));
+    if (!aCopier(plateforme, cible, nomDe(chemin))) return true;
+    plateforme.ecran.pointeur(Pointeur::Sablier);
+    const bool copie = copierDansCorpus(session, plateforme, chemin, cible);
+    plateforme.ecran.pointeur(Pointeur::Normal);
+    return copie;
+}
+
+bool dejaDansCorpus(const Session& session, Plateforme& plateforme, const Texte& nom) {
+    const auto& Entretiens = session.corpus.Entretiens;
+    if (std::none_of(Entretiens.begin(), Entretiens.end(),
+                     [&](const Entretien& e) { return e.Fichier == nom; }))
+        return false;
+    plateforme.dialogues.demander({"Le fichier " + versUtf8(nom) + " est déjà présent dans le projet.",
+                                   {},
+                                   Boutons::Ok,
+                                   Icone::Exclamation});
+    return true;
+}
+
+double mesurerDuree(Plateforme& plateforme, const Utf8& chemin) {
+    LecteurMedia& media = plateforme.media;
+    plateforme.ecran.pointeur(Pointeur::Sablier);
+    media.URL(chemin);
+    media.play();
+    media.stop();
+    while (media.duration() == 0 && media.erreur().empty() && plateforme.progression.patienter()) {
+    }
+    plateforme.ecran.pointeur(Pointeur::Normal);
+    const double duree = media.duration();
+    if (duree == 0) plateforme.dialogues.demander({"ça ne fonctionne pas !"});
+    return duree;
+}
+
+void ajouterEntretien(Session& session, const Texte& nom, double duree) {
+    EtatCorpus& corpus = session.corpus;
+    if (corpus.NbEntretiens >= ENTRETIENS_MAX)
+        throw FauteExecution("Un corpus tient au plus " + std::to_string(ENTRETIENS_MAX) + " entretiens.",
+                             corpus.CheminCorpus);
+    corpus.Entretiens.resize(static_cast<std::size_t>(corpus.NbEntretiens) + 2);
+    corpus.extraits.resize(corpus.Entretiens.size());
+    ++corpus.NbEntretiens;
+    Entretien& entretien = corpus.Entretiens.back();
+    entretien.Fichier = nom;
+    entretien.Visible = true;
+    entretien.Duree = static_cast<float>(duree);
+}
+
+void creerRetranscription(const Session& session, int slot) {
+    const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
+    if (fichierExiste(chemin)) return;
+    const float duree = session.corpus.Entretiens.at(static_cast<std::size_t>(slot)).Duree;
+    remplacerFichier(chemin, rtr::nouveau(duree, session.reglages));
+}
+
+} // namespace vermo

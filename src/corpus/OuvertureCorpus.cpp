@@ -1,0 +1,177 @@
+#include "corpus/OuvertureCorpus.h"
+
+#include "corpus/Frise.h"
+#include "formats/FichierCorpus.h"
+#include "formats/Projets.h"
+#include "textfile/chemins.h"
+#include "textfile/fichier.h"
+#include "textfile/nombres.h"
+
+#include <algorithm>
+#include <array>
+#include <ctime>
+
+namespace vermo {
+namespace {
+
+constexpr const char* PROJETS = "Projets.ini";
+
+/// The list as it was written last; one that lies beside a program that can't be written is read until then.
+std::vector<Utf8> lireProjets(const Emplacements& emplacements) {
+    Utf8 chemin = emplacements.fichierEcrit(PROJETS);
+    if (!fichierExiste(chemin)) chemin = emplacements.fichierLu(PROJETS);
+    if (chemin.empty()) return {};
+    return projets::lire(lireFichier(chemin));
+}
+
+std::string horodater(const std::string& format, const std::tm& heure) {
+    std::array<char, 128> tampon{};
+    return {tampon.data(), std::strftime(tampon.data(), tampon.size(), format.c_str(), &heure)};
+}
+
+void direSansBalise(Dialogues& dialogues, const Utf8& quoi) {
+    dialogues.demander({"Impossible de trouver la balise d'ouverture des " + quoi + ".",
+                        "Erreur lors de la recherche des " + quoi, Boutons::Ok, Icone::Information});
+}
+
+void direIntrouvable(Dialogues& dialogues, const Texte& fichier) {
+    dialogues.demander(
+        {"Le fichier " + versUtf8(fichier) + " est introuvable.\nIl ne sera pas ajouté au projet.",
+         "Fichier introuvable", Boutons::Ok, Icone::Exclamation});
+}
+
+void prendreThematiques(EtatCorpus& corpus, const std::vector<crp::Thematique>& rangs) {
+    corpus.ThmCode.assign(1, {});
+    corpus.ThmCouleur.assign(1, {});
+    corpus.ThmNom.assign(1, {});
+    for (const crp::Thematique& rang : rangs) {
+        corpus.ThmCode.push_back(rang.code);
+        corpus.ThmCouleur.push_back(rang.couleur);
+        corpus.ThmNom.push_back(rang.nom);
+    }
+    corpus.NbThm = static_cast<float>(rangs.size());
+}
+
+} // namespace
+
+void direFaute(Dialogues& dialogues, const FauteExecution& faute) {
+    dialogues.demander({faute.what(), "Vermo", Boutons::Ok, Icone::Exclamation});
+}
+
+std::vector<Utf8> listeProjets(const Emplacements& emplacements) {
+    std::vector<Utf8> projets = lireProjets(emplacements);
+    projets.resize(std::min(projets.size(), PROJETS_MONTRES));
+    return projets;
+}
+
+bool demanderCorpus(Session& session, Plateforme& plateforme) {
+    EtatCorpus& corpus = session.corpus;
+    if (corpus.OuvertureDirecte) return true;
+    const Utf8 chemin =
+        plateforme.dialogues.choisirFichier({"Choisissez un Corpus", "Fichiers Corpus (*Crp)|*.Crp", "Crp"});
+    if (chemin.empty()) return false;
+    if (chemin == corpus.CheminCorpus) {
+        plateforme.dialogues.demander({"Ce corpus est déjà ouvert!", {}, Boutons::Ok, Icone::Exclamation});
+        return false;
+    }
+    corpus.CheminCorpus = chemin;
+    corpus.HauteurEntretien = 0;
+    return true;
+}
+
+void nommerCorpus(Session& session) {
+    EtatCorpus& corpus = session.corpus;
+    corpus.RepCorpus = repertoireDe(corpus.CheminCorpus);
+    corpus.NomCorpus = nomDe(corpus.CheminCorpus);
+}
+
+void MettreAJourProjets(const Session& session, Plateforme& plateforme) {
+    try {
+        const std::vector<Utf8> anciens = lireProjets(plateforme.emplacements);
+        const std::string neufs = projets::ecrire(session.corpus.CheminCorpus, anciens);
+        remplacerFichier(plateforme.emplacements.fichierEcrit(PROJETS), neufs);
+    } catch (const FauteExecution& faute) {
+        direFaute(plateforme.dialogues, faute);
+    }
+}
+
+void viderCorpus(Session& session) {
+    EtatCorpus& corpus = session.corpus;
+    for (ExtraitsEntretien& table : corpus.extraits)
+        if (!table.chemin.empty()) corpus.anciensExtraits.push_back(std::move(table));
+    const auto taille = static_cast<std::size_t>(corpus.NbEntretiens) + 1;
+    corpus.Entretiens.assign(taille, {});
+    corpus.extraits.assign(taille, {});
+    corpus.ouvertureInachevee = true;
+    session.donnees = {};
+}
+
+bool corpusAccessible(const Session& session, Plateforme& plateforme) {
+    const Utf8& chemin = session.corpus.CheminCorpus;
+    if (fichierExiste(chemin)) return true;
+    plateforme.dialogues.demander({"Le corpus suivant est inaccessible :\n" + chemin,
+                                   "Impossible d'ouvrir le corpus", Boutons::Ok, Icone::Exclamation});
+    return false;
+}
+
+bool lireThematiques(Session& session, Plateforme& plateforme) {
+    EtatCorpus& corpus = session.corpus;
+    const auto rangs = crp::lireThematiques(lireFichier(corpus.CheminCorpus), corpus.CheminCorpus);
+    if (!rangs) {
+        direSansBalise(plateforme.dialogues, "thématiques");
+        return false;
+    }
+    prendreThematiques(corpus, *rangs);
+    corpus.ThmVisible.assign(corpus.ThmCode.size(), 1);
+    return true;
+}
+
+bool lireEntretiens(Session& session, Plateforme& plateforme) {
+    EtatCorpus& corpus = session.corpus;
+    const auto fichiers = crp::lireEntretiens(lireFichier(corpus.CheminCorpus), corpus.CheminCorpus);
+    if (!fichiers) {
+        direSansBalise(plateforme.dialogues, "entretiens");
+        return false;
+    }
+    const IndexRepertoire index(corpus.RepCorpus);
+    corpus.Entretiens.assign(1, {});
+    for (const Texte& fichier : *fichiers) {
+        if (index.trouver(versUtf8(fichier)))
+            corpus.Entretiens.emplace_back().Fichier = fichier;
+        else
+            direIntrouvable(plateforme.dialogues, fichier);
+    }
+    corpus.NbEntretiens = static_cast<std::int16_t>(corpus.Entretiens.size() - 1);
+    corpus.extraits.assign(corpus.Entretiens.size(), {});
+    corpus.ouvertureInachevee = false;
+    return true;
+}
+
+void toutActiver(Session& session) {
+    EtatCorpus& corpus = session.corpus;
+    for (Entretien& entretien : corpus.Entretiens)
+        entretien.Visible = true;
+    corpus.ThmVisible.assign(static_cast<std::size_t>(corpus.NbThm) + 1, 1);
+}
+
+void calculerHauteur(Session& session, Twips hauteurCadre) {
+    EtatCorpus& corpus = session.corpus;
+    if (corpus.HauteurEntretien == 0 && corpus.NbEntretiens >= 1)
+        corpus.HauteurEntretien = static_cast<float>(arrondi(hauteurCadre - 360) / (corpus.NbEntretiens + 1));
+    corpus.HauteurEntretien = std::max(corpus.HauteurEntretien, HAUTEUR_MIN);
+}
+
+bool creerCorpus(Session& session, Plateforme& plateforme) {
+    EtatCorpus& corpus = session.corpus;
+    const Utf8 chemin = plateforme.dialogues.choisirFichier(
+        {"Choisissez le nom du nouveau Corpus", "Fichier projet|*.Crp", "Crp", true});
+    if (chemin.empty()) return false;
+    const std::tm maintenant = plateforme.horloge.maintenant();
+    remplacerFichier(chemin, crp::nouveau(horodater(session.reglages.formatDate, maintenant),
+                                          horodater(session.reglages.formatHeure, maintenant)));
+    corpus.CheminCorpus = chemin;
+    corpus.RepCorpus = repertoireDe(chemin);
+    return true;
+}
+
+} // namespace vermo

@@ -1,0 +1,27 @@
+#pragma once
+#include "corpus/Session.h"
+#include "window/Element.h"
+
+/// The list of thematics, and the switches of the panels.
+namespace vermo {
+
+/// Where the list stands: in FrmCorpus what is switched off turns grey and a tooltip tells the switch.
+enum class Legende { Corpus, Saisie };
+
+/// Height of a row of the list: the frame shared among the thematics, at most 495.
+Twips hauteurThematique(int nombre, Twips hauteurCadre);
+
+/// ImgCoul, ShpCoul and LblCoul (tag: the code) of each row, index the row. Places are twips of the frame.
+Elements DisposerThematiques(const Session& session, Twips largeur, Twips hauteurCadre, Legende legende);
+
+void BasculerEntretien(EtatCorpus& corpus, int slot);  ///< ImgOnOff, click
+void IsolerEntretien(EtatCorpus& corpus, int slot);    ///< ImgOnOff, double click
+void BasculerThematique(EtatCorpus& corpus, int rang); ///< LblCoul, left button
+void IsolerThematique(EtatCorpus& corpus, int rang);   ///< LblCoul, right button
+
+/// ImgOnOffent: more than one active, all off; otherwise all on. Returns whether they are on now (ImgOn).
+bool BasculerTousEntretiens(EtatCorpus& corpus);
+/// ImgOnOffthm: all on, all off; otherwise all on. Returns whether they are on now (ImgOn).
+bool BasculerToutesThematiques(EtatCorpus& corpus);
+
+} // namespace vermo

@@ -1,0 +1,67 @@
+#include "corpus/Session.h"
+
+#include "textfile/chemins.h"
+
+#include <algorithm>
+
+namespace vermo {
+namespace {
+
+/// The row of extract `n` and the buffer it points into, if there is one.
+struct Rang {
+    const Texte* tampon = nullptr;
+    const LigneExtrait* ligne = nullptr;
+
+    Rang(const Session& session, int slot, int n) {
+        const auto& tables = session.corpus.extraits;
+        if (slot < 1 || static_cast<std::size_t>(slot) >= tables.size() || n < 1) return;
+        const ExtraitsEntretien& table = tables[static_cast<std::size_t>(slot)];
+        if (static_cast<std::size_t>(n) > table.lignes.size()) return;
+        tampon = &table.tampon;
+        ligne = &table.lignes[static_cast<std::size_t>(n - 1)];
+    }
+    std::string_view champ(std::uint32_t LigneExtrait::*place, std::size_t longueur) const {
+        return std::string_view(*tampon).substr(ligne->*place, longueur);
+    }
+};
+
+} // namespace
+
+std::string_view CorpusDebut(const Session& session, int slot, int n) {
+    const Rang rang(session, slot, n);
+    return rang.ligne ? rang.champ(&LigneExtrait::debut, rang.ligne->longueurDebut) : std::string_view{};
+}
+
+std::string_view CorpusFin(const Session& session, int slot, int n) {
+    const Rang rang(session, slot, n);
+    return rang.ligne ? rang.champ(&LigneExtrait::fin, rang.ligne->longueurFin) : std::string_view{};
+}
+
+std::string_view CorpusThm(const Session& session, int slot, int n) {
+    const Rang rang(session, slot, n);
+    return rang.ligne ? codeDe(*rang.ligne) : std::string_view{};
+}
+
+std::string_view CorpusTexte(const Session& session, int slot, int n) {
+    const Rang rang(session, slot, n);
+    return rang.ligne ? rang.champ(&LigneExtrait::texte, rang.ligne->longueurTexte) : std::string_view{};
+}
+
+int rangThematique(const EtatCorpus& corpus, std::string_view code) {
+    if (corpus.ThmCode.empty()) return 0;
+    const auto debut = corpus.ThmCode.begin() + 1;
+    const auto trouve = std::find(debut, corpus.ThmCode.end(), code);
+    return trouve == corpus.ThmCode.end() ? 0 : static_cast<int>(trouve - debut) + 1;
+}
+
+Utf8 cheminEnregistrement(const Session& session, int slot) {
+    const Texte& fichier = session.corpus.Entretiens.at(static_cast<std::size_t>(slot)).Fichier;
+    return cheminReel(session.corpus.RepCorpus + versUtf8(fichier));
+}
+
+Utf8 cheminCompagnon(const Session& session, int slot, std::string_view extension) {
+    const Texte& fichier = session.corpus.Entretiens.at(static_cast<std::size_t>(slot)).Fichier;
+    return cheminReel(session.corpus.RepCorpus + versUtf8(compagnon(fichier, extension)));
+}
+
+} // namespace vermo

@@ -1,0 +1,74 @@
+#include "data/Variables.h"
+
+#include "formats/FichierCorpus.h"
+#include "formats/FichierRtr.h"
+#include "textfile/faute.h"
+#include "textfile/fichier.h"
+#include "textfile/nombres.h"
+
+namespace vermo {
+namespace {
+
+bool refuser(Plateforme& plateforme, const Utf8& texte) {
+    plateforme.dialogues.demander(
+        {.texte = texte,
+         .titre = "Erreur lors de la recherche des informations sur la base de données",
+         .icone = Icone::Information});
+    return false;
+}
+
+void ranger(EtatDonnees& donnees, const std::vector<crp::LigneVariable>& variables) {
+    for (const crp::LigneVariable& variable : variables) {
+        const auto v = static_cast<std::size_t>(valeur(variable.numero));
+        donnees.VariableNumero.at(v) = variable.numero;
+        donnees.VariableNom.at(v) = variable.nom;
+    }
+    donnees.NbVariables = static_cast<float>(variables.size());
+}
+
+void ranger(EtatDonnees& donnees, const std::vector<crp::LigneModalite>& modalites) {
+    donnees.ModaliteNom.resize(100);
+    for (const crp::LigneModalite& modalite : modalites)
+        donnees.ModaliteNom.at(static_cast<std::size_t>(modalite.variable))
+            .at(static_cast<std::size_t>(modalite.modalite)) = modalite.nom;
+}
+
+} // namespace
+
+bool LireVariables(Session& session, Plateforme& plateforme) {
+    session.donnees = {};
+    const Utf8& chemin = session.corpus.CheminCorpus;
+    try {
+        const std::string octets = lireFichier(chemin);
+        const auto variables = crp::lirePos(octets, chemin);
+        if (!variables) return refuser(plateforme, "Impossible de trouver la balise d'ouverture du POS.");
+        const auto modalites = crp::lireDic(octets, chemin);
+        if (!modalites) return refuser(plateforme, "Impossible de trouver la balise d'ouverture du DIC.");
+        ranger(session.donnees, *variables);
+        ranger(session.donnees, *modalites);
+        return true;
+    } catch (const FauteExecution& faute) {
+        return refuser(plateforme, faute.what());
+    }
+}
+
+namespace {
+
+/// A transcript as far as its attributes reach: a corpus has many, and long ones.
+std::string lireJusquAuxAttributs(const Utf8& chemin) {
+    constexpr std::size_t debutUsuel = 8192;
+    std::string octets = lireDebut(chemin, debutUsuel);
+    const bool suffit = octets.size() < debutUsuel || octets.find(">|ATTR|") != std::string::npos;
+    return suffit ? octets : lireFichier(chemin);
+}
+
+} // namespace
+
+void LireAttributs(Session& session, int slot) {
+    const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
+    if (!fichierExiste(chemin)) return;
+    Entretien& entretien = session.corpus.Entretiens.at(static_cast<std::size_t>(slot));
+    rtr::lireAttributs(lireJusquAuxAttributs(chemin), entretien.Attributs, chemin);
+}
+
+} // namespace vermo

@@ -1,0 +1,70 @@
+#pragma once
+#include "corpus/AnalyserEntretiens.h"
+#include "corpus/Frise.h"
+#include "corpus/OuvertureCorpus.h"
+#include "support/PlateformeDeTest.h"
+
+#include <string>
+#include <vector>
+
+namespace vermo::essai {
+
+/// A corpus in a directory of its own, and the steps by which the program opens it.
+struct CorpusDEssai {
+    PlateformeDeTest hote;
+    Session session;
+
+    const DossierTemporaire& dossier() const { return hote.dossier; }
+    EtatCorpus& corpus() { return session.corpus; }
+    DialoguesScriptees& dialogues() { return hote.dialogues; }
+
+    /// `thematiques` and `entretiens` are the lines of their sections, each with its line end.
+    void ecrireCorpus(const std::string& thematiques, const std::string& entretiens) const {
+        dossier().ecrire("c/Essai.Crp", "Projet\r\n<|THEM|\r\n" + thematiques +
+                                            ">|THEM|\r\n<|POS|\r\n>|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\n" +
+                                            entretiens + ">|ENTR|\r\n");
+    }
+    void ajouterEntretien(const std::string& nom, const std::string& rtr) const {
+        dossier().ecrire("c/" + nom + ".wav", "");
+        dossier().ecrire("c/" + nom + ".Rtr", rtr);
+    }
+    /// Without the scan. False when a step ended the opening.
+    bool ouvrir(Twips hauteurCadre = 3000) {
+        corpus().CheminCorpus = dossier().chemin("c/Essai.Crp");
+        corpus().OuvertureDirecte = true;
+        if (!demanderCorpus(session, hote)) return false;
+        nommerCorpus(session);
+        viderCorpus(session);
+        if (!corpusAccessible(session, hote) || !lireThematiques(session, hote)) return false;
+        if (!lireEntretiens(session, hote)) return false;
+        toutActiver(session);
+        calculerHauteur(session, hauteurCadre);
+        return true;
+    }
+    void analyser() { AnalyserEntretiens(session, hote, 1, corpus().NbEntretiens); }
+};
+
+/// Texts of extracts joined by "|" with their fields, CR shown as "/".
+inline std::string decrireExtraits(const Session& session, int slot) {
+    std::string texte;
+    for (int n = 1; !CorpusDebut(session, slot, n).empty(); ++n) {
+        if (n > 1) texte += "|";
+        for (const auto champ : {CorpusDebut, CorpusFin, CorpusThm, CorpusTexte})
+            texte += std::string(champ(session, slot, n)) + ";";
+    }
+    for (char& c : texte)
+        if (c == CR) c = '/';
+    return texte;
+}
+
+/// "a.wav b.wav …" in slot order.
+inline std::string ordre(const EtatCorpus& corpus) {
+    std::string noms;
+    for (int i = 1; i <= corpus.NbEntretiens; ++i)
+        noms += corpus.Entretiens[static_cast<std::size_t>(i)].Fichier + " ";
+    return noms;
+}
+
+constexpr const char* ENTETE = " 100 \r\n<|OBS|\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n";
+
+} // namespace vermo::essai

@@ -1,0 +1,206 @@
+#include "CorpusDEssai.h"
+#include "corpus/EcritureCorpus.h"
+#include "corpus/Ordre.h"
+#include "formats/FichierCorpus.h"
+#include "textfile/faute.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace vermo {
+namespace {
+
+using essai::CorpusDEssai;
+using essai::ENTETE;
+using essai::ordre;
+
+constexpr const char* PAS = "000,&H0, Pas de thematique\r\n";
+
+TEST(OuvertureCorpus, Dialogue) {
+    CorpusDEssai essai;
+    essai.corpus().HauteurEntretien = 500;
+    essai.corpus().CheminCorpus = "/x/a.Crp";
+    essai.dialogues().choisir("").choisir("/x/a.Crp").repondre(Reponse::Ok).choisir("/y z/b.Crp");
+    EXPECT_FALSE(demanderCorpus(essai.session, essai.hote));
+    EXPECT_FALSE(demanderCorpus(essai.session, essai.hote));
+    EXPECT_EQ(essai.corpus().HauteurEntretien, 500);
+    EXPECT_TRUE(demanderCorpus(essai.session, essai.hote));
+    EXPECT_EQ(essai.corpus().HauteurEntretien, 0);
+    nommerCorpus(essai.session);
+    EXPECT_EQ(essai.corpus().RepCorpus + "|" + essai.corpus().NomCorpus, "/y z/|b.Crp");
+    EXPECT_EQ(essai.dialogues().journal()[0],
+              "fichier|Choisissez un Corpus|Fichiers Corpus (*Crp)|*.Crp|ouvrir -> ");
+    EXPECT_EQ(essai.dialogues().journal()[2], "|Ce corpus est déjà ouvert!|Ok|Exclamation -> Ok");
+}
+
+TEST(OuvertureCorpus, LitTout) {
+    CorpusDEssai essai;
+    essai.ajouterEntretien("a", ENTETE);
+    essai.ajouterEntretien("b", ENTETE);
+    essai.ecrireCorpus(PAS + std::string("\r\n001,255, Ecole, travail\r\n"),
+                       "b.wav\r\n\r\nparti.wav\r\nA.Wav\r\n");
+    essai.dialogues().repondre(Reponse::Ok);
+    ASSERT_TRUE(essai.ouvrir(3660));
+    EXPECT_EQ(essai.dialogues().dernier(), "Fichier introuvable|Le fichier parti.wav est introuvable.\\n"
+                                           "Il ne sera pas ajouté au projet.|Ok|Exclamation -> Ok");
+    EXPECT_EQ(ordre(essai.corpus()), "b.wav A.Wav ");
+    EXPECT_EQ(essai.corpus().NbThm, 2);
+    EXPECT_EQ(essai.corpus().ThmNom[2], " Ecole, travail");
+    EXPECT_EQ(essai.corpus().ThmVisible, (std::vector<std::int16_t>{1, 1, 1}));
+    EXPECT_EQ(essai.corpus().HauteurEntretien, 1100);
+}
+
+TEST(OuvertureCorpus, HauteurDesLignes) {
+    const std::tuple<int, float, Twips, float> cas[] = {
+        {0, 0.F, 9000, 335.F}, {2, 0.F, 3000.6, 880.F}, {40, 0.F, 9000, 335.F}, {3, 500.F, 9000, 500.F}};
+    for (const auto& [nombre, avant, cadre, attendue] : cas) {
+        Session session;
+        session.corpus.NbEntretiens = static_cast<std::int16_t>(nombre);
+        session.corpus.HauteurEntretien = avant;
+        calculerHauteur(session, cadre);
+        EXPECT_EQ(session.corpus.HauteurEntretien, attendue) << nombre;
+    }
+}
+
+TEST(OuvertureCorpus, CorpusRefuses) {
+    const std::tuple<std::string, std::string> cas[] = {
+        {"<|ENTR|\r\n>|ENTR|\r\n",
+         "Erreur lors de la recherche des thématiques|"
+         "Impossible de trouver la balise d'ouverture des thématiques.|Ok|Information -> Ok"},
+        {"<|THEM|\r\n>|THEM|\r\n",
+         "Erreur lors de la recherche des entretiens|"
+         "Impossible de trouver la balise d'ouverture des entretiens.|Ok|Information -> Ok"},
+        {"", "Impossible d'ouvrir le corpus|Le corpus suivant est inaccessible :\\n"}};
+    for (const auto& [octets, message] : cas) {
+        CorpusDEssai essai;
+        if (!octets.empty()) essai.dossier().ecrire("c/Essai.Crp", octets);
+        essai.corpus().NbEntretiens = 4;
+        essai.dialogues().repondre(Reponse::Ok);
+        EXPECT_FALSE(essai.ouvrir());
+        EXPECT_EQ(essai.dialogues().dernier().substr(0, message.size()), message);
+        EXPECT_EQ(essai.corpus().NbEntretiens, 4);
+        // The window stays emptied, and what was not read is never rewritten.
+        EXPECT_EQ(preparerFrise(essai.session, essai.hote), 0);
+        EXPECT_THROW(EcrireEntretiens(essai.session, essai.hote), FauteExecution);
+        EXPECT_THROW(EcrireThematiques(essai.session, essai.hote), FauteExecution);
+        if (octets.empty()) continue;
+        EXPECT_EQ(essai.dossier().lire("c/Essai.Crp"), octets);
+    }
+}
+
+TEST(OuvertureCorpus, TropDEntretiens) {
+    CorpusDEssai essai;
+    std::string lignes;
+    for (int i = 0; i < 1000; ++i)
+        lignes += "e" + std::to_string(i) + ".wav\r\n";
+    essai.ecrireCorpus(PAS, lignes);
+    try {
+        essai.ouvrir();
+        FAIL();
+    } catch (const FauteExecution& faute) {
+        EXPECT_NE(faute.quoi().find("999"), std::string::npos);
+        EXPECT_EQ(faute.fichier(), essai.corpus().CheminCorpus);
+    }
+    EXPECT_THROW(EcrireEntretiens(essai.session, essai.hote), FauteExecution);
+}
+
+TEST(OuvertureCorpus, NouveauCorpus) {
+    CorpusDEssai essai;
+    const Utf8 chemin = essai.dossier().ecrire("neuf/N.Crp", "ancien");
+    essai.dialogues().choisir("").choisir(chemin);
+    EXPECT_FALSE(creerCorpus(essai.session, essai.hote));
+    EXPECT_TRUE(creerCorpus(essai.session, essai.hote));
+    EXPECT_EQ(essai.dialogues().dernier(),
+              "fichier|Choisissez le nom du nouveau Corpus|Fichier projet|*.Crp|enregistrer -> " + chemin);
+    EXPECT_EQ(essai.dossier().lire("neuf/N.Crp"),
+              depuisUtf8("Projet crée le 03/04/2009 à 14:05:06\r\n<|THEM|\r\n000,&H0, Pas de thématique\r\n"
+                         ">|THEM|\r\n<|POS|\r\n>|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\n>|ENTR|\r\n"));
+    EXPECT_EQ(essai.corpus().CheminCorpus, chemin);
+}
+
+TEST(Projets, ListeEtMiseAJour) {
+    CorpusDEssai essai;
+    const Emplacements& lieux = essai.hote.plateforme.emplacements;
+    EXPECT_TRUE(listeProjets(lieux).empty());
+    essai.dossier().ecrire("programme/Projets.ini",
+                           "/a.Crp\r\n/b,c.Crp\r\n\r\n/d.Crp\r\n/e.Crp\r\n/f.Crp\r\n");
+    EXPECT_EQ(listeProjets(lieux), (std::vector<Utf8>{"/a.Crp", "/b", "c.Crp", "/d.Crp", "/e.Crp"}));
+    essai.corpus().CheminCorpus = "/d.Crp";
+    MettreAJourProjets(essai.session, essai.hote);
+    EXPECT_EQ(essai.dossier().lire("programme/Projets.ini"),
+              "/d.Crp\r\n/a.Crp\r\n/b\r\nc.Crp\r\n/e.Crp\r\n/f.Crp\r\n");
+    // A path that the list can't hold is told, and the list stays.
+    essai.corpus().CheminCorpus = "/łódź.Crp";
+    essai.dialogues().repondre(Reponse::Ok, "ł");
+    MettreAJourProjets(essai.session, essai.hote);
+    EXPECT_EQ(listeProjets(lieux)[0], "/d.Crp");
+}
+
+struct Ecriture : testing::Test {
+    CorpusDEssai essai;
+    void SetUp() override {
+        essai.ajouterEntretien("a", ENTETE);
+        essai.ajouterEntretien("b", ENTETE);
+        essai.ecrireCorpus(PAS + std::string("001,255, Un\r\n002,9,Deux\r\n"),
+                           "a.wav\r\nparti.wav\r\nb.wav\r\n");
+        essai.dialogues().repondre(Reponse::Ok);
+        ASSERT_TRUE(essai.ouvrir());
+    }
+    const std::string milieu = ">|THEM|\r\n<|POS|\r\n>|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\n";
+};
+
+TEST_F(Ecriture, Thematiques) {
+    essai.corpus().ThmCode[2].clear();
+    essai.corpus().ThmNom[3] = " Deux, \"trois\"";
+    essai.dossier().ecrire("c/Essai.Crp.$$$", "reste");
+    EcrireThematiques(essai.session, essai.hote);
+    EXPECT_EQ(essai.dossier().lire("c/Essai.Crp"), "Projet\r\n<|THEM|\r\n" + std::string(PAS) +
+                                                       "002,9, Deux, \"trois\"\r\n" + milieu +
+                                                       "a.wav\r\nparti.wav\r\nb.wav\r\n>|ENTR|\r\n");
+    EXPECT_FALSE(essai.dossier().existe("c/Essai.Crp.$$$"));
+}
+
+TEST_F(Ecriture, Entretiens) {
+    DeplacerEntretien(essai.session, 1, 2);
+    EcrireEntretiens(essai.session, essai.hote);
+    const std::string attendu =
+        "Projet\r\n<|THEM|\r\n" + std::string(PAS) + "001,255, Un\r\n002,9,Deux\r\n" + milieu;
+    EXPECT_EQ(essai.dossier().lire("c/Essai.Crp"), attendu + "b.wav\r\na.wav\r\n>|ENTR|\r\n");
+    essai.corpus().Entretiens[1].Fichier.clear();
+    EcrireEntretiens(essai.session, essai.hote);
+    EXPECT_EQ(essai.dossier().lire("c/Essai.Crp"), attendu + "a.wav\r\n>|ENTR|\r\n");
+    EXPECT_EQ(essai.dossier().lire("c/Essai.Crp.$$$"), attendu + "a.wav\r\n>|ENTR|\r\n");
+}
+
+TEST_F(Ecriture, SansBaliseLeCorpusResteTelQuel) {
+    essai.dossier().ecrire("c/Essai.Crp", "rien\r\n");
+    essai.dialogues().repondre(Reponse::Ok).repondre(Reponse::Ok);
+    EcrireThematiques(essai.session, essai.hote);
+    EcrireEntretiens(essai.session, essai.hote);
+    EXPECT_EQ(essai.dialogues().dernier(),
+              "Erreur lors de la recherche des thématiques|"
+              "Impossible de trouver la balise d'ouverture des entretiens.|Ok|Information -> Ok");
+    EXPECT_EQ(essai.dossier().lire("c/Essai.Crp"), "rien\r\n");
+}
+
+TEST(Ordre, DeplacerEntretien) {
+    const std::tuple<int, int, std::string> cas[] = {{3, 1, "c a b d "}, {1, 3, "b c a d "},
+                                                     {2, 2, "a b c d "}, {4, 3, "a b d c "},
+                                                     {0, 2, "a b c d "}, {1, 5, "a b c d "}};
+    for (const auto& [source, cible, attendu] : cas) {
+        Session session;
+        session.corpus.Entretiens.resize(5);
+        session.corpus.extraits.resize(5);
+        session.corpus.NbEntretiens = 4;
+        for (std::size_t i = 1; i <= 4; ++i)
+            session.corpus.Entretiens[i].Fichier = session.corpus.extraits[i].chemin =
+                std::string(1, static_cast<char>('a' + i - 1));
+        DeplacerEntretien(session, source, cible);
+        EXPECT_EQ(ordre(session.corpus), attendu);
+        for (std::size_t i = 1; i <= 4; ++i)
+            EXPECT_EQ(session.corpus.Entretiens[i].Fichier, session.corpus.extraits[i].chemin);
+    }
+}
+
+} // namespace
+} // namespace vermo
