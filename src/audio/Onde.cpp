@@ -1,0 +1,151 @@
+#include "audio/Onde.h"
+
+#include "textfile/chemins.h"
+#include "textfile/faute.h"
+#include "textfile/fichier.h"
+#include "textfile/nombres.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cmath>
+#include <cstring>
+#include <fcntl.h>
+#include <string_view>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace vermo {
+
+namespace {
+
+constexpr std::size_t TAILLE_ENTETE = 44;
+constexpr std::size_t TAILLE_DEBUT = 255;
+constexpr long PAS_AVANCE = 360;
+
+std::int16_t echantillon16(const unsigned char* octets) {
+    return static_cast<std::int16_t>(octets[0] | octets[1] << 8);
+}
+
+std::int32_t entier32(const std::array<unsigned char, 4>& octets) {
+    std::uint32_t valeur = 0;
+    for (std::size_t i = 4; i-- > 0;)
+        valeur = valeur << 8 | octets[i];
+    return static_cast<std::int32_t>(valeur);
+}
+
+} // namespace
+
+bool estWav(const Utf8& nom) {
+    return extension3(nom) == "WAV";
+}
+
+EnTeteWav LireEnteteWav(const Utf8& nom, Dialogues& dialogues) {
+    if (!fichierExiste(nom) || !estWav(nom)) {
+        dialogues.demander(
+            {.texte = "Le fichier spécifié ne peut être ouvert (Format non traité ou fichier inexistant).",
+             .icone = Icone::Critique});
+        return {};
+    }
+    return sonderEnteteWav(nom);
+}
+
+EnTeteWav sonderEnteteWav(const Utf8& nom) {
+    std::array<char, TAILLE_ENTETE> octets{};
+    std::size_t lus = 0;
+    try {
+        lus = FichierOnde(nom).lire(1, octets.data(), octets.size());
+    } catch (const FauteExecution&) {
+        return {};
+    }
+    return lireEnTeteWav({octets.data(), lus});
+}
+
+EnTeteWav avecDefauts(EnTeteWav entete) {
+    if (entete.NbCanaux == 0) entete.NbCanaux = 1;
+    if (entete.BitsParEchantillon == 0) entete.BitsParEchantillon = 16;
+    return entete;
+}
+
+FichierOnde::FichierOnde(const Utf8& nom)
+    : descripteur_(::open(nom.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {
+    if (descripteur_ < 0) throw FauteExecution(std::strerror(errno), nom);
+    struct stat etat {};
+    if (::fstat(descripteur_, &etat) == 0 && S_ISREG(etat.st_mode)) return;
+    ::close(descripteur_);
+    throw FauteExecution("ce n'est pas un fichier", nom);
+}
+
+FichierOnde::~FichierOnde() {
+    ::close(descripteur_);
+}
+
+std::size_t FichierOnde::lire(std::int64_t position, void* octets, std::size_t taille) const noexcept {
+    if (position < 1) return 0;
+    auto* cible = static_cast<char*>(octets);
+    std::size_t lus = 0;
+    while (lus < taille) {
+        const ssize_t n = ::pread(descripteur_, cible + lus, taille - lus,
+                                  static_cast<off_t>(position - 1 + static_cast<std::int64_t>(lus)));
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) break;
+        lus += static_cast<std::size_t>(n);
+    }
+    return lus;
+}
+
+LieuDonnees LocaliserDonnees(const FichierOnde& fichier) {
+    std::array<char, TAILLE_DEBUT> DebutFichier{};
+    const std::size_t lus = fichier.lire(1, DebutFichier.data(), DebutFichier.size());
+    const std::size_t trouve = std::string_view(DebutFichier.data(), lus).find("data");
+    const std::int64_t p = trouve == std::string_view::npos ? 0 : static_cast<std::int64_t>(trouve) + 1;
+
+    LieuDonnees lieu{.PosDonnees = p + 4};
+    std::array<unsigned char, 4> taille{};
+    fichier.lire(lieu.PosDonnees, taille.data(), taille.size());
+    lieu.TailleData = entier32(taille);
+    return lieu;
+}
+
+PasLecture pasDeLecture(const LieuDonnees& lieu, const EnTeteWav& entete, const Empan& empan, long largeur) {
+    const double pas = lieu.TailleData * empan.part / entete.NbCanaux / static_cast<double>(largeur);
+    PasLecture resultat;
+    resultat.PasOctets = static_cast<std::int64_t>(std::trunc(pas)) * entete.NbCanaux;
+    resultat.PosDonnees = arrondi(static_cast<double>(lieu.PosDonnees) + 4 + lieu.TailleData * empan.debut);
+    if (entete.BitsParEchantillon == 16) {
+        if (resultat.PasOctets % 2 != 0) ++resultat.PasOctets;
+        if (resultat.PosDonnees % 2 == 0) ++resultat.PosDonnees;
+    }
+    return resultat;
+}
+
+void PointsOnde::allouer(std::size_t nombre) {
+    points.assign(nombre, 0);
+    octets.assign(nombre, 0);
+}
+
+void LirePoints(const FichierOnde& fichier, const EnTeteWav& entete, const Empan& empan, long largeur,
+                PointsOnde& points, const AvanceLecture& avance) {
+    const auto rangees = 2 * static_cast<std::size_t>(std::max(largeur, 0L));
+    points.points.resize(std::max(points.points.size(), rangees));
+    points.octets.resize(std::max(points.octets.size(), rangees));
+
+    const PasLecture pas = pasDeLecture(LocaliserDonnees(fichier), entete, empan, largeur);
+    const bool seize = entete.BitsParEchantillon == 16;
+    const std::size_t taille = seize ? 2 : 1;
+    const auto ranger = [&](long i, const unsigned char* octets) {
+        if (seize)
+            points.points[static_cast<std::size_t>(i)] = echantillon16(octets);
+        else
+            points.octets[static_cast<std::size_t>(i)] = *octets;
+    };
+    for (long i = 0; i <= largeur - 2; ++i) {
+        std::array<unsigned char, 4> octets{};
+        const std::size_t lus = fichier.lire(pas.PosDonnees + i * pas.PasOctets, octets.data(), 2 * taille);
+        if (lus >= taille) ranger(i, octets.data());
+        if (lus == 2 * taille) ranger(largeur + i, octets.data() + taille);
+        if (avance && i % PAS_AVANCE == 0) avance(i);
+    }
+}
+
+} // namespace vermo

@@ -1,0 +1,76 @@
+#include "audio/Regles.h"
+
+#include "textfile/nombres.h"
+
+#include <algorithm>
+
+namespace vermo {
+
+namespace {
+
+constexpr Twips BAS_MARQUE = 1140;
+
+/// Every mark, or as many as stand a twip apart.
+long pasVisible(Twips ecart) {
+    return ecart >= 1 ? 1 : static_cast<long>(1 / ecart) + 1;
+}
+
+} // namespace
+
+long minutesEntieres(double secondes) {
+    return arrondi(secondes) / 60;
+}
+
+Dessin DessinerRegleMinutes(double DureeFichier, Twips largeur, std::string_view etiquette) {
+    Dessin dessin;
+    if (!(DureeFichier > 0) || !(largeur > 0)) return dessin;
+    const Twips m = largeur / DureeFichier * 60;
+    const long pas = pasVisible(m);
+    for (long i = 1; i <= minutesEntieres(DureeFichier) + 1; i += pas) {
+        const Twips x = static_cast<double>(i) * m;
+        const bool longue = DureeFichier < 600 || (DureeFichier > 1800 && i % 10 == 0);
+        if (longue) {
+            const Texte texte = etiquette.empty() ? std::to_string(i) : Texte(etiquette);
+            dessin.inscriptions.push_back({x - 120, -10, texte, ENCRE_REGLE, 7});
+        }
+        dessin.traits.push_back({x, longue ? 200.0 : 150.0, x, BAS_MARQUE, ENCRE_REGLE});
+    }
+    return dessin;
+}
+
+int pasEtiquettes(double DureeZoom) {
+    if (DureeZoom > 4800) return 300;
+    if (DureeZoom > 2400) return 120;
+    if (DureeZoom > 1200) return 60;
+    if (DureeZoom > 600) return 30;
+    if (DureeZoom > 300) return 15;
+    return 10;
+}
+
+Dessin DessinerRegleSecondes(double DebutZoom, double DureeZoom, Twips largeur) {
+    Dessin dessin;
+    if (!(DureeZoom > 0) || !(largeur > 0)) return dessin;
+    const Twips s = largeur / DureeZoom;
+    const long pas = pasVisible(s);
+    const int etiquettes = pasEtiquettes(DureeZoom);
+    for (long i = 1; i <= arrondi(DureeZoom) + 1; i += pas) {
+        const Twips x = static_cast<double>(i) * s;
+        dessin.traits.push_back({x, 0, x, 120, ENCRE_REGLE});
+        if (i % etiquettes == 0)
+            dessin.inscriptions.push_back(
+                {x - 120, 330, HeureTexte(DebutZoom + static_cast<double>(i)), ENCRE_REGLE, 7});
+    }
+    return dessin;
+}
+
+Dessin DessinerVolume(float VolumeLecture, Twips largeur, Twips hauteur) {
+    constexpr Couleur ENCRE = 0xFBFBFB;
+    Dessin dessin;
+    for (int i = 1; i <= std::min(static_cast<int>(VolumeLecture), 100); ++i) {
+        const Twips x = largeur * i / 100;
+        dessin.traits.push_back({x, hauteur - hauteur * i / 100 + 5, x, hauteur, ENCRE});
+    }
+    return dessin;
+}
+
+} // namespace vermo

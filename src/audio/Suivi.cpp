@@ -1,0 +1,61 @@
+#include "audio/Suivi.h"
+
+#include "audio/Zoom.h"
+#include "textfile/nombres.h"
+
+#include <algorithm>
+
+namespace vermo {
+
+namespace {
+
+constexpr Twips HAUT_CURSEUR = 440, COURSE_CURSEUR = 1240;
+
+} // namespace
+
+SuiviLecture suivreLecture(const EtatAudio& audio, double position, Twips W, Twips Z) {
+    SuiviLecture suivi;
+    suivi.LblCompteur = HeureTexte(position);
+    suivi.largeurCurseurZoom = std::max(xZoom(audio, position, Z + AVANCE_CURSEUR_ZOOM), 0.0);
+    if (audio.MarqueDebut != 0) {
+        const Twips gauche = xVue(audio, audio.MarqueDebut, W);
+        suivi.TotalSelect = Etendue{gauche, xVue(audio, position, W) - gauche};
+        const Twips gaucheZoom = xZoom(audio, audio.MarqueDebut, Z);
+        suivi.ZoomSelect = Etendue{gaucheZoom, suivi.largeurCurseurZoom - gaucheZoom};
+    }
+    suivi.pageFinie = suivi.largeurCurseurZoom >= Z;
+    suivi.gaucheCurseur = xVue(audio, position, W) + AVANCE_CURSEUR;
+    suivi.Reprise = static_cast<std::int32_t>(arrondi(position));
+    return suivi;
+}
+
+Fondu avancerFondu(float& EtatFondu, float VolumeLecture) {
+    EtatFondu += 10;
+    if (EtatFondu <= FONDU_OPAQUE) return {.alpha = static_cast<int>(EtatFondu)};
+    if (EtatFondu < FONDU_FERMETURE) return {.arreter = true};
+    if (EtatFondu >= FONDU_FIN) return {.arreter = true, .decharger = true};
+
+    const float reste = FONDU_FIN - EtatFondu;
+    Fondu fondu{.alpha = static_cast<int>(reste)};
+    const float v = reste / (FONDU_FIN - FONDU_FERMETURE) * 100;
+    if (VolumeLecture != 0 && v < VolumeLecture) fondu.volume = static_cast<int>(arrondi(v));
+    return fondu;
+}
+
+void suivreVolume(EtatAudio& audio, LecteurMedia& media) {
+    if (audio.VolumeLecture == 0)
+        audio.VolumeLecture = static_cast<float>(media.volume());
+    else if (static_cast<float>(media.volume()) != audio.VolumeLecture)
+        media.volume(static_cast<int>(arrondi(audio.VolumeLecture)));
+}
+
+Twips hautImgCurseur(float VolumeLecture) {
+    return (100 - static_cast<double>(VolumeLecture)) / 100 * COURSE_CURSEUR + HAUT_CURSEUR;
+}
+
+int volumeImgCurseur(Twips haut) {
+    return static_cast<int>(
+        arrondi(std::clamp(100 - (haut - HAUT_CURSEUR) / COURSE_CURSEUR * 100, 0.0, 100.0)));
+}
+
+} // namespace vermo

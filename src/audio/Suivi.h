@@ -1,0 +1,55 @@
+#pragma once
+#include "corpus/Session.h"
+#include "platform/LecteurMedia.h"
+#include "window/Element.h"
+
+#include <optional>
+
+/// What the interview window shows of the player, tick by tick. Lengths are twips: `W` is the width of
+/// Picture1, `Z` that of Pict_zoom.
+namespace vermo {
+
+/// Left and width of a shape.
+struct Etendue {
+    Twips gauche = 0, largeur = 0;
+    bool operator==(const Etendue&) const = default;
+};
+
+/// One tick of `Timer1`.
+struct SuiviLecture {
+    Texte LblCompteur;
+    Twips largeurCurseurZoom = 0;                   ///< of `shp_curseur_zoom`
+    std::optional<Etendue> TotalSelect, ZoomSelect; ///< the span marked by the keyboard, while there is one
+    bool pageFinie = false;                         ///< the position has run out of the zoom band
+    Twips gaucheCurseur = 0;                        ///< of `Curseur`
+    std::int32_t Reprise = 0;
+};
+SuiviLecture suivreLecture(const EtatAudio& audio, double position, Twips W, Twips Z);
+
+/// What `Curseur` and the zoom's cursor add to the plain proportion.
+constexpr Twips AVANCE_CURSEUR = 30;
+constexpr Twips AVANCE_CURSEUR_ZOOM = 120;
+
+// The fade: opaque at 250, closing from 10000 up to 10240.
+constexpr float FONDU_OPAQUE = 250;
+constexpr float FONDU_FERMETURE = 10000;
+constexpr float FONDU_FIN = 10240;
+
+/// One tick of `Timer3`.
+struct Fondu {
+    std::optional<int> alpha = {};  ///< the window's opacity, 0 to 255
+    std::optional<int> volume = {}; ///< the player's volume, 0 to 100
+    bool arreter = false;           ///< the timer is done
+    bool decharger = false;         ///< the window goes
+};
+/// Raises EtatFondu by 10 and tells what follows.
+Fondu avancerFondu(float& EtatFondu, float VolumeLecture);
+
+/// On each change of the play state: gives the player the volume that was set, or learns it.
+void suivreVolume(EtatAudio& audio, LecteurMedia& media);
+
+// The volume slider's knob on a panel: 1240 twips of travel from 440, loud on top.
+Twips hautImgCurseur(float VolumeLecture);
+int volumeImgCurseur(Twips haut); ///< its inverse, held between 0 and 100
+
+} // namespace vermo

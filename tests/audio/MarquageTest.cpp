@@ -1,0 +1,42 @@
+#include "audio/Marquage.h"
+
+#include <gtest/gtest.h>
+#include <ostream>
+#include <vector>
+
+using namespace vermo;
+
+namespace vermo {
+std::ostream& operator<<(std::ostream& sortie, const Marquage& m) {
+    return sortie << m.bornes.debut << ".." << m.bornes.fin << (m.englobe ? " refused" : "");
+}
+} // namespace vermo
+
+TEST(Marquage, ANewSpanMeetsItsNeighbours) {
+    const std::vector<Bornes> extraits{{10, 20}, {30, 40}, {35, 50}};
+    const struct {
+        Bornes voulues;
+        Marquage attendu;
+    } cas[] = {{{2, 8}, {{2, 8}, false}},     {{2, 15}, {{2, 10}, false}}, // its end pulled back
+               {{15, 25}, {{20, 25}, false}},                              // its start pushed on
+               {{15, 32}, {{20, 30}, false}},                              // both
+               {{2, 25}, {{2, 25}, true}},                                 // encloses
+               {{12, 18}, {{12, 18}, true}},                               // lies inside
+               {{10, 20}, {{10, 20}, false}},                              // identical spans pass
+               {{10, 18}, {{10, 18}, false}},                              // one bound equal matches no test
+               {{2, 20}, {{2, 20}, false}},   {{20, 30}, {{20, 30}, false}}, // touching both
+               {{37, 60}, {{50, 60}, false}}, // seen by the third as the second left it
+               {{25, 38}, {{25, 30}, false}}};
+    for (const auto& [voulues, attendu] : cas)
+        EXPECT_EQ(bornerNouvelExtrait(voulues, extraits), attendu) << voulues.debut << ".." << voulues.fin;
+    EXPECT_EQ(bornerNouvelExtrait({2, 15}, {}), (Marquage{{2, 15}, false}));
+}
+
+TEST(Marquage, AMovedBoundStopsAtTheFirstHit) {
+    const std::vector<Bornes> autres{{10, 20}, {18, 40}};
+    EXPECT_EQ(bornerExtraitDeplace({5, 12}, autres), (Marquage{{5, 10}, false}));
+    EXPECT_EQ(bornerExtraitDeplace({15, 30}, autres), (Marquage{{20, 30}, false})); // the second would refuse
+    EXPECT_EQ(bornerExtraitDeplace({5, 30}, autres), (Marquage{{5, 30}, true}));
+    EXPECT_EQ(bornerExtraitDeplace({20, 30}, autres), (Marquage{{20, 30}, true}));
+    EXPECT_EQ(bornerExtraitDeplace({40, 50}, autres), (Marquage{{40, 50}, false}));
+}

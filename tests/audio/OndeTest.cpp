@@ -1,0 +1,101 @@
+#include "audio/Onde.h"
+
+#include "audio/OndeDEssai.h"
+#include "support/DialoguesScriptees.h"
+#include "support/DossierTemporaire.h"
+#include "textfile/faute.h"
+
+#include <gtest/gtest.h>
+
+using namespace vermo;
+using namespace vermo::essai;
+
+TEST(Onde, TheProbeTellsOfWhatItCannotOpen) {
+    const DossierTemporaire dossier;
+    DialoguesScriptees dialogues;
+    const std::string octets = wav(2, 16, std::string(8, '\0'));
+    for (const char* nom : {"a.wav", "b.Wav", "c.WAV"})
+        EXPECT_EQ(LireEnteteWav(dossier.ecrire(nom, octets), dialogues).NbCanaux, 2) << nom;
+    EXPECT_TRUE(dialogues.journal().empty());
+
+    dialogues.repondre(Reponse::Ok).repondre(Reponse::Ok);
+    EXPECT_EQ(LireEnteteWav(dossier.ecrire("x.mp3", octets), dialogues), EnTeteWav());
+    EXPECT_EQ(LireEnteteWav(dossier.chemin("absent.wav"), dialogues), EnTeteWav());
+    EXPECT_EQ(dialogues.dernier(), "|Le fichier spécifié ne peut être ouvert (Format non traité ou fichier "
+                                   "inexistant).|Ok|Critique -> Ok");
+
+    EXPECT_EQ(LireEnteteWav(dossier.ecrire("coupe.wav", octets.substr(0, 26)), dialogues).NbCanaux, 2);
+    const EnTeteWav defauts = avecDefauts(sonderEnteteWav(dossier.chemin("absent.wav")));
+    EXPECT_EQ(defauts.NbCanaux, 1);
+    EXPECT_EQ(defauts.BitsParEchantillon, 16);
+}
+
+TEST(Onde, TheDataTagIsFoundInTheFirst255BytesOnly) {
+    const DossierTemporaire dossier;
+    const auto lieu = [&](const std::string& octets) {
+        return LocaliserDonnees(FichierOnde(dossier.ecrire("a.wav", octets)));
+    };
+    const std::string sons(100, 'x');
+    EXPECT_EQ(lieu(wav(1, 8, sons)), (LieuDonnees{100, 41}));
+    EXPECT_EQ(lieu(wav(1, 8, sons, "zz")), (LieuDonnees{100, 43}));
+    EXPECT_EQ(lieu(wav(1, 8, sons, std::string(215, 'z'))), (LieuDonnees{100, 256})); // tag at 252 to 255
+    EXPECT_EQ(lieu(wav(1, 8, sons, std::string(216, 'z'))).PosDonnees, 4);
+    EXPECT_EQ(lieu(""), (LieuDonnees{0, 4}));
+}
+
+TEST(Onde, StepsAndPositionsAreRoundedAndMadeEven) {
+    EnTeteWav entete;
+    const auto pas = [&](int canaux, int bits, LieuDonnees lieu, Empan empan, long largeur) {
+        entete.NbCanaux = static_cast<std::int16_t>(canaux);
+        entete.BitsParEchantillon = static_cast<std::int16_t>(bits);
+        return pasDeLecture(lieu, entete, empan, largeur);
+    };
+    EXPECT_EQ(pas(1, 8, {1000, 41}, {}, 300), (PasLecture{45, 3}));
+    EXPECT_EQ(pas(1, 16, {1000, 41}, {}, 300), (PasLecture{45, 4}));
+    EXPECT_EQ(pas(2, 16, {1000, 41}, {}, 300), (PasLecture{45, 2}));
+    EXPECT_EQ(pas(2, 8, {1000, 41}, {}, 300), (PasLecture{45, 2}));
+    EXPECT_EQ(pas(1, 16, {1000, 42}, {}, 300), (PasLecture{47, 4}));          // 46 is raised
+    EXPECT_EQ(pas(1, 8, {1001, 41}, {0.5, 0.25}, 100), (PasLecture{546, 2})); // 545.5 to the even one
+    EXPECT_EQ(pas(1, 8, {99, 41}, {}, 100), (PasLecture{45, 0}));
+    EXPECT_EQ(pas(1, 16, {2000000000, 41}, {0.999, 0.001}, 100), (PasLecture{1998000045, 20000}));
+}
+
+TEST(Onde, PointsAreReadByPositionAndKeepTheirValueBehindTheEnd) {
+    const DossierTemporaire dossier;
+    const auto seize = echantillons(40, 16, [](int i) { return i % 2 ? -100 * i : 100 * i; });
+    const Utf8 chemin = dossier.ecrire("a.wav", wav(2, 16, seize));
+    const EnTeteWav entete = avecDefauts(sonderEnteteWav(chemin));
+    PointsOnde points;
+    points.points.assign(20, 7);
+    LirePoints(FichierOnde(chemin), entete, {}, 10, points); // every fourth sample
+    EXPECT_EQ(points.points, (std::vector<std::int16_t>{
+                                 0,    400,  800,  1200,  1600,  2000,  2400,  2800,  3200,  7, // never read
+                                 -100, -500, -900, -1300, -1700, -2100, -2500, -2900, -3300, 7}));
+
+    const std::string octets = wav(2, 16, seize);
+    const Utf8 coupe = dossier.ecrire("coupe.wav", octets.substr(0, octets.size() - 46));
+    points.points.assign(20, 7);
+    LirePoints(FichierOnde(coupe), entete, {}, 10, points);
+    EXPECT_EQ(points.points[4], 1600);
+    EXPECT_EQ(points.points[5], 7);
+    EXPECT_EQ(points.points[14], 7); // its first byte alone is there
+
+    const Utf8 huit = dossier.ecrire("b.wav", wav(1, 8, "abcdefghij"));
+    std::vector<long> avances;
+    LirePoints(FichierOnde(huit), avecDefauts(sonderEnteteWav(huit)), {0.5, 0.5}, 5, points,
+               [&](long lus) { avances.push_back(lus); });
+    EXPECT_EQ(std::string(points.octets.begin(), points.octets.begin() + 4), "fghi");
+    EXPECT_EQ(avances, std::vector<long>{0});
+}
+
+TEST(Onde, AFolderOrAMissingFileIsAFaultThatNamesIt) {
+    const DossierTemporaire dossier;
+    for (const Utf8& chemin : {dossier.chemin(), dossier.chemin("absent.wav")}) {
+        try {
+            const FichierOnde fichier(chemin);
+            ADD_FAILURE() << chemin;
+        } catch (const FauteExecution& faute) {
+            EXPECT_EQ(faute.fichier(), chemin);
+        }
+    }
+}

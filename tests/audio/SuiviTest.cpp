@@ -1,0 +1,82 @@
+#include "audio/Suivi.h"
+
+#include "support/LecteurSimule.h"
+
+#include <gtest/gtest.h>
+
+using namespace vermo;
+
+namespace {
+
+EtatAudio etat() {
+    EtatAudio audio;
+    audio.DureeFichier = 200;
+    audio.DebutZoom = 50;
+    audio.DureeZoom = 20;
+    return audio;
+}
+
+} // namespace
+
+TEST(Suivi, FollowsThePosition) {
+    SuiviLecture suivi = suivreLecture(etat(), 60.4, 4000, 2000);
+    EXPECT_EQ(suivi.LblCompteur, "01:00");
+    EXPECT_NEAR(suivi.largeurCurseurZoom, 10.4 / 20 * 2120, 1e-6);
+    EXPECT_NEAR(suivi.gaucheCurseur, 1208 + 30, 1e-6);
+    EXPECT_EQ(suivi.Reprise, 60);
+    EXPECT_FALSE(suivi.pageFinie);
+    EXPECT_FALSE(suivi.TotalSelect);
+    EXPECT_EQ(suivreLecture(etat(), 10, 4000, 2000).largeurCurseurZoom, 0);
+    EXPECT_FALSE(suivreLecture(etat(), 68.867, 4000, 2000).pageFinie); // 20 x 2000 / 2120
+    EXPECT_TRUE(suivreLecture(etat(), 68.868, 4000, 2000).pageFinie);
+}
+
+TEST(Suivi, ShowsTheSpanMarkedByTheKeyboard) {
+    EtatAudio audio = etat();
+    audio.MarqueDebut = 55;
+    const SuiviLecture suivi = suivreLecture(audio, 60, 4000, 2000);
+    EXPECT_EQ(suivi.TotalSelect, (Etendue{1100, 100}));
+    EXPECT_EQ(suivi.ZoomSelect, (Etendue{500, 1060 - 500}));
+}
+
+TEST(Suivi, FadesInIn25TicksAndOutIn24) {
+    float EtatFondu = 0;
+    int pas = 0;
+    for (Fondu fondu; !(fondu = avancerFondu(EtatFondu, 80)).arreter; ++pas)
+        EXPECT_EQ(fondu.alpha, (pas + 1) * 10);
+    EXPECT_EQ(pas, 25);
+
+    EtatFondu = FONDU_FERMETURE;
+    Fondu fondu = avancerFondu(EtatFondu, 80);
+    EXPECT_EQ(fondu.alpha, 230);
+    EXPECT_FALSE(fondu.volume); // 95.8 is louder than what was set
+    for (pas = 1; pas < 12; ++pas)
+        fondu = avancerFondu(EtatFondu, 80);
+    EXPECT_EQ(fondu.alpha, 120);
+    EXPECT_EQ(fondu.volume, 50);
+    float muet = EtatFondu;
+    EXPECT_FALSE(avancerFondu(muet, 0).volume);
+    for (; !fondu.decharger; ++pas)
+        fondu = avancerFondu(EtatFondu, 80);
+    EXPECT_EQ(pas, 24);
+}
+
+TEST(Suivi, TheVolumeIsLearntOnceAndThenGiven) {
+    EtatAudio audio;
+    essai::LecteurSimule media;
+    media.volume(70);
+    suivreVolume(audio, media);
+    EXPECT_EQ(audio.VolumeLecture, 70);
+    media.volume(10); // a fade has left it low
+    suivreVolume(audio, media);
+    EXPECT_EQ(media.volume(), 70);
+}
+
+TEST(Suivi, TheSliderInvertsItsPlace) {
+    EXPECT_EQ(hautImgCurseur(100), 440);
+    EXPECT_EQ(hautImgCurseur(25), 1370);
+    for (int volume = 0; volume <= 100; ++volume)
+        EXPECT_EQ(volumeImgCurseur(hautImgCurseur(static_cast<float>(volume))), volume);
+    EXPECT_EQ(volumeImgCurseur(-5000), 100);
+    EXPECT_EQ(volumeImgCurseur(9000), 0);
+}
