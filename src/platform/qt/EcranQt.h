@@ -1,0 +1,16 @@
+#pragma once
+#include "platform/Ecran.h"
+
+namespace vermo {
+
+/// The primary screen.
+class EcranQt final : public Ecran {
+  public:
+    ZoneTravail zoneTravail() const override;
+    void pointeur(Pointeur pointeur) override;
+
+  private:
+    bool pose_ = false; ///< one pointer at most lies over the program's own
+};
+
+} // namespace vermo

@@ -1,0 +1,20 @@
+#include "platform/qt/EmplacementsQt.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+
+namespace vermo {
+
+Emplacements emplacementsQt() {
+    const auto dossier = [](const QString& chemin) {
+        return QFile::encodeName(QDir::cleanPath(chemin) + QLatin1Char('/')).toStdString();
+    };
+    const QString programme = QCoreApplication::applicationDirPath();
+    return {dossier(programme), dossier(programme + QStringLiteral("/../share/vermo")),
+            dossier(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                    QStringLiteral("/Vermo"))};
+}
+
+} // namespace vermo

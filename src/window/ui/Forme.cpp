@@ -1,0 +1,77 @@
+#include "window/ui/Forme.h"
+
+#include "window/Placement.h"
+#include "window/ui/Glace.h"
+
+#include <QMouseEvent>
+#include <QWindow>
+#include <algorithm>
+
+namespace vermo {
+
+namespace {
+
+constexpr std::chrono::milliseconds REPIT{300}; ///< in which the same fault is not told again
+
+} // namespace
+
+Forme::Forme(const char* nom, Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent)
+    : QWidget(parent, Qt::Window | Qt::FramelessWindowHint), session_(session), plateforme_(plateforme),
+      fenetres_(fenetres) {
+    setObjectName(QLatin1String(nom));
+    setWindowTitle(QStringLiteral("Vermo"));
+}
+
+void Forme::Transparence(int alpha) {
+    alpha_ = std::clamp(alpha, 0, 255);
+    setWindowOpacity(alpha_ / 255.0);
+}
+
+void Forme::placer(Rectangle voulu) {
+    setGeometry(enPixelsEntiers(dansEcran(voulu, plateforme_.ecran.zoneTravail())));
+}
+
+void Forme::deplacerPar(QWidget* poignee) {
+    poignees_.push_back(poignee);
+    poignee->installEventFilter(this);
+}
+
+bool Forme::eventFilter(QObject* objet, QEvent* evenement) {
+    if (std::find(poignees_.begin(), poignees_.end(), objet) != poignees_.end()) deplacer(evenement);
+    return QWidget::eventFilter(objet, evenement);
+}
+
+void Forme::deplacer(QEvent* evenement) {
+    if (evenement->type() == QEvent::MouseButtonPress) {
+        const auto* souris = static_cast<QMouseEvent*>(evenement);
+        if (souris->button() != Qt::LeftButton) return;
+        prise_ = souris->globalPosition().toPoint() - pos();
+        glisse_ = !windowHandle() || !windowHandle()->startSystemMove();
+    } else if (evenement->type() == QEvent::MouseMove && glisse_) {
+        move(static_cast<QMouseEvent*>(evenement)->globalPosition().toPoint() - prise_);
+    } else if (evenement->type() == QEvent::MouseButtonRelease) {
+        glisse_ = false;
+    }
+}
+
+void Forme::signaler(const std::exception& faute) noexcept {
+    const auto maintenant = std::chrono::steady_clock::now();
+    const bool repetee = derniereFaute_ == faute.what() && maintenant - derniereFois_ < REPIT;
+    derniereFois_ = maintenant;
+    if (signale_ || repetee) return;
+    derniereFaute_ = faute.what();
+    signale_ = true;
+    try {
+        plateforme_.dialogues.demander({.texte = derniereFaute_, .icone = Icone::Exclamation});
+    } catch (const std::exception& seconde) {
+        qCritical("%s (%s)", derniereFaute_.c_str(), seconde.what());
+    }
+    signale_ = false;
+    derniereFois_ = std::chrono::steady_clock::now();
+}
+
+void poser(QWidget* controle, Rectangle cadre) {
+    controle->setGeometry(enPixelsEntiers(cadre));
+}
+
+} // namespace vermo

@@ -1,0 +1,100 @@
+#pragma once
+#include "platform/Plateforme.h"
+#include "textfile/faute.h"
+#include "window/Element.h"
+#include "window/Fenetres.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QWidget>
+#include <chrono>
+#include <exception>
+#include <utility>
+#include <vector>
+
+namespace vermo {
+
+struct Session;
+
+/// What every window is: without a system frame, moved by its title, faded through its opacity, never outside
+/// the screen, and guarded: a fault in a slot, a timer tick or an event becomes one message, and the program
+/// goes on.
+class Forme : public QWidget {
+    Q_OBJECT
+  public:
+    Forme(const char* nom, Session& session, Plateforme& plateforme, Fenetres& fenetres,
+          QWidget* parent = nullptr);
+
+    /// Opacity 0 to 255. Kept even where nothing composites windows.
+    void Transparence(int alpha);
+    int alpha() const { return alpha_; }
+
+    /// Place and size in twips of the screen, brought within it.
+    void placer(Rectangle voulu);
+    /// A press on `poignee` moves the window. Several handles may be given.
+    void deplacerPar(QWidget* poignee);
+
+    /// Runs `action`; a fault becomes one message. While that message stands, and for 0.3 s after the last
+    /// time that the same fault was met, the same fault is not told again: a timer that fails at each tick
+    /// must leave the person able to act.
+    template <class Action>
+    void garder(Action&& action) noexcept {
+        try {
+            std::forward<Action>(action)();
+        } catch (const std::exception& faute) {
+            signaler(faute);
+        }
+    }
+
+  protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+    Session& session_;
+    Plateforme& plateforme_;
+    Fenetres& fenetres_;
+
+  private:
+    void signaler(const std::exception& faute) noexcept;
+    void deplacer(QEvent* evenement);
+
+    int alpha_ = 255;
+    std::vector<QObject*> poignees_;
+    QPoint prise_;         ///< of the press, from the window's corner
+    bool glisse_ = false;  ///< moved by hand, where the system can't
+    bool signale_ = false; ///< a message stands
+    std::string derniereFaute_;
+    std::chrono::steady_clock::time_point derniereFois_;
+};
+
+/// Runs `action` under the guard of the window that `controle` stands in; without one, unguarded.
+template <class Action>
+void garderPour(QWidget* controle, Action&& action) {
+    for (QWidget* parent = controle; parent; parent = parent->parentWidget())
+        if (auto* forme = qobject_cast<Forme*>(parent)) return forme->garder(std::forward<Action>(action));
+    std::forward<Action>(action)();
+}
+
+/// A picture that is pressed: an SVG of the resources, another while it is held, a tooltip that is also its
+/// accessible name. Reached by Tab, pressed by Space and Enter; a click leaves the focus where it was.
+class BoutonImage : public QAbstractButton {
+    Q_OBJECT
+  public:
+    BoutonImage(const QString& nom, const QString& icone, const QString& bulle, QWidget* parent);
+    void icone(const QString& icone); ///< name under ":/icones/", without its extension
+    void iconePressee(const QString& icone);
+    void bulle(const QString& bulle); ///< tooltip and accessible name
+    QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
+
+  private:
+    std::string icone_, iconePressee_;
+    QSize naturelle_; ///< pixels
+};
+
+/// Places a widget by its geometry in twips of its parent.
+void poser(QWidget* controle, Rectangle cadre);
+
+} // namespace vermo

@@ -1,0 +1,113 @@
+#include "window/ui/Forme.h"
+
+#include "corpus/Session.h"
+#include "support/FenetresMuettes.h"
+#include "support/PlateformeDeTest.h"
+#include "window/ui/Toile.h"
+
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace vermo {
+namespace {
+
+class FormeEssai : public testing::Test {
+  protected:
+    essai::PlateformeDeTest hote;
+    essai::FenetresMuettes fenetres;
+    Session session;
+    Forme forme{"FrmEssai", session, hote.plateforme, fenetres};
+};
+
+TEST_F(FormeEssai, UneFauteDansUnRappelDevientUnMessage) {
+    QWidget cadre(&forme);
+    Toile toile(QStringLiteral("Picture1"), &cadre);
+    toile.resize(20, 20);
+    toile.surPression = [](const Souris&) { throw FauteExecution("illisible", "a.Rtr", 12); };
+    bool relachee = false;
+    toile.surRelachement = [&](const Souris&) { relachee = true; };
+    hote.dialogues.repondre(Reponse::Ok, "a.Rtr");
+    QTest::mouseClick(&toile, Qt::LeftButton);
+    EXPECT_TRUE(relachee) << "the program goes on";
+    EXPECT_NE(hote.dialogues.dernier().find("|Ok|Exclamation"), std::string::npos);
+}
+
+TEST_F(FormeEssai, UneFauteQuiSeRepeteEstDiteUneFois) {
+    auto tic = [&] { forme.garder([] { throw FauteExecution("encore"); }); };
+    hote.dialogues.repondre(Reponse::Ok, "encore").repondre(Reponse::Ok, "autre");
+    tic();
+    tic();
+    forme.garder([] { throw FauteExecution("autre"); });
+    EXPECT_EQ(hote.dialogues.journal().size(), 2u);
+}
+
+TEST_F(FormeEssai, LOpaciteEstGardee) {
+    for (const auto& [voulue, gardee] : {std::pair{230, 230}, {0, 0}, {-5, 0}, {260, 255}}) {
+        forme.Transparence(voulue);
+        EXPECT_EQ(forme.alpha(), gardee);
+        EXPECT_NEAR(forme.windowOpacity(), gardee / 255.0, 1e-6);
+    }
+}
+
+TEST_F(FormeEssai, PlaceeDansLEcranEtSansCadre) {
+    hote.ecran.zone.barreDesTaches = 40;
+    forme.placer({27000, -300, 6000, 3000});
+    EXPECT_EQ(forme.geometry(), QRect(1520, 0, 400, 200));
+    forme.placer({0, 1305, 28800, 30000});
+    EXPECT_EQ(forme.geometry(), QRect(0, 0, 1920, 1040));
+    EXPECT_TRUE(forme.windowFlags() & Qt::FramelessWindowHint);
+}
+
+TEST_F(FormeEssai, DeplaceeParSonTitre) {
+    QWidget titre(&forme);
+    titre.resize(100, 20);
+    forme.deplacerPar(&titre);
+    forme.placer({1500, 1500, 6000, 3000});
+    forme.show();
+    QTest::mousePress(&titre, Qt::LeftButton, {}, {10, 10});
+    QMouseEvent mouvement(QEvent::MouseMove, {40, 30}, titre.mapToGlobal(QPointF(40, 30)), Qt::NoButton,
+                          Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&titre, &mouvement);
+    EXPECT_EQ(forme.pos(), QPoint(130, 120));
+    QTest::mouseRelease(&titre, Qt::LeftButton, {}, {10, 10});
+    QTest::mouseMove(&titre, {60, 10});
+    EXPECT_EQ(forme.pos(), QPoint(130, 120));
+}
+
+TEST_F(FormeEssai, UnBoutonSEnfonceAuClavierEtSeNomme) {
+    BoutonImage bouton(QStringLiteral("ImgCroix"), QStringLiteral("Ajouter"), QStringLiteral("Fermer"),
+                       &forme);
+    int appuis = 0;
+    QObject::connect(&bouton, &QAbstractButton::clicked, [&] { ++appuis; });
+    for (Qt::Key touche : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
+        QTest::keyClick(&bouton, touche);
+    EXPECT_EQ(appuis, 3);
+    bouton.setEnabled(false);
+    QTest::keyClick(&bouton, Qt::Key_Return);
+    EXPECT_EQ(appuis, 3);
+    EXPECT_EQ(bouton.accessibleName(), QStringLiteral("Fermer"));
+}
+
+TEST_F(FormeEssai, UnBoutonMontreSonIconeEtSIlEstInactif) {
+    BoutonImage bouton(QStringLiteral("ImgBtn"), QStringLiteral("Ajouter"), QStringLiteral("Ajouter"),
+                       &forme);
+    auto clarte = [&] {
+        const QImage image = bouton.grab().toImage();
+        int somme = 0;
+        for (int x = 0; x < image.width(); ++x)
+            for (int y = 0; y < image.height(); ++y)
+                somme += image.pixelColor(x, y).lightness();
+        return somme / (image.width() * image.height());
+    };
+    bouton.resize(36, 36);
+    const int actif = clarte();
+    bouton.setEnabled(false);
+    const int inactif = clarte();
+    bouton.icone(QString());
+    const int vide = clarte();
+    EXPECT_GT(actif, inactif);
+    EXPECT_GT(inactif, vide);
+}
+
+} // namespace
+} // namespace vermo
