@@ -1,0 +1,131 @@
+#include "audio/Regles.h"
+#include "audio/Zoom.h"
+#include "audio/ui/FrmVisu.h"
+#include "textfile/chemins.h"
+#include "textfile/faute.h"
+#include "textfile/fichier.h"
+#include "transcription/Retranscription.h"
+#include "window/ui/Glace.h"
+
+#include <QLineEdit>
+#include <QPainter>
+#include <QScopedValueRollback>
+
+namespace vermo {
+
+namespace {
+
+QImage versImage(const Bitmap8& image) {
+    return QImage::fromData(QByteArray::fromStdString(ecrireBmp(image)), "BMP");
+}
+
+Bitmap8 versBitmap8(const QImage& image) {
+    const QImage indexee = image.convertToFormat(QImage::Format_Indexed8);
+    std::vector<Couleur> palette;
+    for (const QRgb couleur : indexee.colorTable())
+        palette.push_back(rvb(qRed(couleur), qGreen(couleur), qBlue(couleur)));
+    Bitmap8 resultat(indexee.width(), indexee.height(), palette, 0);
+    for (int y = 0; y < indexee.height(); ++y)
+        for (int x = 0; x < indexee.width(); ++x)
+            resultat.pixel(x, y, static_cast<std::uint8_t>(indexee.pixelIndex(x, y)));
+    return resultat;
+}
+
+} // namespace
+
+double FrmVisu::densite() const {
+    return devicePixelRatioF() / TWIPS_PAR_PIXEL;
+}
+
+void FrmVisu::remplirVue() {
+    const Utf8 cache = cheminReel(compagnon(plateforme_.media.URL(), "Bmp"));
+    const QImage gardee = fichierExiste(cache) ? QImage(utf8VersQt(cache)) : QImage();
+    if (!gardee.isNull())
+        Picture1_->image(gardee);
+    else if (estWav(plateforme_.media.URL()))
+        DessinerVueEtCache(cache);
+    else
+        dessinerRegleEnVue(cache);
+}
+
+void FrmVisu::DessinerVueEtCache(const Utf8& cache) {
+    const Twips largeur = Picture1_->largeurTwips();
+    Bitmap8 image = fondUni(largeur, HAUTEUR_PICTURE1, densite(), theme::ONDE);
+    session_.audio.EnteteWav = DessinerOnde(image, 0,
+                                            {.vue = Vue::Picture1,
+                                             .fichier = plateforme_.media.URL(),
+                                             .empan = {},
+                                             .largeur = largeur,
+                                             .hauteur = HAUTEUR_PICTURE1,
+                                             .densite = densite()},
+                                            PointsVue_, &plateforme_.progression);
+    Picture1_->image(versImage(image));
+    enregistrerCache(cache, image);
+}
+
+void FrmVisu::dessinerRegleEnVue(const Utf8& cache) {
+    Pict_tps_->dessin({});
+    const Texte nom = entretien().Fichier;
+    QImage image(Picture1_->size() * devicePixelRatioF(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(devicePixelRatioF());
+    image.fill(couleurQt(theme::ONDE));
+    QPainter peintre(&image);
+    peindreDessin(peintre,
+                  DessinerRegleMinutes(session_.audio.DureeFichier, Picture1_->largeurTwips(),
+                                       nom.substr(nom.size() - std::min<std::size_t>(nom.size(), 3))));
+    peintre.end();
+    Picture1_->image(image);
+    enregistrerCache(cache, versBitmap8(image));
+}
+
+/// A directory that can't be written costs a message, not the opening.
+void FrmVisu::enregistrerCache(const Utf8& cache, const Bitmap8& image) {
+    if (fichierExiste(cache)) return;
+    garder([&] { remplacerFichier(cache, ecrireBmp(image)); });
+}
+
+QImage FrmVisu::ondeZoom() {
+    const EtatAudio& audio = session_.audio;
+    const Twips largeur = Pict_zoom_->largeurTwips(), hauteur = Pict_zoom_->hauteurTwips();
+    Bitmap8 image = fondZoom(largeur, hauteur, densite());
+    if (!estWav(plateforme_.media.URL())) return versImage(image);
+    PointsZoom_.allouer(static_cast<std::size_t>(2 * largeur) + 1);
+    try {
+        session_.audio.EnteteWav =
+            DessinerOnde(image, 0,
+                         {.vue = Vue::Pict_zoom,
+                          .fichier = plateforme_.media.URL(),
+                          .empan = {.debut = audio.DebutZoom == 0 ? 0 : audio.DebutZoom / audio.DureeFichier,
+                                    .part = 1 / static_cast<double>(audio.FacteurZoom)},
+                          .largeur = largeur,
+                          .hauteur = hauteur,
+                          .densite = densite()},
+                         PointsZoom_, &plateforme_.progression);
+    } catch (const FauteExecution&) {
+        // A recording that has gone leaves an empty band; the player's own line says so.
+    }
+    return versImage(image);
+}
+
+void FrmVisu::DessinerZoom() {
+    if (dessinEnCours_) return;
+    const QScopedValueRollback enCours(dessinEnCours_, true);
+    plateforme_.ecran.pointeur(Pointeur::Sablier);
+    cacherSelections();
+    const EtatAudio& audio = session_.audio;
+    Pict_zoom_->image(ondeZoom());
+    Pict_tpsZ_->dessin(DessinerRegleSecondes(audio.DebutZoom, audio.DureeZoom, Pict_zoom_->largeurTwips()));
+    garder([this] { LireRetranscription(session_, plateforme_); });
+    AfficherExtraits();
+    plateforme_.ecran.pointeur(Pointeur::Normal);
+    TxtCtrl_->setFocus();
+}
+
+void FrmVisu::DessinerVolume() {
+    EtatAudio& audio = session_.audio;
+    if (audio.VolumeLecture == 0) audio.VolumeLecture = static_cast<float>(plateforme_.media.volume());
+    PictVol_->dessin(
+        vermo::DessinerVolume(audio.VolumeLecture, PictVol_->largeurTwips(), PictVol_->hauteurTwips()));
+}
+
+} // namespace vermo

@@ -1,0 +1,164 @@
+#include "audio/Zoom.h"
+#include "audio/ui/FrmVisu.h"
+#include "transcription/Retranscription.h"
+#include "window/ui/Glace.h"
+
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QPointer>
+
+namespace vermo {
+
+void FrmVisu::Timer1_Tick() {
+    direEtatSon();
+    LecteurMedia& media = plateforme_.media;
+    if (ferme_ || !media.enLecture() || fenetres_.visible(Fenetre::FrmSaisie)) return;
+    EtatAudio& audio = session_.audio;
+    const double p = media.currentPosition();
+    const SuiviLecture suivi = suivreLecture(audio, p, Picture1_->largeurTwips(), Pict_zoom_->largeurTwips());
+    LblCompteur_->setText(versQt(suivi.LblCompteur));
+    placerCurseurZoom(suivi.largeurCurseurZoom);
+    if (suivi.TotalSelect) deplacerForme(*Picture1_, Controle::TotalSelect, *suivi.TotalSelect);
+    if (suivi.ZoomSelect) deplacerForme(*Pict_zoom_, Controle::ZoomSelect, *suivi.ZoomSelect);
+    if (suivi.pageFinie && GlisseZoomDebut_ == 0) {
+        tournerPage(audio, p);
+        suivreShpVisu();
+        DessinerZoom();
+    }
+    deplacerForme(*Picture1_, Controle::Curseur, {suivi.gaucheCurseur, TWIPS_PAR_PIXEL});
+    entretien().Reprise = suivi.Reprise;
+}
+
+void FrmVisu::direEtatSon() {
+    const LecteurMedia& media = plateforme_.media;
+    const Utf8 erreur = media.erreur();
+    const bool alerte = !erreur.empty() || media.muet();
+    const QString texte =
+        !erreur.empty() ? utf8VersQt(erreur)
+        : media.muet()
+            ? tr("Pas de sortie son : la lecture est silencieuse")
+            : tr("Espace : lecture, pause    ← → : déplacer    + - : zoom    Entrée : marquer un extrait    "
+                 "F2 : ouvrir l'extrait    Échap : fermer");
+    if (texte == lblEtat_->text()) return;
+    QPalette palette = lblEtat_->palette();
+    palette.setColor(QPalette::WindowText, couleurQt(alerte ? rvb(255, 196, 110) : theme::TEXTE_DISCRET));
+    lblEtat_->setPalette(palette);
+    lblEtat_->setText(texte);
+}
+
+void FrmVisu::Timer3_Tick() {
+    if (!isVisible()) return;
+    const Fondu fondu = avancerFondu(session_.EtatFondu, session_.audio.VolumeLecture);
+    if (fondu.alpha) Transparence(*fondu.alpha);
+    if (fondu.volume) plateforme_.media.volume(*fondu.volume);
+    if (fondu.arreter) Timer3_.stop();
+    if (fondu.decharger) dechargerPlusTard();
+}
+
+void FrmVisu::TimerPlus_Tick() {
+    empanAvant();
+}
+
+void FrmVisu::TimerMoins_Tick() {
+    empanArriere();
+}
+
+void FrmVisu::Media_PlayStateChange(EtatLecture etat) {
+    suivreVolume(session_.audio, plateforme_.media);
+    const bool joue = etat == EtatLecture::Lecture || etat == EtatLecture::AvanceRapide ||
+                      etat == EtatLecture::RetourRapide;
+    ImgMedia_[4]->setVisible(joue);
+    ImgMedia_[1]->setVisible(!joue);
+    if (!joue || std::exchange(marqueDemarre_, false)) return;
+    session_.audio.MarqueDebut = 0;
+    cacherSelections();
+}
+
+void FrmVisu::jouer() {
+    plateforme_.media.play();
+}
+
+void FrmVisu::mettreEnPause() {
+    plateforme_.media.pause();
+}
+
+void FrmVisu::zoomAvant() {
+    if (zoomer(session_.audio)) apresZoom();
+}
+
+void FrmVisu::zoomArriere() {
+    if (dezoomer(session_.audio)) apresZoom();
+}
+
+void FrmVisu::empanArriere() {
+    reculerEmpan(session_.audio);
+    apresZoom();
+}
+
+void FrmVisu::empanAvant() {
+    avancerEmpan(session_.audio);
+    apresZoom();
+}
+
+void FrmVisu::apresZoom() {
+    suivreShpVisu();
+    DessinerZoom();
+}
+
+/// The player's answer to `play` may come later than the mark: it must not take this mark back.
+void FrmVisu::marquer() {
+    EtatAudio& audio = session_.audio;
+    LecteurMedia& media = plateforme_.media;
+    const bool arrete = !media.enLecture();
+    if (arrete) media.play();
+    if (audio.MarqueDebut == 0) {
+        marqueDemarre_ = arrete && !media.enLecture();
+        audio.MarqueDebut = media.currentPosition();
+        return;
+    }
+    const Bornes span{audio.MarqueDebut, media.currentPosition()};
+    audio.MarqueDebut = 0;
+    cacherSelections();
+    ouvrirSaisie(span);
+}
+
+void FrmVisu::ouvrirSaisie(Bornes span) {
+    EtatTranscription& etat = session_.transcription;
+    etat.SaisieDebut = span.debut;
+    etat.SaisieFin = span.fin;
+    etat.SaisieDuree = span.fin - span.debut;
+    etat.NouvelExtrait = true;
+    fenetres_.PreparerSaisie();
+}
+
+void FrmVisu::montrerVolume() {
+    if (fenetres_.visible(Fenetre::FrmMenu)) return;
+    constexpr Twips ECART = 60;
+    const QPoint coin = PictVol_->mapToGlobal(QPoint());
+    Rectangle ancre = enTwips(QRectF(QPointF(coin), QSizeF(PictVol_->size())));
+    ancre.hauteur += ECART;
+    fenetres_.OuvrirMenu(Panneau::Volume, ancre);
+}
+
+void FrmVisu::fermer() {
+    if (std::exchange(ferme_, true)) return;
+    fenetres_.quitterVisu();
+    session_.EtatFondu = FONDU_FERMETURE;
+    Transparence(static_cast<int>(FONDU_FIN - FONDU_FERMETURE));
+    Timer3_.start();
+}
+
+void FrmVisu::retournerAuCorpus() {
+    if (std::exchange(ferme_, true)) return;
+    fenetres_.quitterVisu();
+    dechargerPlusTard();
+}
+
+/// The window can't go while one of its own events or ticks is being answered.
+void FrmVisu::dechargerPlusTard() {
+    QTimer::singleShot(0, QCoreApplication::instance(), [visu = QPointer(this), &fenetres = fenetres_] {
+        if (visu) visu->garder([&] { fenetres.decharger(Fenetre::FrmVisu); });
+    });
+}
+
+} // namespace vermo

@@ -1,0 +1,151 @@
+#include "corpus/ui/FrmCorpus.h"
+
+#include "corpus/Panneaux.h"
+#include "corpus/Pistes.h"
+#include "corpus/ui/BarreDefilement.h"
+#include "corpus/ui/CroixDouble.h"
+#include "corpus/ui/ToileEntretiens.h"
+#include "corpus/ui/ToileThematiques.h"
+#include "window/ui/Glace.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QTimer>
+#include <utility>
+
+namespace vermo {
+
+void FrmCorpus::RedessinerFrise() {
+    Imgbtn_[3]->icone(session_.corpus.TailleReelle ? QStringLiteral("Taille1") : QStringLiteral("Taille0"));
+    lblCaption1_->setText(utf8VersQt(session_.corpus.CheminCorpus));
+    Dessin regle = DisposerRegle(session_, largeurBarre(Frm_entretiens_->vue()));
+    PictTps_->setVisible(!regle.inscriptions.empty());
+    PictTps_->dessin({.traits = {}, .inscriptions = std::move(regle.inscriptions)});
+    Frm_entretiens_->dessin({.traits = std::move(regle.traits), .inscriptions = {}});
+    Frm_entretiens_->redessiner();
+    montrerComptes();
+    montrerInvite();
+}
+
+void FrmCorpus::RedessinerPistes() {
+    Frm_entretiens_->disposer();
+    Frm_thm_->disposer();
+    montrerComptes();
+}
+
+void FrmCorpus::ConstruireThematiques() {
+    Frm_thm_->disposer();
+    montrerComptes();
+}
+
+void FrmCorpus::viderAffichage() {
+    lblCaption1_->setText(utf8VersQt(session_.corpus.CheminCorpus));
+    Frm_entretiens_->vider();
+    Frm_thm_->elements({});
+    PictTps_->hide();
+    LblScroll_->hide();
+    LblVide_->hide();
+    QTimer::singleShot(0, this, [this] { montrerInvite(); }); // an opening may end here
+    for (QLabel* compte : etq_)
+        compte->clear();
+    ImgOnOffent_->icone(QStringLiteral("ImgOn"));
+    ImgOnOffthm_->icone(QStringLiteral("ImgOn"));
+}
+
+void FrmCorpus::surface(bool visible) {
+    Frm_entretiens_->setVisible(visible);
+}
+
+Twips FrmCorpus::hauteurFond() const {
+    return disposition_.Frm_fond_entretiens.hauteur;
+}
+
+void FrmCorpus::montrerComptes() {
+    etq_[0]->setText(versQt(compteThematiques(session_.corpus)));
+    etq_[1]->setText(versQt(compteEntretiens(session_.corpus)));
+}
+
+void FrmCorpus::montrerDefilement() {
+    const VueFrise vue = Frm_entretiens_->vue();
+    LblScroll_->montrer(AjusterDefilement(session_, vue.hauteur), vue.defilement, vue.hauteur);
+}
+
+/// What to do first, where there is nothing to see yet.
+void FrmCorpus::montrerInvite() {
+    const EtatCorpus& corpus = session_.corpus;
+    LblVide_->setVisible(nombreLignes(corpus) == 0);
+    if (corpus.CheminCorpus.empty())
+        LblVide_->setText(QStringLiteral("Menu Corpus : créez ou ouvrez un corpus"));
+    else if (corpus.ouvertureInachevee)
+        LblVide_->setText(QStringLiteral("Ce corpus n'est pas ouvert"));
+    else
+        LblVide_->setText(QStringLiteral("Ajoutez un entretien (+)"));
+}
+
+void FrmCorpus::basculerEntretiens() {
+    const bool tous = BasculerTousEntretiens(session_.corpus);
+    ImgOnOffent_->icone(tous ? QStringLiteral("ImgOn") : QStringLiteral("ImgOff"));
+    fenetres_.RedessinerPistes();
+}
+
+void FrmCorpus::basculerThematiques() {
+    const bool toutes = BasculerToutesThematiques(session_.corpus);
+    ImgOnOffthm_->icone(toutes ? QStringLiteral("ImgOn") : QStringLiteral("ImgOff"));
+    fenetres_.RedessinerPistes();
+}
+
+void FrmCorpus::zoomPlus() {
+    zoomer(zoomAvant(session_.corpus.HauteurEntretien));
+}
+void FrmCorpus::zoomMoins() {
+    zoomer(zoomArriere(session_.corpus.HauteurEntretien));
+}
+
+/// The row at the window's top stays there.
+void FrmCorpus::zoomer(float hauteur) {
+    if (nombreLignes(session_.corpus) == 0) return;
+    const Twips rangs = Frm_entretiens_->vue().defilement / session_.corpus.HauteurEntretien;
+    plateforme_.ecran.pointeur(Pointeur::FlecheSablier);
+    surface(false);
+    session_.corpus.HauteurEntretien = hauteur;
+    garder([this] {
+        fenetres_.RedessinerFrise();
+        fenetres_.RedessinerPistes();
+    });
+    surface(true);
+    Frm_entretiens_->defiler(rangs * hauteur);
+    plateforme_.ecran.pointeur(Pointeur::Normal);
+}
+
+void FrmCorpus::tailleReelle() {
+    plateforme_.ecran.pointeur(Pointeur::Sablier);
+    surface(false);
+    garder([this] { fenetres_.BasculerTailleReelle(true); });
+    surface(true);
+    plateforme_.ecran.pointeur(Pointeur::Normal);
+}
+
+void FrmCorpus::croix() {
+    if (ImgCroix_->gauche())
+        showMinimized();
+    else
+        fenetres_.finir();
+}
+
+void FrmCorpus::closeEvent(QCloseEvent* evenement) {
+    evenement->accept();
+    garder([this] { fenetres_.finir(); });
+}
+
+/// Windows that are open over this one stay in front of it.
+void FrmCorpus::changeEvent(QEvent* evenement) {
+    Forme::changeEvent(evenement);
+    if (evenement->type() != QEvent::ActivationChange || !isActiveWindow()) return;
+    garder([this] {
+        DessinerVolume();
+        for (const Fenetre autre : {Fenetre::FrmSaisie, Fenetre::FrmVisu})
+            if (fenetres_.visible(autre)) return fenetres_.montrer(autre);
+    });
+}
+
+} // namespace vermo

@@ -1,0 +1,97 @@
+#pragma once
+#include "corpus/DispositionCorpus.h"
+#include "window/ui/Forme.h"
+
+#include <array>
+
+class QLabel;
+class QProgressBar;
+
+namespace vermo {
+
+class BarreDefilement;
+class CroixDouble;
+class Lien;
+class Toile;
+class ToileEntretiens;
+class ToileThematiques;
+
+/// The main window: thematics on the left, the timeline of the interviews on the right, menus and command
+/// buttons above them. Shows the Session and changes nothing of the corpus by itself but its switches; what
+/// goes further is asked of `Fenetres`.
+///
+/// Members by object name: ImgTop (title), lblCaption0 (version), lblCaption1 (path of the corpus), PictVol,
+/// ImgCroix0, lblmenu0 to lblmenu3, Imgbtn0 to Imgbtn8 (2 stands for no command and isn't there), ImgZoom0,
+/// ImgZoom1, etq0, etq1, ImgOnOffthm0, ImgOnOffent, Frm_fond_thm with Frm_thm, Frm_fond_entretiens with
+/// Frm_entretiens and LblScroll, PictTps, ProgressBar1, LblVide (what to do first).
+///
+/// Keys of the window: Alt+C, E, T, A open the menus, Alt+V the volume, + and - zoom.
+class FrmCorpus : public Forme {
+    Q_OBJECT
+  public:
+    FrmCorpus(Session& session, Plateforme& plateforme, Fenetres& fenetres);
+
+    /// Shows rows, bars, ruler and counters anew. Scanning the interviews first is the caller's.
+    void RedessinerFrise();
+    /// Shows bars, colours of the thematics and counters anew.
+    void RedessinerPistes();
+    void ConstruireThematiques(); ///< the list of thematics
+    /// Nothing of the corpus that was open: no rows, no thematics, no highlight; its path stays the
+    /// Session's.
+    void viderAffichage();
+    /// Hides or shows the surface of the rows while they are laid out anew.
+    void surface(bool visible);
+    /// Draws the volume gauge; VolumeLecture is the player's when it wasn't read yet.
+    void DessinerVolume();
+
+    Twips hauteurFond() const; ///< of Frm_fond_entretiens, for HauteurEntretien
+    QProgressBar* ProgressBar1() const { return ProgressBar1_; }
+
+  protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
+    void closeEvent(QCloseEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
+    void paintEvent(QPaintEvent* evenement) override;
+
+  private:
+    void construireTitre();
+    void construireMenus();
+    void construireBoutons();
+    void construirePanneaux();
+    BoutonImage* ajouterBouton(const QString& nom, const QString& icone, const QString& bulle,
+                               void (FrmCorpus::*action)());
+    void placerControles();
+    void ouvrirMenu(int index);
+    void ouvrirVolume();
+    void croix();
+    void tailleReelle();
+    void ajouterEntretien() { fenetres_.ImporterEntretien(); }
+    void zoomPlus();
+    void zoomMoins();
+    void zoomer(float hauteur);
+    void basculerEntretiens();
+    void basculerThematiques();
+    void montrerComptes();
+    void montrerDefilement();
+    void montrerInvite();
+    Rectangle surEcran(const QWidget* controle) const;
+
+    DispositionCorpus disposition_;
+    QWidget *ImgTop_, *Frm_fond_thm_, *Frm_fond_entretiens_, *FrmBtnEntr_;
+    ToileThematiques* Frm_thm_;
+    ToileEntretiens* Frm_entretiens_;
+    BarreDefilement* LblScroll_;
+    Toile *PictTps_, *PictVol_;
+    QLabel *lblCaption1_, *LblVide_;
+    std::array<QLabel*, 2> etq_{};
+    std::array<Lien*, 4> lblmenu_{};
+    std::array<BoutonImage*, 9> Imgbtn_{};
+    std::array<BoutonImage*, 2> ImgZoom_{};
+    BoutonImage *ImgOnOffent_, *ImgOnOffthm_;
+    CroixDouble* ImgCroix_;
+    QProgressBar* ProgressBar1_;
+};
+
+} // namespace vermo

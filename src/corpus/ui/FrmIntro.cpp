@@ -1,0 +1,190 @@
+#include "corpus/ui/FrmIntro.h"
+
+#include "corpus/OuvertureCorpus.h"
+#include "corpus/Session.h"
+#include "window/Detourage.h"
+#include "window/ui/Glace.h"
+#include "window/ui/Lien.h"
+#include "window/ui/Theme.h"
+#include "window/ui/Toile.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <vector>
+
+namespace vermo {
+namespace {
+
+constexpr int OPACITE = 249;
+constexpr int PREMIER_RECENT = 3; ///< of lblcorpus
+
+// Sizes in pixels.
+constexpr int LARGEUR = 640, HAUTEUR = 452, ARRONDI = 26;
+constexpr QRect MARQUE{44, 38, 76, 76};
+constexpr QRect TITRE{140, 36, 400, 48};
+constexpr QRect SOUS_TITRE{142, 86, 400, 24};
+constexpr int TRAIT_HAUT = 136, TRAIT_BAS = 394;
+constexpr QRect LIGNES{56, 150, 540, 29}; ///< the first line of the list
+constexpr QRect FERMER{586, 24, 28, 28}, SON{44, 406, 28, 28}, SUIVANT{568, 406, 28, 28};
+constexpr QRect TEXTE_SON{80, 406, 470, 28};
+constexpr int BANDE_PUCE = 18, COTE_PUCE = 16;
+
+constexpr int TIC_SON_MS = 100, TICS_SON_MAX = 30;
+
+} // namespace
+
+FrmIntro::FrmIntro(Session& session, Plateforme& plateforme, Fenetres& fenetres)
+    : Forme("FrmIntro", session, plateforme, fenetres),
+      Picture1_(new Toile(QStringLiteral("Picture1"), this)), LblSon_(new QLabel(this)) {
+    setWindowTitle(QStringLiteral("Vermo"));
+    Transparence(OPACITE);
+    const ZoneTravail zone = plateforme_.ecran.zoneTravail();
+    placer({(zone.largeur - enTwips(LARGEUR)) / 2, (zone.hauteur - enTwips(HAUTEUR)) / 2, enTwips(LARGEUR),
+            enTwips(HAUTEUR)});
+    peindreFond();
+    decouper();
+    deplacerPar(Picture1_);
+    ajouterBoutons();
+    listerCorpus();
+    Picture1_->surMouvement = [this](const Souris&) { Lien::soulignerSeul(this, nullptr); };
+    TimerSon_.setInterval(TIC_SON_MS);
+    connect(&TimerSon_, &QTimer::timeout, this, [this] { garder([this] { TimerSon_Tick(); }); });
+}
+
+void FrmIntro::peindreFond() {
+    const double finesse = devicePixelRatioF();
+    QImage image(QSize(LARGEUR, HAUTEUR) * finesse, QImage::Format_RGB32);
+    image.setDevicePixelRatio(finesse);
+    image.fill(Qt::black);
+    QPainter peintre(&image);
+    const QRectF bord(0.5, 0.5, LARGEUR - 1, HAUTEUR - 1);
+    peintre.setPen(couleurQt(theme::BORD));
+    peintre.setBrush(couleurQt(theme::FENETRE));
+    peintre.drawRoundedRect(bord, ARRONDI, ARRONDI);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.drawRoundedRect(bord, ARRONDI, ARRONDI);
+    peintre.drawLine(MARQUE.left(), TRAIT_HAUT, LARGEUR - MARQUE.left(), TRAIT_HAUT);
+    peintre.drawLine(MARQUE.left(), TRAIT_BAS, LARGEUR - MARQUE.left(), TRAIT_BAS);
+    peintre.drawImage(MARQUE, imageEtiree(":/icones/Vermo.svg", MARQUE.size() * finesse));
+    peintre.setPen(couleurQt(theme::TEXTE));
+    peintre.setFont(theme::police(26, true));
+    peintre.drawText(TITRE, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Vermo"));
+    peintre.end();
+    Picture1_->setGeometry(0, 0, LARGEUR, HAUTEUR);
+    Picture1_->image(image);
+}
+
+void FrmIntro::decouper() {
+    const QImage image = Picture1_->image().scaled(LARGEUR, HAUTEUR);
+    std::vector<QRect> bandes;
+    for (const Segment& s :
+         RegionDepuisImage(LARGEUR, HAUTEUR, [&](int x, int y) { return image.pixel(x, y); }))
+        bandes.emplace_back(s.debut, s.y, s.fin - s.debut, 1);
+    QRegion region;
+    region.setRects(bandes.data(), static_cast<int>(bandes.size()));
+    setMask(region);
+}
+
+void FrmIntro::ajouterBoutons() {
+    auto* version = new QLabel(QStringLiteral(VERMO_VERSION), this);
+    version->setObjectName(QStringLiteral("LblVersion"));
+    version->setAccessibleName(QStringLiteral("Version"));
+    version->setGeometry(SOUS_TITRE);
+    version->setFont(theme::police(9));
+
+    LblSon_->setAccessibleName(QStringLiteral("Essai du son"));
+    LblSon_->setObjectName(QStringLiteral("LblSon"));
+    LblSon_->setGeometry(TEXTE_SON);
+    LblSon_->setFont(theme::police(9));
+
+    const auto bouton = [this](const char* nom, const char* icone, const QString& bulle, QRect place) {
+        auto* b = new BoutonImage(QString::fromLatin1(nom), QString::fromLatin1(icone), bulle, this);
+        b->setGeometry(place);
+        b->setCursor(Qt::PointingHandCursor);
+        return b;
+    };
+    connect(bouton("ImgTestSon", "TestSon", QStringLiteral("Tester le volume sonore"), SON),
+            &QAbstractButton::clicked, this, [this] { garder([this] { testerSon(); }); });
+    connect(bouton("ImgBtn1", "Suivant", QStringLiteral("Continuer sans ouvrir de corpus"), SUIVANT),
+            &QAbstractButton::clicked, this, [this] {
+                garder([this] {
+                    fenetres_.montrer(Fenetre::FrmCorpus);
+                    fenetres_.decharger(Fenetre::FrmIntro);
+                });
+            });
+    connect(bouton("Image1", "Fermer", QStringLiteral("Arrêt du programme"), FERMER),
+            &QAbstractButton::clicked, this, [this] { garder([this] { fenetres_.finir(); }); });
+}
+
+void FrmIntro::listerCorpus() {
+    ajouterLigne(0, QStringLiteral("Créer un nouveau projet..."));
+    ajouterLigne(1, QStringLiteral("Ouvrir un projet..."))->setFocus();
+    ajouterLigne(2, QStringLiteral("Modèle"))->setEnabled(false);
+    Elements puces;
+    int index = PREMIER_RECENT;
+    for (const Utf8& chemin : listeProjets(plateforme_.emplacements)) {
+        const QRect ligne = ajouterLigne(index, utf8VersQt(chemin))->geometry();
+        const QRectF puce(ligne.left() - BANDE_PUCE, ligne.center().y() - COTE_PUCE / 2.0, COTE_PUCE,
+                          COTE_PUCE);
+        puces.push_back({.controle = Controle::ImgPuce,
+                         .index = index++,
+                         .cadre = enTwips(puce),
+                         .tag = {},
+                         .image = ":/icones/Puce.svg"});
+    }
+    Picture1_->elements(std::move(puces));
+}
+
+Lien* FrmIntro::ajouterLigne(int index, const QString& texte) {
+    auto* ligne = new Lien(QStringLiteral("lblcorpus%1").arg(index), texte, this);
+    ligne->setGeometry(LIGNES.translated(0, index * LIGNES.height()));
+    connect(ligne, &QAbstractButton::pressed, ligne, [ligne] { ligne->setCursor(Qt::WaitCursor); });
+    connect(ligne, &QAbstractButton::released, ligne, [ligne] {
+        ligne->encre(BLANC);
+        ligne->setCursor(Qt::PointingHandCursor);
+    });
+    const Utf8 chemin = index >= PREMIER_RECENT ? utf8DepuisQt(texte) : Utf8();
+    connect(ligne, &QAbstractButton::clicked, this, [this, index, chemin] { clicCorpus(index, chemin); });
+    return ligne;
+}
+
+/// Leaving this window is one-way: whatever comes of the opening, the corpus window takes over.
+void FrmIntro::clicCorpus(int index, const Utf8& chemin) {
+    if (index <= 1) garder([&] { fenetres_.montrer(Fenetre::FrmCorpus); });
+    garder([&] {
+        if (index >= PREMIER_RECENT) session_.corpus.CheminCorpus = chemin;
+        if (index != 0) session_.corpus.OuvertureDirecte = index >= PREMIER_RECENT;
+        index == 0 ? fenetres_.NouveauCorpus() : fenetres_.OuvrirCorpus();
+    });
+    garder([&] {
+        fenetres_.montrer(Fenetre::FrmCorpus);
+        fenetres_.decharger(Fenetre::FrmIntro);
+    });
+}
+
+void FrmIntro::testerSon() {
+    const Utf8 son = plateforme_.emplacements.fichierLu("Vermo de Vermo.mp3");
+    if (son.empty()) throw FauteExecution("Le son d'essai est introuvable", "Vermo de Vermo.mp3");
+    LblSon_->clear();
+    plateforme_.media.URL(son);
+    plateforme_.media.play();
+    ticsSon_ = 0;
+    TimerSon_.start();
+}
+
+void FrmIntro::TimerSon_Tick() {
+    Utf8 obstacle = plateforme_.media.erreur();
+    if (obstacle.empty() && plateforme_.media.muet())
+        obstacle = "Aucune sortie son : la lecture est silencieuse.";
+    LblSon_->setText(utf8VersQt(obstacle));
+    if (!obstacle.empty() || ++ticsSon_ >= TICS_SON_MAX) TimerSon_.stop();
+}
+
+void FrmIntro::keyPressEvent(QKeyEvent* evenement) {
+    if (evenement->key() == Qt::Key_Up || evenement->key() == Qt::Key_Down)
+        focusNextPrevChild(evenement->key() == Qt::Key_Down);
+    else
+        Forme::keyPressEvent(evenement);
+}
+
+} // namespace vermo

@@ -1,0 +1,45 @@
+#pragma once
+#include "window/ui/Forme.h"
+
+#include <QLabel>
+#include <QTimer>
+
+namespace vermo {
+
+class Lien;
+class Toile;
+
+/// The start window: creates or opens a corpus, or lists the last ones opened. Making it is the program's
+/// start, so it does little: one painted picture, a few lines of text, three buttons. The player is touched
+/// by the sound test only.
+///
+/// Members by object name: Picture1 (the ground, whose outline is the window's), LblVersion, lblcorpus0 to
+/// lblcorpus7 (0 new, 1 open, 2 model, from 3 the recent corpora), ImgPuce (items of Picture1), ImgBtn1 (go
+/// on without a corpus), Image1 (end), ImgTestSon, LblSon.
+class FrmIntro : public Forme {
+    Q_OBJECT
+  public:
+    FrmIntro(Session& session, Plateforme& plateforme, Fenetres& fenetres);
+
+    /// Tells what hinders the sound that is being tested.
+    void TimerSon_Tick();
+
+  protected:
+    void keyPressEvent(QKeyEvent* evenement) override;
+
+  private:
+    void peindreFond();
+    void decouper();
+    void ajouterBoutons();
+    void listerCorpus();
+    Lien* ajouterLigne(int index, const QString& texte);
+    void clicCorpus(int index, const Utf8& chemin);
+    void testerSon();
+
+    Toile* Picture1_;
+    QLabel* LblSon_;
+    QTimer TimerSon_;
+    int ticsSon_ = 0;
+};
+
+} // namespace vermo

@@ -1,0 +1,166 @@
+#include "corpus/Panneaux.h"
+#include "corpus/ui/ToileEntretiens.h"
+#include "window/Fenetres.h"
+#include "window/ui/Forme.h"
+#include "window/ui/Glace.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace vermo {
+namespace {
+
+/// The controls by which a row is dragged.
+bool poignee(Controle controle) {
+    return controle == Controle::ImgOnOff || controle == Controle::lblfich || controle == Controle::lblpiste;
+}
+
+} // namespace
+
+void ToileEntretiens::presser(const Souris& souris) {
+    glisse_ = false;
+    source_ = cible_ = 0;
+    if (souris.bouton != Qt::LeftButton || !souris.element || !poignee(souris.element->controle)) return;
+    source_ = souris.element->index;
+    prise_ = souris.y;
+}
+
+void ToileEntretiens::bouger(const Souris& souris) {
+    setCursor(glisse_ ? Qt::ClosedHandCursor : souris.element ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    if (source_ == 0) return;
+    if (!glisse_ && std::abs(souris.y - prise_) < enTwips(QApplication::startDragDistance())) return;
+    glisse_ = true;
+    session_.corpus.LigneSource = static_cast<std::int16_t>(source_);
+    const int avant = std::exchange(cible_, slotSous(session_, souris.y));
+    const bool auDessus = souris.y<defile_, auDessous = souris.y> defile_ + hauteurTwips();
+    defiler(defile_ + (auDessous - auDessus) * static_cast<Twips>(session_.corpus.HauteurEntretien));
+    if (cible_ != avant) disposer();
+}
+
+void ToileEntretiens::relacher(const Souris&) {
+    const int source = std::exchange(source_, 0), cible = std::exchange(cible_, 0);
+    if (!glisse_) return;
+    setCursor(Qt::ArrowCursor);
+    disposer();
+    if (cible == 0 || cible == source) return;
+    session_.corpus.LigneCible = static_cast<std::int16_t>(cible);
+    fenetres_.DeplacerEntretien(source, cible);
+}
+
+void ToileEntretiens::cliquer(const Element& element, Twips y) {
+    switch (element.controle) {
+    case Controle::ImgOnOff:
+        return basculer(element.index, false);
+    case Controle::ImgPlay:
+        return fenetres_.OuvrirEntretien(element.index, Ouverture::AvecFondu);
+    case Controle::ImgEnt:
+        return choisir(element.index);
+    case Controle::Lblthm:
+        return choisir(slotSous(session_, y));
+    default:
+        return;
+    }
+}
+
+void ToileEntretiens::doubleCliquer(const Element& element) {
+    if (element.controle == Controle::ImgOnOff)
+        basculer(element.index, true);
+    else if (element.controle == Controle::lblfich)
+        fenetres_.OuvrirEntretien(element.index, Ouverture::SansFondu);
+}
+
+void ToileEntretiens::basculer(int slot, bool seul) {
+    seul ? IsolerEntretien(session_.corpus, slot) : BasculerEntretien(session_.corpus, slot);
+    fenetres_.RedessinerPistes();
+}
+
+void ToileEntretiens::choisir(int slot) {
+    if (slot < 1 || slot > nombreLignes(session_.corpus)) return;
+    repeindreLigne(std::exchange(session_.corpus.EntretienCourant, static_cast<std::int16_t>(slot)));
+    listeAJour_ = false;
+    repeindreLigne(slot);
+    setAccessibleDescription(versQt(session_.corpus.Entretiens[static_cast<std::size_t>(slot)].Fichier));
+    amenerEnVue(slot);
+}
+
+void ToileEntretiens::amenerEnVue(int slot) {
+    const Rectangle barre = cadreImgEnt(session_, slot, vue(), dureeMax(session_.corpus));
+    const Twips marge = slot == 1 ? barre.haut : TAILLES_FRISE.premiereLigne / 2;
+    defiler(std::clamp(defile_, std::min(barre.haut - marge, barre.bas() + marge - hauteurTwips()),
+                       std::max(barre.haut - marge, barre.bas() + marge - hauteurTwips())));
+}
+
+/// A row moved by the keys stays chosen, so that it can be moved on.
+void ToileEntretiens::deplacer(int source, int cible) {
+    if (source == 0 || cible < 1 || cible > nombreLignes(session_.corpus)) return;
+    session_.corpus.LigneSource = static_cast<std::int16_t>(source);
+    session_.corpus.LigneCible = static_cast<std::int16_t>(cible);
+    fenetres_.DeplacerEntretien(source, cible);
+    choisir(cible);
+}
+
+int ToileEntretiens::slotVise(int touche) const {
+    const int courant = session_.corpus.EntretienCourant, nombre = nombreLignes(session_.corpus);
+    const int page = std::max(1, static_cast<int>(hauteurTwips() / session_.corpus.HauteurEntretien) - 1);
+    const auto borne = [&](int slot) { return std::clamp(slot, 1, nombre); };
+    switch (touche) {
+    case Qt::Key_Up:
+        return borne(courant - 1);
+    case Qt::Key_Down:
+        return borne(courant + 1);
+    case Qt::Key_PageUp:
+        return borne(courant - page);
+    case Qt::Key_PageDown:
+        return borne(courant + page);
+    case Qt::Key_Home:
+        return 1;
+    case Qt::Key_End:
+        return nombre;
+    default:
+        return 0;
+    }
+}
+
+bool ToileEntretiens::touche(int touche, Qt::KeyboardModifiers modificateurs) {
+    const int courant = session_.corpus.EntretienCourant;
+    const int vise = slotVise(touche);
+    if (modificateurs & Qt::AltModifier) {
+        if (touche != Qt::Key_Up && touche != Qt::Key_Down) return false;
+        deplacer(courant, touche == Qt::Key_Up ? courant - 1 : courant + 1);
+    } else if (vise != 0) {
+        choisir(vise);
+    } else if (courant == 0) {
+        return false;
+    } else if (touche == Qt::Key_Return || touche == Qt::Key_Enter) {
+        fenetres_.OuvrirEntretien(courant, Ouverture::AvecFondu);
+    } else if (touche == Qt::Key_Space) {
+        basculer(courant, modificateurs & Qt::ShiftModifier);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void ToileEntretiens::keyPressEvent(QKeyEvent* evenement) {
+    bool prise = false;
+    if (nombreLignes(session_.corpus) > 0)
+        garderPour(this, [&] { prise = touche(evenement->key(), evenement->modifiers()); });
+    if (!prise) Toile::keyPressEvent(evenement);
+}
+
+void ToileEntretiens::focusInEvent(QFocusEvent* evenement) {
+    Toile::focusInEvent(evenement);
+    listeAJour_ = false;
+    repeindreLigne(session_.corpus.EntretienCourant);
+}
+
+void ToileEntretiens::focusOutEvent(QFocusEvent* evenement) {
+    Toile::focusOutEvent(evenement);
+    listeAJour_ = false;
+    repeindreLigne(session_.corpus.EntretienCourant);
+}
+
+} // namespace vermo

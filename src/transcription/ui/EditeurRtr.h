@@ -1,0 +1,34 @@
+#pragma once
+#include "textfile/texte.h"
+
+#include <QPlainTextEdit>
+
+namespace vermo {
+
+/// The editor of a transcript. Characters that the files can't hold are marked as they are typed or pasted.
+class EditeurRtr : public QPlainTextEdit {
+    Q_OBJECT
+  public:
+    explicit EditeurRtr(QWidget* parent);
+
+    /// Text with a lone CR at line ends.
+    void texte(const Texte& texte);
+    /// What stands in the editor. Throws FauteExecution while it holds a refused character.
+    Texte texte() const;
+    /// The refused characters, each with its place: "« → » (ligne 2, caractère 7)". Empty when there is none.
+    QStringList refuses() const;
+
+  signals:
+    /// How many characters are refused now.
+    void refusesChanges(int nombre);
+
+  protected:
+    void insertFromMimeData(const QMimeData* source) override; ///< plain text only, composed
+
+  private:
+    void marquer();
+
+    int refusesConnus_ = 0;
+};
+
+} // namespace vermo

@@ -1,0 +1,319 @@
+#include "transcription/ui/FrmSaisie.h"
+
+#include "textfile/nombres.h"
+#include "transcription/Retranscription.h"
+#include "transcription/Saisie.h"
+#include "transcription/ui/EditeurRtr.h"
+#include "transcription/ui/FrmSaisieTailles.h"
+#include "window/ui/Glace.h"
+#include "window/ui/Lien.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+
+namespace vermo {
+
+namespace t = tailles_saisie;
+
+FrmSaisie::FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent)
+    : Forme("FrmSaisie", session, plateforme, fenetres, parent) {
+    setWindowTitle(tr("Vermo - Saisie d'un extrait"));
+    Picture1_ = new Toile(QStringLiteral("Picture1"), this);
+    Picture1_->setAccessibleName(tr("Fenêtre de saisie"));
+    Picture1_->fond(theme::PANNEAU);
+    poser(Picture1_, {0, 0, t::LARGEUR_NOUVEL_EXTRAIT, t::HAUTEUR});
+    deplacerPar(Picture1_);
+    creerEntete();
+    creerEcoute();
+    creerOptions();
+    creerTexte();
+    creerPanneau();
+    creerAjout();
+    session_.transcription.BoucleDictee = false;
+    Timer1_.start(50);
+    placerLargeur(false);
+}
+
+void FrmSaisie::creerEntete() {
+    const auto etiquette = [this](const char* nom, const Rectangle& cadre, Qt::Alignment cote) {
+        auto* label = new QLabel(this);
+        label->setObjectName(QLatin1String(nom));
+        label->setAlignment(cote | Qt::AlignVCenter);
+        label->setAttribute(Qt::WA_TransparentForMouseEvents);
+        poser(label, cadre);
+        return label;
+    };
+    etq_deb_sel_ = etiquette("etq_deb_sel", t::ETQ_DEB_SEL, Qt::AlignLeft);
+    etq_fin_sel_ = etiquette("etq_fin_sel", t::ETQ_FIN_SEL, Qt::AlignRight);
+    etiquette("lblfich", t::FICHIER, Qt::AlignHCenter);
+    etat_ = etiquette("etat", t::ETAT, Qt::AlignHCenter);
+    etat_->setStyleSheet(QStringLiteral("color: rgb(255,150,140)"));
+    const auto fermer = [this](const char* nom, const QString& icone, const QString& bulle,
+                               const Rectangle& cadre) {
+        auto* bouton = new BoutonImage(QLatin1String(nom), icone, bulle, this);
+        poser(bouton, cadre);
+        return bouton;
+    };
+    connect(fermer("lbl_fermer0", QStringLiteral("Fermer"), tr("Quitter sans enregistrer (Échap)"),
+                   t::LBL_FERMER_0),
+            &BoutonImage::clicked, this, [this] { garder([this] { FermerSaisie(); }); });
+    connect(fermer("lbl_fermer1", QStringLiteral("Plier"), tr("Replier le volet des thématiques"),
+                   t::LBL_FERMER_1),
+            &BoutonImage::clicked, this, [this] { placerLargeur(false); });
+}
+
+void FrmSaisie::creerTexte() {
+    lbl_thm_ = new Lien(QStringLiteral("lbl_thm"), QString(), this, 11);
+    lbl_thm_->setToolTip(tr("Choisir la thématique de l'extrait"));
+    poser(lbl_thm_, t::LBL_THM);
+    connect(lbl_thm_, &Lien::clicked, this, [this] { placerLargeur(true); });
+    TextRtr_ = new EditeurRtr(this);
+    TextRtr_->setStyleSheet(
+        QStringLiteral("background: rgb(64,64,64); color: white; border: none; padding: 4px"));
+    poser(TextRtr_, t::TEXTRTR);
+    TextRtr_->installEventFilter(this);
+    connect(TextRtr_, &EditeurRtr::refusesChanges, this, [this](int nombre) {
+        etat_->setText(nombre == 0
+                           ? QString()
+                           : tr("Caractères impossibles à enregistrer, marqués en rouge : %1").arg(nombre));
+    });
+    Imgsuppr_ = new BoutonImage(QStringLiteral("Imgsuppr"), QStringLiteral("Supprimer"),
+                                tr("Supprimer l'extrait"), this);
+    Imgsuppr_->iconePressee(QStringLiteral("SupprimerPresse"));
+    poser(Imgsuppr_, t::IMGSUPPR);
+    connect(Imgsuppr_, &BoutonImage::clicked, this, [this] { garder([this] { supprimer(); }); });
+    Imgbtn0_ = new BoutonImage(QStringLiteral("Imgbtn0"), QStringLiteral("Valider"),
+                               tr("Valider l'extrait (Ctrl + Entrée)"), this);
+    Imgbtn0_->iconePressee(QStringLiteral("ValiderPresse"));
+    poser(Imgbtn0_, t::IMGBTN_0);
+    connect(Imgbtn0_, &BoutonImage::clicked, this, [this] { garder([this] { valider(); }); });
+}
+
+void FrmSaisie::PreparerSaisie() {
+    preparer();
+    Timer2_.stop();
+    Transparence(250);
+    show();
+    raise();
+    activateWindow();
+    reprendreFocus();
+}
+
+void FrmSaisie::OuvrirExtrait(int n) {
+    saisie::ouvrirSpan(session_, n);
+    Transparence(0);
+    fondu_ = 0;
+    Timer2_.start(1);
+    preparer();
+    const auto thematique =
+        saisie::thematiqueDeCode(session_.corpus, session_.transcription.ExtraitCode[std::size_t(n)]);
+    codage(thematique.tag, thematique.caption);
+    colorer(thematique.couleur);
+    TextRtr_->texte(session_.transcription.ExtraitTexte[std::size_t(n)]);
+    show();
+    raise();
+    activateWindow();
+    reprendreFocus();
+}
+
+void FrmSaisie::preparer() {
+    auto& tr3 = session_.transcription;
+    LecteurMedia& media = plateforme_.media;
+    if (!media.enLecture()) media.play();
+    if (session_.audio.VitesseLecture != 0) media.rate(session_.audio.VitesseLecture);
+    Picture2_->setVisible(media.rateDisponible());
+    const auto defaut = saisie::thematiqueParDefaut();
+    colorer(defaut.couleur);
+    codage(defaut.tag, defaut.caption);
+    TextRtr_->texte({});
+    etat_->clear();
+    titrer();
+    if (tr3.DicteeActive) saisie::demarrerPortion(session_, tr3.SaisieDebut, tr3.PortionSecondes);
+    if (tr3.DicteeActive) MontrerPortion(tr3.PortionDebut, tr3.PortionFin);
+    dessinerOnde();
+    montrerOptions();
+    placerLargeur(tr3.NouvelExtrait);
+}
+
+void FrmSaisie::titrer() {
+    const auto& tr3 = session_.transcription;
+    etq_deb_sel_->setText(versQt(HeureTexte(tr3.SaisieDebut)));
+    etq_fin_sel_->setText(versQt(HeureTexte(tr3.SaisieFin)));
+    const auto& corpus = session_.corpus;
+    if (corpus.EntretienCourant == 0) return;
+    findChild<QLabel*>(QStringLiteral("lblfich"))
+        ->setText(versQt(corpus.Entretiens[std::size_t(corpus.EntretienCourant)].Fichier));
+}
+
+void FrmSaisie::placerLargeur(bool depliee) {
+    const bool nouveau = depliee && session_.transcription.NouvelExtrait;
+    const Twips largeur = !depliee ? t::LARGEUR_PLIEE : nouveau ? t::LARGEUR_NOUVEL_EXTRAIT : t::LARGEUR_FOND;
+    const ZoneTravail zone = plateforme_.ecran.zoneTravail();
+    const bool jamaisMontree = !testAttribute(Qt::WA_WState_ExplicitShowHide);
+    const Twips gauche = jamaisMontree ? (zone.largeur - t::LARGEUR_FOND) / 2 : enTwips(x());
+    const Twips haut = jamaisMontree ? (zone.hauteur - t::HAUTEUR) * 3 / 4 : enTwips(y());
+    placer({gauche, haut, largeur, t::HAUTEUR});
+    if (depliee) reinitialiserAjout();
+    if (depliee)
+        FrmThms_->setFocus();
+    else
+        TextRtr_->setFocus();
+}
+
+void FrmSaisie::colorer(Couleur couleur) {
+    couleur_ = couleur;
+    Elements bandes;
+    for (int i = 0; i < 8; ++i)
+        bandes.push_back({.controle = Controle::ShpFondSaisie,
+                          .index = i,
+                          .cadre = t::SHPFONDSAISIE[i],
+                          .fond = couleur,
+                          .rempli = true});
+    bandes.push_back(
+        {.controle = Controle::Shape2, .cadre = t::LBL_THM, .fond = rvb(226, 226, 230), .rempli = true});
+    bandes.push_back({.controle = Controle::Shape2,
+                      .index = 1,
+                      .cadre = {7865, 0, 15, t::HAUTEUR},
+                      .fond = theme::BORD,
+                      .rempli = true});
+    bandes.push_back(
+        {.controle = Controle::ShpFdThm, .cadre = t::SHPFDTHM, .fond = couleurAjout_, .rempli = true});
+    Picture1_->elements(std::move(bandes));
+}
+
+void FrmSaisie::codage(const Texte& code, const Texte& legende) {
+    code_ = code;
+    legende_ = legende;
+    lbl_thm_->setText(versQt(legende));
+    lbl_thm_->encre(saisie::encreThematique(code));
+}
+
+void FrmSaisie::reprendreFocus() {
+    Imgsuppr_->setVisible(!session_.transcription.NouvelExtrait);
+    QTextCursor curseur = TextRtr_->textCursor();
+    curseur.setPosition(std::min(1, int(TextRtr_->toPlainText().size())));
+    TextRtr_->setTextCursor(curseur);
+    TextRtr_->setFocus();
+}
+
+bool FrmSaisie::event(QEvent* evenement) {
+    if (evenement->type() == QEvent::WindowActivate) garder([this] { reprendreFocus(); });
+    return Forme::event(evenement);
+}
+
+void FrmSaisie::closeEvent(QCloseEvent* evenement) {
+    evenement->ignore();
+    garder([this] { FermerSaisie(); });
+}
+
+bool FrmSaisie::eventFilter(QObject* objet, QEvent* evenement) {
+    if (evenement->type() == QEvent::KeyPress) {
+        auto* touche = static_cast<QKeyEvent*>(evenement);
+        bool prise = false;
+        garder([&] {
+            if (objet == TextRtr_)
+                prise = toucheTexte(touche);
+            else if (objet == FrmThms_)
+                prise = touchePanneau(touche);
+            if (!prise && touche->key() == Qt::Key_Escape) FermerSaisie(), prise = true;
+        });
+        if (prise) return true;
+    }
+    return Forme::eventFilter(objet, evenement);
+}
+
+bool FrmSaisie::toucheTexte(QKeyEvent* touche) {
+    session_.transcription.Compteur = 0;
+    const bool alt = touche->modifiers() & Qt::AltModifier;
+    const bool controle = touche->modifiers() & Qt::ControlModifier;
+    switch (touche->key()) {
+    case Qt::Key_Space:
+        if (alt || controle) basculerLecture();
+        return alt || controle;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        if (alt) positionner(plateforme_.media.currentPosition() + (touche->key() == Qt::Key_Left ? -1 : 1));
+        return alt;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (controle)
+            valider();
+        else if (session_.transcription.DicteeActive)
+            portionSuivante();
+        return controle || session_.transcription.DicteeActive;
+    default:
+        return false;
+    }
+}
+
+void FrmSaisie::FermerSaisie() {
+    session_.transcription.SaisieDuree = 0;
+    hide();
+    if (session_.transcription.RetourCorpus) plateforme_.media.pause();
+}
+
+bool FrmSaisie::texteValide(Texte& texte) {
+    const QStringList refuses = TextRtr_->refuses();
+    if (refuses.isEmpty()) {
+        texte = TextRtr_->texte();
+        return true;
+    }
+    const QString liste = refuses.mid(0, 10).join(QStringLiteral("\n")) +
+                          (refuses.size() > 10 ? QStringLiteral("\n…") : QString());
+    plateforme_.dialogues.demander(
+        {.texte = utf8DepuisQt(tr("Ces caractères ne peuvent pas être enregistrés :\n%1\n"
+                                  "Rien n'est perdu : remplacez-les, puis validez.")
+                                   .arg(liste)),
+         .icone = Icone::Exclamation});
+    return false;
+}
+
+void FrmSaisie::valider() {
+    Texte texte;
+    if (!texteValide(texte)) return;
+    auto& tr3 = session_.transcription;
+    const double duree = tr3.SaisieDuree;
+    tr3.SaisieDuree = 0;
+    hide();
+    const bool ecrit = tr3.NouvelExtrait
+                           ? AjouterExtrait(session_, plateforme_, texte, code_)
+                           : saisie::validerModification(session_, plateforme_, legende_, texte);
+    if (!ecrit) {
+        tr3.SaisieDuree = duree;
+        show();
+        return;
+    }
+    if (tr3.NouvelExtrait || !tr3.RetourCorpus) {
+        fenetres_.rafraichirExtraits();
+        return;
+    }
+    tr3.RetourCorpus = false;
+    fenetres_.quitterVisu();
+    fenetres_.decharger(Fenetre::FrmVisu);
+}
+
+void FrmSaisie::supprimer() {
+    auto& tr3 = session_.transcription;
+    if (tr3.ExtraitCourant == 0) return;
+    const double duree = tr3.SaisieDuree;
+    tr3.SaisieDuree = 0;
+    hide();
+    if (SupprimerExtrait(session_, plateforme_) != Suppression::Supprime) {
+        tr3.SaisieDuree = duree;
+        show();
+        return;
+    }
+    fenetres_.rafraichirExtraits();
+    if (!tr3.RetourCorpus) return;
+    tr3.RetourCorpus = false;
+    fenetres_.quitterVisu();
+}
+
+void FrmSaisie::Timer2_Tick() {
+    if (fondu_ >= 260) return Timer2_.stop();
+    Transparence(fondu_);
+    fondu_ += 50;
+}
+
+} // namespace vermo

@@ -1,0 +1,135 @@
+#pragma once
+#include "audio/Onde.h"
+#include "corpus/Session.h"
+#include "window/ui/Forme.h"
+#include "window/ui/Theme.h"
+#include "window/ui/Toile.h"
+
+#include <QTimer>
+#include <array>
+
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+
+namespace vermo {
+
+class EditeurRtr;
+class Lien;
+
+/// The window in which one extract is listened to, typed and coded. Nothing reaches the transcript until the
+/// extract is validated; leaving by Esc or the cross discards what was typed.
+///
+/// The rules stand in transcription/Saisie.h; this class only places controls, asks them, and tells the
+/// player. Split by concern: FrmSaisie.cpp (making and opening), FrmSaisieEcoute.cpp (player, timers,
+/// waveform), FrmSaisieOptions.cpp (dictation, seconds, speed), FrmSaisieThematiques.cpp (panel and new
+/// thematic).
+class FrmSaisie : public Forme {
+    Q_OBJECT
+  public:
+    FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent = nullptr);
+
+    /// Opens the span SaisieDebut..SaisieFin as a new extract, the panel of thematics out.
+    void PreparerSaisie();
+    /// Opens existing extract `n`, faded in.
+    void OuvrirExtrait(int n);
+    /// Leaves without saving.
+    void FermerSaisie();
+    /// Refills the panel from the thematic table.
+    void ConstruireThematiques();
+
+    void Timer1_Tick(); ///< 50 ms: play loop of the span
+    void Timer2_Tick(); ///< 1 ms: fade
+    void Timer3_Tick(); ///< 1 s: countdown of the automatic dictation
+    void Timer4_Tick(); ///< 1 s: lengthening of the span
+
+    /// The player changed its state: the play button shows it.
+    void suivreEtat(bool joue);
+
+  protected:
+    bool event(QEvent* evenement) override;
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+    void closeEvent(QCloseEvent* evenement) override;
+
+  private:
+    // FrmSaisie.cpp
+    void creerEntete();
+    void creerTexte();
+    void preparer(); ///< resets the window for the open span and draws it
+    void placerLargeur(bool depliee);
+    void colorer(Couleur couleur);
+    void codage(const Texte& code, const Texte& legende);
+    void titrer();
+    void reprendreFocus();
+    void valider();
+    void supprimer();
+    bool toucheTexte(QKeyEvent* touche);
+    bool texteValide(Texte& texte); ///< false, and told, when CP1252 can't hold it
+
+    // FrmSaisieEcoute.cpp, FrmSaisieOptions.cpp
+    void creerEcoute();
+    void creerOptions();
+    void dessinerOnde();
+    void rafraichirOnde(); ///< cursor, portion and selection over the waveform
+    void MontrerPortion(double debut, double fin);
+    void basculerLecture();
+    void basculerDictee();
+    void portionSuivante();
+    void ondePressee(const Souris& souris);
+    void ondeGlissee(const Souris& souris);
+    void ondeRelachee(const Souris& souris);
+    void glisserSecondes(const Souris& souris);
+    void reglerSecondes(int secondes);
+    void glisserVitesse(Twips x);
+    void montrerOptions();
+    void allonger();
+    void finirAllongement();
+    void positionner(double secondes);
+
+    // FrmSaisieThematiques.cpp
+    void creerPanneau();
+    void creerAjout();
+    void choisirThematique(int rang);
+    void surlignerThematique(int rang);
+    bool touchePanneau(QKeyEvent* touche);
+    void deroulerPanneau(Twips pas);
+    void choisirCouleur(int index);
+    void colorerAjout(Couleur couleur);
+    void reinitialiserAjout();
+    void ajouterThematique();
+
+    PointsOnde PointsSaisie_;
+    Toile* Picture1_ = nullptr; ///< the window's ground, by which it is moved
+    Toile* Pict_saisie_ = nullptr;
+    Toile* FrmThms_ = nullptr;
+    Toile* ShpCoulT_ = nullptr;
+    Toile* Picture2_ = nullptr; ///< speed slider
+    Toile* LblSec_ = nullptr;
+    QLabel *etq_deb_sel_ = nullptr, *etq_fin_sel_ = nullptr, *LblTimer_ = nullptr, *LblTip_ = nullptr;
+    QLabel* etat_ = nullptr;
+    Lien* lbl_thm_ = nullptr;
+    EditeurRtr* TextRtr_ = nullptr;
+    QLineEdit *TXTcodethem_ = nullptr, *TxtThema_ = nullptr;
+    BoutonImage *ImgMedia_ = nullptr, *Imgsuppr_ = nullptr, *Imgbtn0_ = nullptr;
+    std::array<BoutonImage*, 2> ImgPlus_{};
+    std::array<BoutonImage*, 3> BtnOpt_{};
+    QTimer Timer1_, Timer2_, Timer3_, Timer4_;
+
+    Texte code_ = "000";       ///< tag of lbl_thm
+    Texte legende_;            ///< caption of lbl_thm
+    Couleur couleur_ = 0;      ///< of every ShpFondSaisie
+    Couleur couleurAjout_ = 0; ///< of ShpFdThm
+    Texte CouleurChoisie_;     ///< decimal value; empty: none
+    double FinInitiale_ = 0;   ///< end of the span when lengthening began
+    Twips GlisseDebut_ = 0, GlisseFin_ = 0;
+    Twips curseur_ = 0;   ///< Left of Curseur
+    Rectangle portion_{}; ///< ShpDict; no width: hidden
+    bool pressionSecondes_ = false, pressionVitesse_ = false;
+    int tagSecondes_ = 5; ///< tag of LblSec
+    int secondes_ = 5;    ///< caption of LblSec
+    int fondu_ = 0;       ///< tag of Timer2
+    int rangSurvole_ = 1; ///< row of the panel that the keyboard stands on
+    Twips defilementPanneau_ = 0, hauteurPanneau_ = 0;
+};
+
+} // namespace vermo

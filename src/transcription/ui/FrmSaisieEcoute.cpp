@@ -1,0 +1,230 @@
+// The player's side of the transcription window: play loop, dictation, speed, lengthening, the waveform's
+// mouse.
+#include "audio/ImageOnde.h"
+#include "transcription/Saisie.h"
+#include "transcription/ui/EditeurRtr.h"
+#include "transcription/ui/FrmSaisie.h"
+#include "transcription/ui/FrmSaisieTailles.h"
+#include "window/ui/Glace.h"
+
+#include <QLabel>
+
+namespace vermo {
+
+namespace t = tailles_saisie;
+
+void FrmSaisie::creerEcoute() {
+    Pict_saisie_ = new Toile(QStringLiteral("Pict_saisie"), this);
+    Pict_saisie_->setAccessibleName(tr("Forme d'onde de l'extrait"));
+    Pict_saisie_->fond(theme::ONDE);
+    poser(Pict_saisie_, t::PICT_SAISIE);
+    Pict_saisie_->surPression = [this](const Souris& souris) { ondePressee(souris); };
+    Pict_saisie_->surMouvement = [this](const Souris& souris) { ondeGlissee(souris); };
+    Pict_saisie_->surRelachement = [this](const Souris& souris) { ondeRelachee(souris); };
+
+    ImgMedia_ = new BoutonImage(QStringLiteral("ImgMedia1"), QStringLiteral("Pause"),
+                                tr("Lire ou arrêter (Alt + Espace)"), this);
+    poser(ImgMedia_, t::IMGMEDIA);
+    connect(ImgMedia_, &BoutonImage::clicked, this, [this] { garder([this] { basculerLecture(); }); });
+    LblTip_ = new QLabel(QStringLiteral("[Alt + Espace]"), this);
+    LblTip_->setObjectName(QStringLiteral("LblTip"));
+    LblTip_->setAlignment(Qt::AlignCenter);
+    poser(LblTip_, t::LBLTIP);
+    LblTip_->hide();
+    ImgMedia_->installEventFilter(this);
+
+    const char* const bulles[] = {"Allonger la portion", "Arrêter l'allongement"};
+    const char* const icones[] = {"Allonger", "ArreterAllonger"};
+    for (std::size_t i = 0; i < 2; ++i) {
+        ImgPlus_[i] = new BoutonImage(QStringLiteral("ImgPlus%1").arg(i), QLatin1String(icones[i]),
+                                      tr(bulles[i]), this);
+        poser(ImgPlus_[i], t::IMGPLUS);
+        connect(ImgPlus_[i], &BoutonImage::clicked, this,
+                [this, i] { garder([this, i] { i == 0 ? allonger() : finirAllongement(); }); });
+    }
+    ImgPlus_[1]->hide();
+
+    connect(&Timer1_, &QTimer::timeout, this, [this] { garder([this] { Timer1_Tick(); }); });
+    connect(&Timer2_, &QTimer::timeout, this, [this] { garder([this] { Timer2_Tick(); }); });
+    connect(&Timer3_, &QTimer::timeout, this, [this] { garder([this] { Timer3_Tick(); }); });
+    connect(&Timer4_, &QTimer::timeout, this, [this] { garder([this] { Timer4_Tick(); }); });
+    Timer3_.setInterval(1000);
+    Timer4_.setInterval(1000);
+}
+
+void FrmSaisie::suivreEtat(bool joue) {
+    ImgMedia_->icone(joue ? QStringLiteral("Pause") : QStringLiteral("Lecture"));
+}
+
+void FrmSaisie::positionner(double secondes) {
+    plateforme_.media.currentPosition(secondes);
+}
+
+void FrmSaisie::basculerLecture() {
+    LecteurMedia& media = plateforme_.media;
+    if (!media.enLecture()) {
+        media.play();
+    } else {
+        media.pause();
+        Timer3_.stop();
+        if (Timer4_.isActive()) finirAllongement();
+    }
+    TextRtr_->setFocus();
+}
+
+void FrmSaisie::Timer1_Tick() {
+    LblTimer_->hide();
+    if (!isVisible()) return;
+    LecteurMedia& media = plateforme_.media;
+    const bool arrete = media.playState() == EtatLecture::Arrete;
+    const auto boucle =
+        saisie::suivreBoucle(session_, media.currentPosition(), Pict_saisie_->largeurTwips(), arrete);
+    if (!boucle.ouverte) return;
+    if (boucle.position) positionner(*boucle.position);
+    if (boucle.pause)
+        media.pause();
+    else if (arrete && boucle.position)
+        media.play();
+    if (boucle.demarrerDecompte) Timer3_.start();
+    if (curseur_ == boucle.curseur) return;
+    curseur_ = boucle.curseur;
+    rafraichirOnde();
+}
+
+void FrmSaisie::Timer3_Tick() {
+    const auto decompte = saisie::compter(session_, isVisible(), secondes_);
+    LblTimer_->setVisible(decompte.montrer);
+    LblTimer_->setText(versQt(decompte.LblTimer));
+    if (decompte.arreter) Timer3_.stop();
+    if (!decompte.position) return;
+    positionner(*decompte.position);
+    plateforme_.media.play();
+    MontrerPortion(session_.transcription.PortionDebut, session_.transcription.PortionFin);
+}
+
+void FrmSaisie::portionSuivante() {
+    if (const auto position = saisie::portionSuivante(session_, secondes_)) {
+        positionner(*position);
+        plateforme_.media.play();
+        if (session_.audio.VitesseLecture != 0) plateforme_.media.rate(session_.audio.VitesseLecture);
+        MontrerPortion(session_.transcription.PortionDebut, session_.transcription.PortionFin);
+    }
+    Timer3_.stop();
+}
+
+void FrmSaisie::MontrerPortion(double debut, double fin) {
+    portion_ = saisie::MontrerPortion(session_, debut, fin, Pict_saisie_->largeurTwips());
+    rafraichirOnde();
+}
+
+void FrmSaisie::dessinerOnde() {
+    const auto& tr3 = session_.transcription;
+    const double duree = session_.audio.DureeFichier;
+    const Twips largeur = Pict_saisie_->largeurTwips(), hauteur = Pict_saisie_->hauteurTwips();
+    const double densite = devicePixelRatioF() / TWIPS_PAR_PIXEL;
+    Bitmap8 image = fondUni(largeur, hauteur, densite, theme::ONDE);
+    const Utf8 fichier = plateforme_.media.URL();
+    if (estWav(fichier) && duree > 0)
+        session_.audio.EnteteWav = DessinerOnde(image, 0,
+                                                {.vue = Vue::Pict_saisie,
+                                                 .fichier = fichier,
+                                                 .empan = {tr3.SaisieDebut / duree, tr3.SaisieDuree / duree},
+                                                 .largeur = largeur,
+                                                 .hauteur = hauteur,
+                                                 .hauteurVue = HAUTEUR_PICTURE1,
+                                                 .densite = densite},
+                                                PointsSaisie_);
+    Pict_saisie_->image(QImage::fromData(QByteArray::fromStdString(ecrireBmp(image)), "BMP"));
+    rafraichirOnde();
+}
+
+void FrmSaisie::rafraichirOnde() {
+    const Twips hauteur = Pict_saisie_->hauteurTwips();
+    Elements elements;
+    if (portion_.largeur > 0)
+        elements.push_back({.controle = Controle::ShpDict,
+                            .cadre = {portion_.gauche, 0, portion_.largeur, hauteur},
+                            .fond = theme::ACCENT,
+                            .encre = Encre::Fusion,
+                            .rempli = true});
+    if (GlisseFin_ > 0)
+        elements.push_back({.controle = Controle::SaisieSelect,
+                            .cadre = {GlisseDebut_, 0, GlisseFin_ - GlisseDebut_, hauteur},
+                            .fond = BLANC,
+                            .encre = Encre::Fusion,
+                            .rempli = true});
+    elements.push_back({.controle = Controle::Curseur,
+                        .cadre = {curseur_, 0, t::LARGEUR_CURSEUR, hauteur},
+                        .fond = rvb(200, 30, 30),
+                        .rempli = true});
+    Pict_saisie_->elements(std::move(elements));
+}
+
+void FrmSaisie::ondePressee(const Souris& souris) {
+    GlisseDebut_ = souris.x;
+    GlisseFin_ = 0;
+}
+
+void FrmSaisie::ondeGlissee(const Souris& souris) {
+    if (GlisseDebut_ == 0 || saisie::estClic(GlisseDebut_, souris.x)) return;
+    Pict_saisie_->setCursor(Qt::SizeHorCursor);
+    GlisseFin_ = souris.x;
+    rafraichirOnde();
+}
+
+void FrmSaisie::ondeRelachee(const Souris& souris) {
+    auto& tr3 = session_.transcription;
+    const Twips largeur = Pict_saisie_->largeurTwips();
+    Pict_saisie_->unsetCursor();
+    if (saisie::estClic(GlisseDebut_, souris.x)) {
+        const double position = saisie::tempsSousX(session_, souris.x, largeur);
+        positionner(position);
+        curseur_ = souris.x;
+        if (tr3.DicteeActive) {
+            saisie::demarrerPortion(session_, position, secondes_);
+            MontrerPortion(tr3.PortionDebut, tr3.PortionFin);
+            Timer3_.stop();
+        }
+    } else {
+        secondes_ = tagSecondes_ = saisie::selectionnerPortion(session_, GlisseDebut_, souris.x, largeur);
+        positionner(tr3.PortionDebut);
+        tr3.Compteur = 0;
+        if (!tr3.DicteeActive) basculerDictee();
+        MontrerPortion(tr3.PortionDebut, tr3.PortionFin);
+        Timer3_.stop();
+        montrerOptions();
+    }
+    GlisseDebut_ = GlisseFin_ = 0;
+    rafraichirOnde();
+    TextRtr_->setFocus();
+}
+
+void FrmSaisie::allonger() {
+    positionner(saisie::debutAllongement(session_));
+    plateforme_.media.play();
+    Timer1_.stop();
+    Timer4_.start();
+    curseur_ = Pict_saisie_->largeurTwips() - 60;
+    FinInitiale_ = session_.transcription.SaisieFin;
+    ImgPlus_[1]->show();
+    ImgPlus_[1]->raise();
+    rafraichirOnde();
+}
+
+void FrmSaisie::Timer4_Tick() {
+    saisie::allonger(session_, plateforme_.media.currentPosition());
+    titrer();
+    dessinerOnde();
+}
+
+void FrmSaisie::finirAllongement() {
+    saisie::allonger(session_, plateforme_.media.currentPosition());
+    Timer4_.stop();
+    Timer1_.start();
+    titrer();
+    dessinerOnde();
+    positionner(FinInitiale_);
+    ImgPlus_[1]->hide();
+}
+
+} // namespace vermo

@@ -1,0 +1,140 @@
+// The dictation's toggles, the seconds of a portion, and the speed.
+#include "textfile/nombres.h"
+#include "transcription/Saisie.h"
+#include "transcription/ui/EditeurRtr.h"
+#include "transcription/ui/FrmSaisie.h"
+#include "transcription/ui/FrmSaisieTailles.h"
+#include "window/ui/Glace.h"
+
+#include <QLabel>
+
+namespace vermo {
+
+namespace t = tailles_saisie;
+
+void FrmSaisie::creerOptions() {
+    const char* const icones[] = {"Boucle", "Dictee", "DicteeAuto"};
+    const char* const bulles[] = {
+        "Répéter la portion", "Dictée par portions (Entrée : portion suivante)",
+        "Dictée automatique : la suite vient trois secondes après la dernière touche"};
+    const Rectangle cadres[] = {t::BTNOPT_0, t::BTNOPT_1, t::BTNOPT_2};
+    for (std::size_t i = 0; i < 3; ++i) {
+        BtnOpt_[i] =
+            new BoutonImage(QStringLiteral("BtnOpt%1").arg(i), QLatin1String(icones[i]), tr(bulles[i]), this);
+        BtnOpt_[i]->setCheckable(true);
+        poser(BtnOpt_[i], cadres[i]);
+    }
+    auto& tr3 = session_.transcription;
+    connect(BtnOpt_[0], &BoutonImage::clicked, this, [&tr3](bool allume) { tr3.BoucleDictee = allume; });
+    connect(BtnOpt_[1], &BoutonImage::clicked, this, [this] { garder([this] { basculerDictee(); }); });
+    connect(BtnOpt_[2], &BoutonImage::clicked, this, [&tr3](bool allume) { tr3.DicteeAuto = allume; });
+
+    LblSec_ = new Toile(QStringLiteral("LblSec"), this);
+    LblSec_->setAccessibleName(tr("Secondes d'une portion : glisser vers le haut ou le bas"));
+    LblSec_->setToolTip(LblSec_->accessibleName());
+    LblSec_->setCursor(Qt::SizeVerCursor);
+    LblSec_->fond(theme::CHAMP);
+    poser(LblSec_, {t::BTNOPT_1.gauche + t::LBLSEC.gauche, t::BTNOPT_1.haut + t::LBLSEC.haut,
+                    t::LBLSEC.largeur, t::LBLSEC.hauteur});
+    LblSec_->surPression = [this](const Souris&) { pressionSecondes_ = true; };
+    LblSec_->surMouvement = [this](const Souris& souris) { glisserSecondes(souris); };
+    LblSec_->surRelachement = [this](const Souris&) {
+        pressionSecondes_ = false;
+        tagSecondes_ = secondes_;
+    };
+    LblSec_->surMolette = [this](int crans, Qt::KeyboardModifiers) {
+        reglerSecondes(std::max(1, secondes_ + crans));
+    };
+    auto* unite = new QLabel(QStringLiteral("sec."), this);
+    unite->setObjectName(QStringLiteral("Label1"));
+    poser(unite, {t::BTNOPT_1.gauche + t::LABEL1.gauche, t::BTNOPT_1.haut + t::LABEL1.haut, t::LABEL1.largeur,
+                  t::LABEL1.hauteur});
+    LblTimer_ = new QLabel(this);
+    LblTimer_->setObjectName(QStringLiteral("LblTimer"));
+    LblTimer_->setAlignment(Qt::AlignCenter);
+    LblTimer_->setStyleSheet(
+        QStringLiteral("background: rgb(110,178,255); color: black; border-radius: 8px"));
+    poser(LblTimer_, t::LBLTIMER);
+    LblTimer_->hide();
+
+    Picture2_ = new Toile(QStringLiteral("Picture2"), this);
+    Picture2_->setAccessibleName(tr("Vitesse de lecture"));
+    Picture2_->setToolTip(tr("Vitesse de lecture, de 0,75 à 1,25"));
+    Picture2_->fond(theme::PANNEAU);
+    poser(Picture2_, t::PICTURE2);
+    Picture2_->surPression = [this](const Souris& souris) {
+        pressionVitesse_ = true;
+        glisserVitesse(souris.x - t::LBLVIT.gauche);
+    };
+    Picture2_->surMouvement = [this](const Souris& souris) {
+        if (pressionVitesse_) glisserVitesse(souris.x - t::LBLVIT.gauche);
+    };
+    Picture2_->surRelachement = [this](const Souris&) { pressionVitesse_ = false; };
+    Picture2_->surMolette = [this](int crans, Qt::KeyboardModifiers) {
+        glisserVitesse(saisie::positionVitesse(session_, t::LBLVIT.largeur) + crans * t::LBLVIT.largeur / 20);
+    };
+}
+
+void FrmSaisie::montrerOptions() {
+    const auto& tr3 = session_.transcription;
+    BtnOpt_[0]->setChecked(tr3.BoucleDictee);
+    BtnOpt_[1]->setChecked(tr3.DicteeActive);
+    BtnOpt_[2]->setChecked(tr3.DicteeAuto);
+    LblSec_->setVisible(tr3.DicteeActive);
+    findChild<QLabel*>(QStringLiteral("Label1"))->setVisible(tr3.DicteeActive);
+    LblSec_->elements({{.controle = Controle::Shape2,
+                        .cadre = {0, 0, t::LBLSEC.largeur, t::LBLSEC.hauteur},
+                        .texte = std::to_string(secondes_),
+                        .alignement = Alignement::Centre,
+                        .corps = 10}});
+    const Rectangle glissiere = t::LBLVIT;
+    const Twips bouton = glissiere.gauche + saisie::positionVitesse(session_, glissiere.largeur);
+    const Twips milieu = glissiere.haut + glissiere.hauteur / 2;
+    const double vitesse = session_.audio.VitesseLecture == 0 ? 1 : session_.audio.VitesseLecture;
+    Picture2_->elements(
+        {{.cadre = {glissiere.gauche, 15, glissiere.largeur, 210},
+          .texte = "x " + formatDeuxDecimales(vitesse, session_.reglages),
+          .encreTexte = theme::TEXTE_DISCRET,
+          .alignement = Alignement::Centre},
+         {.cadre = {glissiere.gauche, milieu - 15, glissiere.largeur, 30},
+          .fond = theme::BORD,
+          .rempli = true},
+         {.cadre = {bouton - 60, milieu - 120, 120, 240}, .fond = theme::ACCENT, .rempli = true}});
+}
+
+void FrmSaisie::basculerDictee() {
+    auto& tr3 = session_.transcription;
+    tr3.DicteeActive = !tr3.DicteeActive;
+    if (tr3.DicteeActive) {
+        saisie::activerDictee(session_, plateforme_.media.currentPosition(), secondes_);
+        MontrerPortion(tr3.PortionDebut, tr3.PortionFin);
+        Timer3_.stop();
+    } else {
+        portion_ = {};
+        rafraichirOnde();
+    }
+    montrerOptions();
+    TextRtr_->setFocus();
+}
+
+void FrmSaisie::glisserSecondes(const Souris& souris) {
+    if (pressionSecondes_)
+        reglerSecondes(saisie::secondesGlissees(tagSecondes_, souris.y, t::LBLSEC.hauteur));
+}
+
+void FrmSaisie::reglerSecondes(int secondes) {
+    auto& tr3 = session_.transcription;
+    secondes_ = secondes;
+    saisie::demarrerPortion(session_, tr3.PortionDebut, secondes_);
+    MontrerPortion(tr3.PortionDebut, tr3.PortionFin);
+    if (!pressionSecondes_) tagSecondes_ = secondes_;
+    montrerOptions();
+}
+
+void FrmSaisie::glisserVitesse(Twips x) {
+    if (!saisie::reglerVitesse(session_, x, t::LBLVIT.largeur)) return;
+    plateforme_.media.rate(session_.audio.VitesseLecture);
+    montrerOptions();
+}
+
+} // namespace vermo
