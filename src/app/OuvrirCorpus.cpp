@@ -1,0 +1,106 @@
+// Opening a corpus: everything is read from the disk anew, from top to bottom. It is also the reload after
+// any change in the interview list.
+#include "app/Application.h"
+#include "corpus/AnalyserEntretiens.h"
+#include "corpus/EcritureCorpus.h"
+#include "corpus/Frise.h"
+#include "corpus/Ordre.h"
+#include "corpus/OuvertureCorpus.h"
+#include "corpus/Pistes.h"
+#include "corpus/ui/FrmCorpus.h"
+#include "data/Variables.h"
+
+namespace vermo {
+
+void Application::NouveauCorpus() {
+    if (!creerCorpus(session_, plateforme_)) return;
+    session_.corpus.OuvertureDirecte = true;
+    OuvrirCorpus();
+    session_.corpus.OuvertureDirecte = false;
+}
+
+void Application::OuvrirCorpus() {
+    session_.corpus.EntretienCourant = 0;
+    plateforme_.ecran.pointeur(Pointeur::Sablier);
+    try {
+        if (!demanderCorpus(session_, plateforme_) || lireCorpus())
+            plateforme_.ecran.pointeur(Pointeur::Normal);
+    } catch (...) {
+        plateforme_.ecran.pointeur(Pointeur::Normal);
+        throw;
+    }
+}
+
+/// False when the corpus could not be opened: the window stays emptied and its pointer the hourglass.
+bool Application::lireCorpus() {
+    nommerCorpus(session_);
+    MettreAJourProjets(session_, plateforme_);
+    viderCorpus(session_);
+    corpus().viderAffichage();
+    if (!corpusAccessible(session_, plateforme_)) return false;
+    if (!lireThematiques(session_, plateforme_)) return false;
+    ConstruireThematiques();
+    if (!lireEntretiens(session_, plateforme_)) return false;
+    toutActiver(session_);
+    calculerHauteur(session_, corpus().hauteurFond());
+    RedessinerFrise();
+    RedessinerPistes();
+    LireVariables(session_, plateforme_);
+    for (int slot = 1; slot <= session_.corpus.NbEntretiens; ++slot)
+        lireAttributs(slot);
+    return true;
+}
+
+/// A fault in one interview's attributes is told, and the opening goes on.
+void Application::lireAttributs(int slot) {
+    try {
+        LireAttributs(session_, slot);
+    } catch (const FauteExecution& faute) {
+        direFaute(plateforme_.dialogues, faute);
+    }
+}
+
+void Application::RedessinerFrise() {
+    preparerFrise(session_, plateforme_);
+    corpus().RedessinerFrise();
+}
+
+void Application::RedessinerPistes() {
+    signalerDureesNulles(session_, plateforme_, 1, session_.corpus.NbEntretiens);
+    corpus().RedessinerPistes();
+}
+
+void Application::RetirerEntretien() {
+    auto& etat = session_.corpus;
+    if (etat.EntretienCourant == 0) return;
+    const Reponse reponse =
+        plateforme_.dialogues.demander({.texte = "Etes-vous sûre de vouloir retirer cet entretien du corpus?",
+                                        .titre = "Vermo",
+                                        .boutons = Boutons::OuiNon,
+                                        .icone = Icone::Question});
+    if (reponse != Reponse::Oui) return;
+    etat.Entretiens[std::size_t(etat.EntretienCourant)].Fichier.clear();
+    EcrireEntretiens(session_, plateforme_);
+    etat.OuvertureDirecte = true;
+    etat.EntretienCourant = 0;
+    OuvrirCorpus();
+}
+
+void Application::DeplacerEntretien(int source, int cible) {
+    if (source == cible) return;
+    vermo::DeplacerEntretien(session_, source, cible);
+    EcrireEntretiens(session_, plateforme_);
+    session_.corpus.OuvertureDirecte = true;
+    OuvrirCorpus();
+}
+
+void Application::BasculerTailleReelle(bool redessiner) {
+    session_.corpus.TailleReelle = !session_.corpus.TailleReelle;
+    if (!redessiner) return;
+    corpus().surface(false);
+    RedessinerFrise();
+    RedessinerPistes();
+    corpus().surface(true);
+}
+
+} // namespace vermo
