@@ -11,11 +11,11 @@ class Programme;
 namespace bancs {
 
 struct Resultat {
-    std::string travail; ///< name of the job
+    std::string travail = {}; ///< name of the job
     double notre = 0;
     double autre = 0;
     const char* unite = "s";
-    std::string aCote;   ///< what it is measured beside
+    std::string aCote = {};   ///< what it is measured beside
     double atteinte = 0; ///< the ratio to reach
     double rapport() const { return notre / autre; }
 };
