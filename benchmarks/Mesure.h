@@ -15,8 +15,8 @@ struct Resultat {
     double notre = 0;
     double autre = 0;
     const char* unite = "s";
-    std::string aCote = {};   ///< what it is measured beside
-    double atteinte = 0; ///< the ratio to reach
+    std::string aCote = {}; ///< what it is measured beside
+    double atteinte = 0;    ///< the ratio to reach
     double rapport() const { return notre / autre; }
 };
 

@@ -10,11 +10,12 @@
 /// Waits for the first paint of a window, prints the process's proportional memory (kB) and ends.
 class PremierDessin : public QObject {
   public:
-    explicit PremierDessin(QWidget* fenetre) : QObject(fenetre) { fenetre->installEventFilter(this); }
+    explicit PremierDessin(QWidget* fenetre) : QObject(fenetre) { qApp->installEventFilter(this); }
 
   protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override {
-        if (evenement->type() == QEvent::Paint && !vu_) {
+        const auto* peint = qobject_cast<QWidget*>(objet);
+        if (evenement->type() == QEvent::Paint && !vu_ && peint != nullptr && peint->window() == parent()) {
             vu_ = true;
             QTimer::singleShot(0, qApp, [] {
                 std::ifstream memoire("/proc/self/smaps_rollup");

@@ -7,6 +7,8 @@
 #include "corpus/ui/FrmMenu.h"
 #include "transcription/ui/FrmSaisie.h"
 
+#include <QTimer>
+
 namespace vermo {
 
 namespace {
@@ -147,13 +149,21 @@ void Application::OuvrirEntretien(int slot, Ouverture ouverture) {
     plateforme_.ecran.pointeur(Pointeur::Normal);
 }
 
+/// The corpus window takes no input from now on; it is painted as such only once the interview stands over
+/// it.
+void Application::desactiverCorpus() {
+    constexpr int apresLeDessinMs = 120;
+    FrmCorpus& forme = corpus();
+    forme.setUpdatesEnabled(false);
+    forme.setEnabled(false);
+    QTimer::singleShot(apresLeDessinMs, &forme, [&forme] { forme.setUpdatesEnabled(true); });
+}
+
 void Application::montrerEntretien(Ouverture ouverture) {
     session_.transcription.signalement.clear();
-    corpus().setEnabled(false);
-    if (visu().OuvrirEntretienVue(ouverture))
-        visu().show();
-    else
-        decharger(Fenetre::FrmVisu);
+    desactiverCorpus();
+    visu().show(); // the screen maps the window, still transparent, while the interview is read
+    if (!visu().OuvrirEntretienVue(ouverture)) decharger(Fenetre::FrmVisu);
 }
 
 void Application::ReglerVolume(int part) {

@@ -73,6 +73,7 @@ class Application final : public QObject, public Fenetres {
     void lireAttributs(int slot);
     void importer();
     void montrerEntretien(Ouverture ouverture);
+    void desactiverCorpus();
     void suivreEtat(EtatLecture etat);
 
     Session& session_;

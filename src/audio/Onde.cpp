@@ -119,6 +119,36 @@ PasLecture pasDeLecture(const LieuDonnees& lieu, const EnTeteWav& entete, const 
     return resultat;
 }
 
+namespace {
+
+/// Reads a few bytes at rising positions: points that lie close together share one positioned read.
+class LectureSerree {
+  public:
+    LectureSerree(const FichierOnde& fichier, std::int64_t pas) : fichier_(fichier), serree_(pas <= 512) {}
+
+    std::size_t lire(std::int64_t position, unsigned char* octets, std::size_t taille) {
+        if (!serree_) return fichier_.lire(position, octets, taille);
+        const auto fin = static_cast<std::int64_t>(taille) + position;
+        if (position < debut_ || fin > debut_ + static_cast<std::int64_t>(lus_)) {
+            debut_ = position;
+            lus_ = fichier_.lire(position, bloc_.data(), bloc_.size());
+        }
+        const std::size_t place = static_cast<std::size_t>(position - debut_);
+        const std::size_t pris = std::min(taille, lus_ - std::min(lus_, place));
+        std::copy_n(bloc_.data() + place, pris, octets);
+        return pris;
+    }
+
+  private:
+    const FichierOnde& fichier_;
+    bool serree_;
+    std::array<unsigned char, 4096> bloc_;
+    std::int64_t debut_ = 0;
+    std::size_t lus_ = 0;
+};
+
+} // namespace
+
 void PointsOnde::allouer(std::size_t nombre) {
     points.assign(nombre, 0);
     octets.assign(nombre, 0);
@@ -139,9 +169,10 @@ void LirePoints(const FichierOnde& fichier, const EnTeteWav& entete, const Empan
         else
             points.octets[static_cast<std::size_t>(i)] = *octets;
     };
+    LectureSerree lecture(fichier, pas.PasOctets);
     for (long i = 0; i <= largeur - 2; ++i) {
         std::array<unsigned char, 4> octets{};
-        const std::size_t lus = fichier.lire(pas.PosDonnees + i * pas.PasOctets, octets.data(), 2 * taille);
+        const std::size_t lus = lecture.lire(pas.PosDonnees + i * pas.PasOctets, octets.data(), 2 * taille);
         if (lus >= taille) ranger(i, octets.data());
         if (lus == 2 * taille) ranger(largeur + i, octets.data() + taille);
         if (avance && i % PAS_AVANCE == 0) avance(i);

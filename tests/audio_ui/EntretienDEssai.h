@@ -3,7 +3,6 @@
 #include "audio/ui/FrmVisu.h"
 #include "support/FenetresMuettes.h"
 #include "support/PlateformeDeTest.h"
-#include "transcription/Retranscription.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -12,8 +11,9 @@
 #include <QTest>
 #include <QTimer>
 #include <cmath>
+#include <iomanip>
 #include <memory>
-#include <utility>
+#include <sstream>
 #include <vector>
 
 namespace vermo::essai {
@@ -32,14 +32,11 @@ class EntretienDEssai {
         EtatCorpus& corpus = session.corpus;
         corpus.RepCorpus = plateforme.dossier.chemin();
         corpus.Entretiens.resize(2);
-        corpus.Entretiens[1].Fichier = nom;
-        corpus.Entretiens[1].Duree = static_cast<float>(duree);
+        corpus.Entretiens[1].Fichier = nom, corpus.Entretiens[1].Duree = static_cast<float>(duree);
         corpus.NbEntretiens = corpus.EntretienCourant = 1;
         corpus.ThmCode = {"", "000", "001", "002"};
-        corpus.ThmNom = {"", "Pas de thematique", "Enfance", "Travail"};
-        corpus.ThmCouleur = {"", "6513507", "16744448", "4227327"};
-        corpus.ThmVisible = {0, 1, 1, 1};
-        corpus.NbThm = 3;
+        corpus.ThmNom = corpus.ThmCouleur = {"", "6513507", "16744448", "4227327"};
+        corpus.ThmVisible = {0, 1, 1, 1}, corpus.NbThm = 3;
         chemin = plateforme.dossier.ecrire(nom, wav(1, 8, sons(duree)));
         plateforme.media.dureeParDefaut = duree;
         plateforme.media.URL(chemin);
@@ -47,29 +44,22 @@ class EntretienDEssai {
 
     /// Writes a transcript with these spans, coded in turn 001 and 002.
     void transcrire(const std::vector<Bornes>& extraits, const Texte& texte = "Un texte.") {
-        plateforme.dossier.ecrire("entretien1.Rtr", "");
-        EtatTranscription& etat = session.transcription;
-        etat.ExtraitDebut = etat.ExtraitFin = {0.0};
-        etat.ExtraitCode = etat.ExtraitTexte = {""};
-        for (const Bornes& extrait : extraits) {
-            etat.ExtraitDebut.emplace_back(extrait.debut);
-            etat.ExtraitFin.emplace_back(extrait.fin);
-            etat.ExtraitCode.emplace_back(etat.ExtraitCode.size() % 2 ? "001" : "002");
-            etat.ExtraitTexte.push_back(texte);
-        }
-        etat.NbExtraits = static_cast<float>(extraits.size());
-        etat.lectureEntiere = true;
-        EXPECT_TRUE(EnregistrerExtraits(session, plateforme));
+        std::ostringstream rtr;
+        rtr << std::fixed << std::setprecision(2) << " 60 \r\n<|OBS|\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n";
+        for (std::size_t i = 0; i < extraits.size(); ++i)
+            rtr << "::" << extraits[i].debut << (i % 2 ? "::002\r\n" : "::001\r\n") << texte
+                << "\r\n::" << extraits[i].fin << "::\r\n";
+        plateforme.dossier.ecrire("entretien1.Rtr", rtr.str());
     }
 
-    bool ouvrir(Ouverture ouverture = Ouverture::SansFondu) {
+    bool ouvrir() {
         visu = std::make_unique<FrmVisu>(session, plateforme, fenetres);
         plateforme.media.surChangementEtat = [this](EtatLecture etat) { visu->Media_PlayStateChange(etat); };
         for (QTimer* timer : visu->findChildren<QTimer*>())
             timer->setInterval(3600 * 1000); // ticks are given by hand
-        const bool ouvert = visu->OuvrirEntretienVue(ouverture);
-        if (ouvert) visu->show();
-        return ouvert;
+        if (!visu->OuvrirEntretienVue()) return false;
+        visu->show();
+        return true;
     }
     ~EntretienDEssai() { plateforme.media.surChangementEtat = nullptr; }
 
@@ -79,11 +69,10 @@ class EntretienDEssai {
         return visu->findChild<QLabel*>(QLatin1String(nom))->text().toStdString();
     }
 
-    /// Place of a time on the zoom band, at a height in twips.
-    QPoint ici(double temps, Twips y = 6000) {
+    /// Place of a time on the zoom band.
+    QPoint ici(double temps) {
         const EtatAudio& audio = session.audio;
-        const int largeur = toile("Pict_zoom").width();
-        return {qRound((temps - audio.DebutZoom) / audio.DureeZoom * largeur), qRound(y / 15)};
+        return {qRound((temps - audio.DebutZoom) / audio.DureeZoom * toile("Pict_zoom").width()), 400};
     }
     void survoler(const char* nom, QPoint ou, Qt::MouseButtons tenus = {}) {
         Toile& cible = toile(nom);
@@ -103,12 +92,8 @@ class EntretienDEssai {
 
   private:
     static std::string sons(double duree) {
-        constexpr int FREQUENCE = 200;
-        return echantillons(static_cast<int>(duree * FREQUENCE), 8, [](int i) {
-            const double t = i / double(FREQUENCE);
-            const double phrase = std::pow(std::fabs(std::sin(t * 0.7)), 2) * std::fabs(std::sin(t * 5.3));
-            return 128 + static_cast<int>(100 * phrase * std::sin(i * 1.9));
-        });
+        return echantillons(static_cast<int>(duree * 200), 8,
+                            [](int i) { return 128 + static_cast<int>(100 * std::sin(i * 1.9)); });
     }
 };
 

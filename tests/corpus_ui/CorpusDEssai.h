@@ -16,8 +16,7 @@ inline Session corpusDEssai(int nombre) {
     Session session;
     session.reglages.separateurDecimal = '.';
     EtatCorpus& corpus = session.corpus;
-    corpus.CheminCorpus = "/corpus/Essai.Crp";
-    corpus.RepCorpus = "/corpus/";
+    corpus.CheminCorpus = "/corpus/Essai.Crp", corpus.RepCorpus = "/corpus/";
     corpus.HauteurEntretien = 1000;
     corpus.ThmCode = {"", "000", "001", "002"};
     corpus.ThmCouleur = {"", "&H0", "255", "65280"};
@@ -25,8 +24,7 @@ inline Session corpusDEssai(int nombre) {
     corpus.ThmVisible = {0, 1, 1, 1};
     corpus.NbThm = 3;
     corpus.NbEntretiens = static_cast<std::int16_t>(nombre);
-    corpus.Entretiens.resize(1);
-    corpus.extraits.resize(1);
+    corpus.Entretiens.resize(1), corpus.extraits.resize(1);
     for (int i = 1; i <= nombre; ++i) {
         Entretien& entretien = corpus.Entretiens.emplace_back();
         entretien.Fichier = "entretien" + std::to_string(i) + ".wav";

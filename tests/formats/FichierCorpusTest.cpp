@@ -12,33 +12,19 @@ const std::string CORPUS =
     "001,255,Famille, enfance\r\n>|THEM|\r\n<|POS|\r\n4,Profession\r\n>|POS|\r\n<|DIC|\r\n"
     "4,1,Enseignant, chercheur\r\n>|DIC|\r\n<|ENTR|\r\na.wav\r\n>|ENTR|\r\n";
 
-TEST(FichierCorpus, UnCorpusNeufALesDixLignes) {
-    EXPECT_EQ(nouveau("03/04/2009", "14:05:06"),
-              "Projet cr\xE9"
-              "e le 03/04/2009 \xE0 14:05:06\r\n<|THEM|\r\n000,&H0, Pas de th\xE9matique\r\n>|THEM|\r\n"
-              "<|POS|\r\n>|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\n>|ENTR|\r\n");
-}
-
 TEST(FichierCorpus, LitLesQuatreSections) {
+    using Textes = std::vector<Texte>;
     EXPECT_EQ(lireThematiques(CORPUS, "c.Crp"),
               (std::vector<Thematique>{{"000", "&H0", " Pas de th\xE9matique"},
                                        {"001", "255", "Famille, enfance"}}));
     EXPECT_EQ(lirePos(CORPUS, "c.Crp"), (std::vector<LigneVariable>{{"4", "Profession"}}));
     EXPECT_EQ(lireDic(CORPUS, "c.Crp"), (std::vector<LigneModalite>{{4, 1, "Enseignant, chercheur"}}));
-    EXPECT_EQ(lireEntretiens(CORPUS), std::vector<Texte>{"a.wav"});
-}
-
-TEST(FichierCorpus, BalisesOuVidesOuAbsentes) {
-    const struct {
-        std::string octets;
-        std::optional<std::vector<Texte>> entretiens;
-    } cas[] = {
-        {"", std::nullopt},
+    const std::pair<std::string, std::optional<Textes>> cas[] = {
+        {CORPUS, Textes{"a.wav"}},
         {"<|THEM|\r\n>|THEM|\r\na.wav\r\n>|ENTR|\r\n", std::nullopt},
-        {"xx<|ENTR|yy\ra.wav\r\r\nb.wav\rz>|ENTR|z\rc.wav\r", std::vector<Texte>{"a.wav", "b.wav"}},
-        {"<|ENTR|\r\na.wav", std::vector<Texte>{"a.wav"}},
-        {"<|ENTR|", std::vector<Texte>{}},
-    };
+        {"xx<|ENTR|yy\ra.wav\r\r\nb.wav\rz>|ENTR|z\rc.wav\r", Textes{"a.wav", "b.wav"}},
+        {"<|ENTR|\r\na.wav", Textes{"a.wav"}},
+        {"<|ENTR|", Textes{}}};
     for (const auto& [octets, entretiens] : cas)
         EXPECT_EQ(lireEntretiens(octets), entretiens) << octets;
 }
@@ -50,10 +36,7 @@ TEST(FichierCorpus, RefuseEnNommantLaLigne) {
             texte += ligne;
         return texte;
     };
-    const struct {
-        std::string section, contenu;
-        std::size_t ligne;
-    } cas[] = {
+    const std::tuple<std::string, std::string, std::size_t> cas[] = {
         {"THEM", "000,0,a\r\n\r\n001 0 b\r\n", 4},
         {"THEM", "000,0 a\r\n", 2},
         {"THEM", "000,rouge,a\r\n", 2},
@@ -61,13 +44,11 @@ TEST(FichierCorpus, RefuseEnNommantLaLigne) {
         {"THEM", plein("000,0,a\r\n", 1000), 1001},
         {"POS", "Sexe\r\n", 2},
         {"POS", "1,Sexe\r\n100,Age\r\n", 3},
-        {"POS", "x,Age\r\n", 2},
         {"DIC", "4,1\r\n", 2},
         {"DIC", "4,0,Non\r\n", 2},
         {"DIC", "4,99999999999,Non\r\n", 2},
         {"ENTR", plein("a.wav\r\n", 1000), 1001},
-        {"ENTR", std::string("a\0.wav", 6), 2},
-    };
+        {"ENTR", std::string("a\0.wav", 6), 2}};
     for (const auto& [section, contenu, ligne] : cas) {
         const std::string octets = "<|" + section + "|\r\n" + contenu;
         std::size_t fautive = 0;

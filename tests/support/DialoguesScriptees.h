@@ -19,8 +19,11 @@ class DialoguesScriptees : public Dialogues {
   public:
     DialoguesScriptees() = default;
     DialoguesScriptees(const DialoguesScriptees&) = delete;
-    DialoguesScriptees& operator=(const DialoguesScriptees&) = delete;
-    ~DialoguesScriptees() override { verifier(); }
+    /// Fails for the answers that were not used.
+    ~DialoguesScriptees() override {
+        for (const auto& prevue : prevues_)
+            ADD_FAILURE() << "answer never used: " << (prevue.fichier ? prevue.chemin : nom(prevue.reponse));
+    }
 
     /// Next answer to a message box. `extrait`, when given, must stand in the box's text.
     DialoguesScriptees& repondre(Reponse reponse, std::string extrait = {}) {
@@ -35,22 +38,17 @@ class DialoguesScriptees : public Dialogues {
 
     const std::vector<std::string>& journal() const { return journal_; }
     std::string dernier() const { return journal_.empty() ? std::string() : journal_.back(); }
-    void effacerJournal() { journal_.clear(); }
-
-    /// Fails for the answers that were not used, and forgets them.
-    void verifier() {
-        for (const auto& prevue : prevues_)
-            ADD_FAILURE() << "answer never used: " << (prevue.fichier ? prevue.chemin : nom(prevue.reponse));
-        prevues_.clear();
-    }
 
     Reponse demander(const Message& message) override {
-        const std::string question =
-            message.titre + "|" + message.texte + "|" + nom(message.boutons) + "|" + nom(message.icone);
-        Prevue prevue = prochaine(false, question, parDefaut(message.boutons));
+        constexpr const char* boutons[] = {"Ok", "OkAnnuler", "OuiNon", "OuiNonAnnuler"};
+        constexpr const char* icones[] = {"Aucune", "Information", "Exclamation", "Question", "Critique"};
+        const std::string offertes = boutons[static_cast<int>(message.boutons)];
+        const std::string question = message.titre + "|" + message.texte + "|" + offertes + "|" +
+                                     icones[static_cast<int>(message.icone)];
+        const Prevue prevue = prochaine(false, question, parDefaut(message.boutons));
         EXPECT_NE(message.texte.find(prevue.extrait), std::string::npos)
             << "expected \"" << prevue.extrait << "\" in: " << question;
-        EXPECT_TRUE(offerte(prevue.reponse, message.boutons))
+        EXPECT_NE(offertes.find(nom(prevue.reponse)), std::string::npos)
             << nom(prevue.reponse) << " is no button of: " << question;
         noter(question + " -> " + nom(prevue.reponse));
         return prevue.reponse;
@@ -59,7 +57,7 @@ class DialoguesScriptees : public Dialogues {
     Utf8 choisirFichier(const DemandeFichier& demande) override {
         const std::string question = "fichier|" + demande.titre + "|" + demande.filtre + "|" +
                                      (demande.enregistrer ? "enregistrer" : "ouvrir");
-        Prevue prevue = prochaine(true, question, Reponse::Ok);
+        const Prevue prevue = prochaine(true, question, Reponse::Ok);
         noter(question + " -> " + prevue.chemin);
         return prevue.chemin;
     }
@@ -83,10 +81,9 @@ class DialoguesScriptees : public Dialogues {
     }
 
     void noter(const std::string& ligne) {
-        std::string seule;
+        std::string& seule = journal_.emplace_back();
         for (char c : ligne)
             seule += c == '\n' ? std::string("\\n") : std::string(1, c);
-        journal_.push_back(seule);
     }
 
     static Reponse parDefaut(Boutons boutons) {
@@ -94,19 +91,7 @@ class DialoguesScriptees : public Dialogues {
                : boutons == Boutons::OuiNon ? Reponse::Non
                                             : Reponse::Annuler;
     }
-    static bool offerte(Reponse reponse, Boutons boutons) {
-        const std::string offertes = nom(boutons);
-        return offertes.find(nom(reponse)) != std::string::npos;
-    }
-    static std::string nom(Boutons boutons) {
-        constexpr const char* noms[] = {"Ok", "OkAnnuler", "OuiNon", "OuiNonAnnuler"};
-        return noms[static_cast<int>(boutons)];
-    }
-    static std::string nom(Icone icone) {
-        constexpr const char* noms[] = {"Aucune", "Information", "Exclamation", "Question", "Critique"};
-        return noms[static_cast<int>(icone)];
-    }
-    static std::string nom(Reponse reponse) {
+    static const char* nom(Reponse reponse) {
         constexpr const char* noms[] = {"Ok", "Annuler", "Oui", "Non"};
         return noms[static_cast<int>(reponse)];
     }

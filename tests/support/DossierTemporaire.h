@@ -23,7 +23,6 @@ class DossierTemporaire {
         chemin_ = modele + "/";
     }
     DossierTemporaire(const DossierTemporaire&) = delete;
-    DossierTemporaire& operator=(const DossierTemporaire&) = delete;
     ~DossierTemporaire() {
         std::error_code sansImportance;
         std::filesystem::remove_all(chemin_, sansImportance);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -12,16 +13,13 @@ namespace vermo::essai {
 /// then `pret()` ends the loading.
 class LecteurSimule : public LecteurMedia {
   public:
-    std::map<Utf8, double> durees; ///< seconds, by full path or by the name alone
+    std::map<Utf8, double> durees; ///< seconds, by the name alone
     double dureeParDefaut = 60;    ///< of a recording that the table doesn't name; 0: it can't be loaded
     bool lent = false;
-    bool vitesseReglable = true;
     bool sansSon = false;
 
     /// Commands in order: "URL a.wav", "play", "pause", "stop", "position 12.5", "volume 80", "rate 1.5".
     const std::vector<std::string>& journal() const { return journal_; }
-    void effacerJournal() { journal_.clear(); }
-    double vitesse() const { return vitesse_; }
 
     /// Lets `secondes` of the clock pass. At the end of the recording it stops there.
     void avancer(double secondes) {
@@ -70,19 +68,19 @@ class LecteurSimule : public LecteurMedia {
     }
     double currentPosition() const override { return position_; }
     void currentPosition(double secondes) override {
-        journal_.push_back("position " + texte(secondes));
+        noter("position", secondes);
         position_ =
             etat_ == EtatLecture::Chargement ? std::max(0.0, secondes) : std::clamp(secondes, 0.0, duree_);
     }
     double duration() const override { return duree_; }
     int volume() const override { return volume_; }
     void volume(int part) override {
-        journal_.push_back("volume " + std::to_string(part));
+        noter("volume", part);
         volume_ = std::clamp(part, 0, 100);
     }
-    bool rateDisponible() const override { return vitesseReglable; }
+    bool rateDisponible() const override { return true; }
     void rate(double facteur) override {
-        journal_.push_back("rate " + texte(facteur));
+        noter("rate", facteur);
         vitesse_ = facteur;
     }
     Utf8 erreur() const override { return erreur_; }
@@ -90,15 +88,14 @@ class LecteurSimule : public LecteurMedia {
 
   private:
     static Utf8 nomSeul(const Utf8& chemin) { return chemin.substr(chemin.rfind('/') + 1); }
-    static std::string texte(double nombre) {
-        std::string t = std::to_string(nombre);
-        t.erase(t.find_last_not_of('0') + 1);
-        return t.back() == '.' ? t.substr(0, t.size() - 1) : t;
+    void noter(const char* commande, double nombre) {
+        std::ostringstream ligne;
+        ligne << commande << " " << nombre;
+        journal_.push_back(ligne.str());
     }
     double dureeDe(const Utf8& chemin) const {
-        for (const Utf8& cle : {chemin, nomSeul(chemin)})
-            if (auto trouvee = durees.find(cle); trouvee != durees.end()) return trouvee->second;
-        return dureeParDefaut;
+        const auto trouvee = durees.find(nomSeul(chemin));
+        return trouvee == durees.end() ? dureeParDefaut : trouvee->second;
     }
     void passer(EtatLecture etat) {
         if (etat == etat_) return;

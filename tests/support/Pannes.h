@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <csignal>
 #include <functional>
+#include <optional>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -38,11 +39,9 @@ class Pannes {
         table.fsync = [](int d) { return frappe("fsync") ? -1 : etat().vrais.fsync(d); };
         table.close = [](int d) {
             const bool echec = frappe("close");
-            const int erreur = errno;
-            const int resultat = etat().vrais.close(d);
-            if (!echec) return resultat;
-            errno = erreur;
-            return -1;
+            const int erreur = errno, resultat = etat().vrais.close(d);
+            if (echec) errno = erreur;
+            return echec ? -1 : resultat;
         };
         table.rename = [](const char* a, const char* b) {
             return frappe("rename") ? -1 : etat().vrais.rename(a, b);
@@ -50,7 +49,6 @@ class Pannes {
         table.unlink = [](const char* c) { return frappe("unlink") ? -1 : etat().vrais.unlink(c); };
     }
     Pannes(const Pannes&) = delete;
-    Pannes& operator=(const Pannes&) = delete;
     ~Pannes() { appelsSysteme() = vrais_; }
 
     /// Calls counted so far.
@@ -79,25 +77,30 @@ class Pannes {
     AppelsSysteme vrais_;
 };
 
+/// Temporary files in `dossier`, which are removed.
 inline long temporairesRestants(const DossierTemporaire& dossier) {
-    const std::filesystem::directory_iterator entrees(dossier.chemin());
-    return std::count_if(begin(entrees), end(entrees), [](const auto& entree) {
-        return entree.path().filename().string().starts_with(".vermo-");
-    });
+    long restants = 0;
+    for (const auto& entree : std::filesystem::directory_iterator(dossier.chemin()))
+        if (entree.path().filename().string().starts_with(".vermo-"))
+            restants += std::filesystem::remove(entree) ? 1 : 0;
+    return restants;
 }
 
-/// Runs `action`, which replaces the existing file `nom`, with each of its system calls failing in turn (I/O
+/// Runs `action`, which replaces or makes the file `nom`, with each of its system calls failing in turn (I/O
 /// error, full disk, read-only), and in child processes killed at each call, inside the writing too. After
-/// each, the file must be the old one or the new one, whole, and no temporary file left but by a kill.
+/// each, the file must be the old one (none, where there was none) or the new one, whole, and no temporary
+/// file left but by a kill.
 inline void survitAuxPannes(const DossierTemporaire& dossier, const Utf8& nom,
                             const std::function<void()>& action) {
-    const std::string ancien = dossier.lire(nom);
+    using Contenu = std::optional<std::string>;
+    const auto contenu = [&] { return dossier.existe(nom) ? Contenu(dossier.lire(nom)) : std::nullopt; };
+    const Contenu ancien = contenu();
     action();
-    const std::string nouveau = dossier.lire(nom);
+    const Contenu nouveau = contenu();
     ASSERT_NE(ancien, nouveau) << "the action must change " << nom;
-    const std::size_t morceau = std::max<std::size_t>(nouveau.size() / 3, 1);
+    const std::size_t morceau = std::max<std::size_t>(nouveau.value().size() / 3, 1);
     const auto essayer = [&](const Panne& panne) {
-        dossier.ecrire(nom, ancien);
+        ancien ? void(dossier.ecrire(nom, *ancien)) : void(std::filesystem::remove(dossier.chemin(nom)));
         Pannes pannes(panne);
         try {
             action();
@@ -106,28 +109,31 @@ inline void survitAuxPannes(const DossierTemporaire& dossier, const Utf8& nom,
         }
         return pannes.appels();
     };
+    const auto verifier = [&](const Panne& panne) {
+        const Contenu apres = contenu();
+        EXPECT_TRUE(apres == ancien || apres == nouveau)
+            << nom << " torn: errno " << panne.erreur << " at call " << panne.rang;
+    };
     const int appels = essayer({.morceau = morceau});
     ASSERT_GT(appels, 0);
     for (int rang = 1; rang <= appels; ++rang) {
         for (const int erreur : {EIO, ENOSPC, EROFS}) {
-            essayer({.rang = rang, .erreur = erreur, .morceau = morceau});
-            const std::string apres = dossier.lire(nom);
-            EXPECT_TRUE(apres == ancien || apres == nouveau)
-                << "torn: errno " << erreur << " at call " << rang;
+            const Panne panne{.rang = rang, .erreur = erreur, .morceau = morceau};
+            essayer(panne);
+            verifier(panne);
             EXPECT_EQ(temporairesRestants(dossier), 0) << "errno " << erreur << " at call " << rang;
         }
+        const Panne mort{.rang = rang, .morceau = morceau};
         const pid_t enfant = fork();
         if (enfant == 0) {
-            essayer({.rang = rang, .morceau = morceau});
+            essayer(mort);
             _exit(0);
         }
         int fin = 0;
         ASSERT_EQ(waitpid(enfant, &fin, 0), enfant);
         EXPECT_TRUE(WIFSIGNALED(fin) && WTERMSIG(fin) == SIGKILL) << "not killed at call " << rang;
-        const std::string apres = dossier.lire(nom);
-        EXPECT_TRUE(apres == ancien || apres == nouveau) << "torn: killed at call " << rang;
-        for (const auto& entree : std::filesystem::directory_iterator(dossier.chemin()))
-            if (entree.path().filename().string().starts_with(".vermo-")) std::filesystem::remove(entree);
+        verifier(mort);
+        temporairesRestants(dossier);
     }
 }
 

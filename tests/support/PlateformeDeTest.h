@@ -4,6 +4,7 @@
 #include "support/DossierTemporaire.h"
 #include "support/LecteurSimule.h"
 
+#include <ctime>
 #include <string>
 #include <vector>
 
@@ -12,28 +13,21 @@ namespace vermo::essai {
 /// A clock that stands still until the test moves it: 3 April 2009, 14:05:06.
 class HorlogeFixe : public Horloge {
   public:
-    std::tm heure = {.tm_sec = 6,
-                     .tm_min = 5,
-                     .tm_hour = 14,
-                     .tm_mday = 3,
-                     .tm_mon = 3,
-                     .tm_year = 109,
-                     .tm_wday = 5,
-                     .tm_yday = 92,
-                     .tm_isdst = 0,
-                     .tm_gmtoff = 0,
-                     .tm_zone = nullptr};
+    std::tm heure = [] {
+        std::tm lue{};
+        strptime("2009-04-03 14:05:06", "%Y-%m-%d %H:%M:%S", &lue);
+        return lue;
+    }();
     std::tm maintenant() const override { return heure; }
 };
 
 /// Notes the programs it is asked to start.
 class LanceurSimule : public Lanceur {
   public:
-    bool accepte = true;
     std::vector<Utf8> lances;
     bool lancer(const Utf8& chemin) override {
         lances.push_back(chemin);
-        return accepte;
+        return true;
     }
 };
 
@@ -50,15 +44,9 @@ class EcranFixe : public Ecran {
 class ProgressionMuette : public Progression {
   public:
     int patience = 1000;
-    long minimum = 0, maximum = 0, valeur = 0;
-    int debuts = 0, fins = 0;
-    void debut(long de, long a) override {
-        minimum = valeur = de;
-        maximum = a;
-        ++debuts;
-    }
-    void avance(long v) override { valeur = v; }
-    void fin() override { ++fins; }
+    void debut(long, long) override {}
+    void avance(long) override {}
+    void fin() override {}
     bool patienter() override { return patience-- > 0; }
 };
 

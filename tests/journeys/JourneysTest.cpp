@@ -1,0 +1,156 @@
+// The whole program as a person goes through it: real windows, simulated host.
+#include "app/Application.h"
+#include "audio/OndeDEssai.h"
+#include "audio/ui/FrmVisu.h"
+#include "corpus_ui/CorpusDEssai.h"
+
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QTimer>
+
+namespace vermo {
+namespace {
+
+using namespace essai;
+
+constexpr const char* TETE = "Projet\r\n<|THEM|\r\n000,&H0, Rien\r\n001,255, Travail\r\n>|THEM|\r\n<|POS|\r\n"
+                             ">|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\n";
+constexpr const char* RTR = " 60 \r\n<|OBS|\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n";
+constexpr const char* EXTRAIT = "::1.00::001\r\nmot\r\n::3.00::\r\n";
+
+class Parcours : public testing::Test {
+  protected:
+    /// A corpus of a.wav and b.wav, chosen in the start window's list of recent ones.
+    Parcours() {
+        session.reglages.separateurDecimal = '.';
+        hote.dossier.ecrire("c/E.Crp", std::string(TETE) + "a.wav\r\nb.wav\r\n>|ENTR|\r\n");
+        for (const char* nom : {"c/a", "c/b"}) {
+            hote.dossier.ecrire(nom + std::string(".wav"), wav(1, 8, std::string(12000, '\x80')));
+            hote.dossier.ecrire(nom + std::string(".Rtr"), std::string(RTR) + EXTRAIT);
+        }
+        hote.dossier.ecrire("programme/Projets.ini", hote.dossier.chemin("c/E.Crp") + "\r\n");
+    }
+    void ouvrirCorpus() {
+        app.demarrer();
+        QTest::mouseClick(membre<QWidget>(forme("FrmIntro"), "lblcorpus3"), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    /// The window of this name on the screen, its timers stopped.
+    static Forme& forme(const char* nom) {
+        for (QWidget* fenetre : QApplication::topLevelWidgets())
+            if (fenetre->objectName() == QLatin1String(nom) && fenetre->isVisible()) {
+                for (QTimer* timer : fenetre->findChildren<QTimer*>())
+                    timer->stop();
+                return dynamic_cast<Forme&>(*fenetre);
+            }
+        throw std::runtime_error(std::string("not on the screen: ") + nom);
+    }
+    static Toile& rangees() { return *membre<Toile>(forme("FrmCorpus"), "Frm_entretiens"); }
+    static std::string noms() {
+        std::string suite;
+        for (const Element& e : rangees().elements())
+            if (e.controle == Controle::lblfich) suite += e.texte + " ";
+        return suite;
+    }
+    float extraits(std::size_t slot) const { return session.corpus.Entretiens.at(slot).NbExtraits; }
+
+    PlateformeDeTest hote;
+    Session session;
+    Application app{session, hote};
+};
+
+TEST_F(Parcours, ARecordingThatLiesElsewhereIsBroughtInAndOpened) {
+    ouvrirCorpus();
+    EXPECT_EQ(noms(), "a b ");
+    const std::string octets = wav(2, 16, std::string(40000, '\0'));
+    hote.dossier.ecrire("ailleurs/été.wav", octets);
+    hote.media.durees["été.wav"] = 75.5;
+    hote.dialogues.choisir(hote.dossier.chemin("ailleurs/été.wav"))
+        .repondre(Reponse::Non, "Stereo - 16 bits")
+        .repondre(Reponse::Ok, "hors du répertoire")
+        .repondre(Reponse::Ok, "a été copié");
+    cliquer(forme("FrmCorpus"), "Imgbtn7");
+    EXPECT_EQ(hote.dossier.lire("c/E.Crp"),
+              std::string(TETE) + "a.wav\r\nb.wav\r\n\xE9t\xE9.wav\r\n>|ENTR|\r\n");
+    EXPECT_EQ(hote.dossier.lire("c/été.Rtr"), std::string(RTR).replace(1, 2, "75.5"));
+    EXPECT_EQ(hote.dossier.lire("c/été.wav"), octets);
+    EXPECT_EQ(noms(), "a b \xE9t\xE9 ");
+    EXPECT_EQ(forme("FrmVisu").alpha(), 250);
+    EXPECT_TRUE(hote.media.enLecture());
+}
+
+TEST_F(Parcours, EachWayToAnInterviewShowsItAtItsOpacity) {
+    ouvrirCorpus();
+    const auto ouverte = [&](int slot) -> FrmVisu& {
+        EXPECT_EQ(session.corpus.EntretienCourant, slot);
+        return dynamic_cast<FrmVisu&>(forme("FrmVisu"));
+    };
+    QTest::mouseClick(&rangees(), Qt::LeftButton, {}, lieu(rangees(), Controle::ImgPlay, 2));
+    FrmVisu& fondue = ouverte(2);
+    EXPECT_EQ(fondue.alpha(), 0);
+    for (int tic = 0; tic < 25; ++tic)
+        fondue.Timer3_Tick();
+    EXPECT_EQ(fondue.alpha(), 247);
+    app.decharger(Fenetre::FrmVisu);
+    EXPECT_TRUE(forme("FrmCorpus").isEnabled());
+
+    QTest::mouseDClick(&rangees(), Qt::LeftButton, {}, lieu(rangees(), Controle::lblfich, 1));
+    EXPECT_EQ(ouverte(1).alpha(), 250);
+    app.decharger(Fenetre::FrmVisu);
+
+    app.OuvrirMenu(Panneau::Entretiens, {});
+    cliquer(forme("FrmMenu"), "lblmenu10");
+    EXPECT_EQ(ouverte(1).alpha(), 250);
+}
+
+TEST_F(Parcours, AnExtractMarkedAndTypedIsOnTheTimelineAfterTheClosing) {
+    ouvrirCorpus();
+    app.OuvrirEntretien(1, Ouverture::SansFondu);
+    auto& visu = dynamic_cast<FrmVisu&>(forme("FrmVisu"));
+    auto* touches = membre<QWidget>(visu, "TxtCtrl");
+    hote.media.currentPosition(2); // within its neighbour: nobody asks
+    QTest::keyClick(touches, Qt::Key_Return);
+    hote.media.avancer(15);
+    QTest::keyClick(touches, Qt::Key_Return);
+    Forme& saisie = forme("FrmSaisie");
+    QTest::keyClicks(membre<QPlainTextEdit>(saisie, "TextRtr"), QStringLiteral("bonjour"));
+    cliquer(saisie, "Imgbtn0");
+    EXPECT_EQ(hote.dossier.lire("c/a.Rtr"),
+              std::string(RTR) + EXTRAIT + "::2.00::000\r\nbonjour\r\n::17.00::\r\n");
+    cliquer(visu, "ImgCorpus");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !app.visible(Fenetre::FrmVisu); }));
+    EXPECT_EQ(extraits(1), 2);
+    EXPECT_EQ(CorpusTexte(session, 1, 2), "bonjour\r");
+    EXPECT_TRUE(forme("FrmCorpus").isEnabled());
+}
+
+TEST_F(Parcours, FaultsInSingleTranscriptsAreEachToldOnceAndTheCorpusOpens) {
+    std::string mille = RTR;
+    for (int i = 0; i < 1000; ++i)
+        mille += EXTRAIT;
+    hote.dossier.ecrire("c/a.Rtr", std::string(RTR) + EXTRAIT + "::5.00::001\r\ncoup");
+    hote.dossier.ecrire("c/b.Rtr", mille);
+    hote.dialogues.repondre(Reponse::Ok, "coupée").repondre(Reponse::Ok, "au plus 999 extraits");
+    ouvrirCorpus();
+    EXPECT_EQ(noms(), "a b ");
+    EXPECT_EQ(extraits(2), 999);
+    app.BasculerTailleReelle(true); // a redraw says nothing anew
+    EXPECT_EQ(hote.dossier.lire("c/b.Rtr"), mille);
+}
+
+TEST_F(Parcours, AnOpeningThatFailsLeavesTheWindowEmptied) {
+    ouvrirCorpus();
+    const Utf8 parti = hote.dossier.chemin("c/parti.Crp");
+    hote.dialogues.choisir(parti).repondre(Reponse::Ok, "Le corpus suivant est inaccessible :\n" + parti);
+    app.OuvrirMenu(Panneau::Corpus, {});
+    cliquer(forme("FrmMenu"), "lblmenu1");
+    EXPECT_EQ(noms(), "");
+    QTest::mouseClick(&rangees(), Qt::LeftButton, {}, {200, 60});
+    QTest::keyClick(&rangees(), Qt::Key_Down);
+    app.RetirerEntretien();
+    forme("FrmCorpus").grab();
+    EXPECT_EQ(hote.dossier.lire("c/E.Crp"), std::string(TETE) + "a.wav\r\nb.wav\r\n>|ENTR|\r\n");
+}
+
+} // namespace
+} // namespace vermo

@@ -1,0 +1,77 @@
+#include "corpus/EcritureCorpus.h"
+#include "corpus/Import.h"
+#include "corpus/OuvertureCorpus.h"
+#include "support/Pannes.h"
+#include "textfile/fichier.h"
+#include "transcription/Entretien.h"
+
+#include <gtest/gtest.h>
+
+namespace vermo::essai {
+namespace {
+
+/// A person who agrees to everything, and always names the same file.
+struct Accord : Dialogues {
+    Utf8 fichier;
+    Reponse demander(const Message& message) override {
+        return message.boutons == Boutons::OuiNon ? Reponse::Oui : Reponse::Ok;
+    }
+    Utf8 choisirFichier(const DemandeFichier&) override { return fichier; }
+};
+
+/// Each file that the program writes, under every fault of every system call on the way and under a kill at
+/// each: the old file or the new one.
+TEST(Ecritures, AncienOuNouveauPourChaqueSorteDeFichier) {
+    EntretienOuvert e(" 125.5 \r\n::10.00::001\r\nBonjour.\r\r\n::12.50::\r\n");
+    e.thematiques({"001"});
+    const DossierTemporaire& dossier = e.hote.dossier;
+    Session& session = e.session;
+    Session autre;
+    Accord accord;
+    accord.fichier = dossier.chemin("Neuf.Crp");
+    e.hote.progression.patience = 1'000'000;
+    Plateforme hote{accord,
+                    e.hote.media,
+                    e.hote.horloge,
+                    e.hote.lanceur,
+                    e.hote.ecran,
+                    e.hote.progression,
+                    {.programme = dossier.chemin(), .donneesProgramme = {}, .donneesPersonne = {}}};
+    const std::string corpus = "Projet\r\n<|THEM|\r\n000,0,Pas\r\n>|THEM|\r\n<|ENTR|\r\n>|ENTR|\r\n";
+    const Utf8 source = dossier.ecrire("ailleurs/son.wav", std::string(5000, 's'));
+    const auto ajouter = [&] {
+        Texte saisi = "neuf";
+        AjouterExtrait(session, hote, saisi, "001");
+    };
+    const struct {
+        const char* nom;
+        std::optional<std::string> ancien; ///< none: the file is made
+        std::function<void()> action;
+    } cas[] = {
+        {"E.Crp", corpus, [&] { EcrireThematiques(session, hote); }},
+        {"E.Crp", corpus, [&] { EcrireEntretiens(session, hote); }},
+        {"E.Crp.$$$", {}, [&] { EcrireEntretiens(session, hote); }},
+        {"Neuf.Crp", {}, [&] { creerCorpus(autre, hote); }},
+        {"Projets.ini", "/ancien.Crp\r\n", [&] { MettreAJourProjets(session, hote); }},
+        {"son.wav", {}, [&] { apporterDansCorpus(session, hote, source); }},
+        {"son.wav", "ancien", [&] { apporterDansCorpus(session, hote, source); }},
+        {"a.Rtr", {}, [&] { creerRetranscription(session, 1); }},
+        {"a.Rtr", {}, ajouter},
+        {"a.Rtr", dossier.lire("a.Rtr"), ajouter},
+        {"a.Rtr", dossier.lire("a.Rtr"), [&] { EnregistrerExtraits(session, hote); }},
+        {"a.Rtr", dossier.lire("a.Rtr"), [&] { SupprimerExtrait(session, hote); }},
+    };
+    session.transcription.SaisieFin = 2;
+    session.transcription.ExtraitCourant = 1;
+    for (const auto& c : cas) {
+        SCOPED_TRACE(c.nom);
+        dossier.ecrire("E.Crp", corpus);
+        session.corpus.CheminCorpus = dossier.chemin("E.Crp");
+        e.hote.media.URL(dossier.chemin("a.wav"));
+        c.ancien ? void(dossier.ecrire(c.nom, *c.ancien)) : supprimerFichier(dossier.chemin(c.nom));
+        survitAuxPannes(dossier, c.nom, c.action);
+    }
+}
+
+} // namespace
+} // namespace vermo::essai
