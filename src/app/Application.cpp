@@ -1,5 +1,6 @@
 #include "app/Application.h"
 
+#include "audio/Suivi.h"
 #include "audio/ui/FrmVisu.h"
 #include "corpus/AnalyserEntretiens.h"
 #include "corpus/ui/FrmCorpus.h"
@@ -174,12 +175,10 @@ void Application::ReglerVolume(int part) {
 }
 
 void Application::suivreEtat(EtatLecture etat) {
-    auto& audio = session_.audio;
-    if (audio.VolumeLecture == 0)
-        audio.VolumeLecture = float(plateforme_.media.volume());
-    else if (plateforme_.media.volume() != int(audio.VolumeLecture))
-        plateforme_.media.volume(int(audio.VolumeLecture));
-    if (visu_) visu_->Media_PlayStateChange(etat);
+    if (visu_)
+        visu_->Media_PlayStateChange(etat);
+    else
+        suivreVolume(session_.audio, plateforme_.media);
     if (saisie_) saisie_->suivreEtat(etat >= EtatLecture::Lecture && etat <= EtatLecture::RetourRapide);
 }
 

@@ -10,8 +10,6 @@ namespace vermo {
 
 namespace {
 
-constexpr std::uint8_t NOIR = 0;
-
 int rangees(const EnTeteWav& entete) {
     return std::clamp<int>(entete.NbCanaux, 1, 2);
 }

@@ -63,14 +63,4 @@ Dessin DessinerRegleSecondes(double DebutZoom, double DureeZoom, Twips largeur) 
     return dessin;
 }
 
-Dessin DessinerVolume(float VolumeLecture, Twips largeur, Twips hauteur) {
-    constexpr Couleur ENCRE = 0xFBFBFB;
-    Dessin dessin;
-    for (int i = 1; i <= std::min(static_cast<int>(VolumeLecture), 100); ++i) {
-        const Twips x = largeur * i / 100;
-        dessin.traits.push_back({x, hauteur - hauteur * i / 100 + 5, x, hauteur, ENCRE});
-    }
-    return dessin;
-}
-
 } // namespace vermo

@@ -24,7 +24,4 @@ int pasEtiquettes(double DureeZoom);
 /// time.
 Dessin DessinerRegleSecondes(double DebutZoom, double DureeZoom, Twips largeur);
 
-/// The volume's wedge: as wide as the volume, rising to the right.
-Dessin DessinerVolume(float VolumeLecture, Twips largeur, Twips hauteur);
-
 } // namespace vermo

@@ -7,11 +7,7 @@
 
 namespace vermo {
 
-namespace {
-
-constexpr Twips HAUT_CURSEUR = 440, COURSE_CURSEUR = 1240;
-
-} // namespace
+namespace {} // namespace
 
 SuiviLecture suivreLecture(const EtatAudio& audio, double position, Twips W, Twips Z) {
     SuiviLecture suivi;
@@ -47,15 +43,6 @@ void suivreVolume(EtatAudio& audio, LecteurMedia& media) {
         audio.VolumeLecture = static_cast<float>(media.volume());
     else if (static_cast<float>(media.volume()) != audio.VolumeLecture)
         media.volume(static_cast<int>(arrondi(audio.VolumeLecture)));
-}
-
-Twips hautImgCurseur(float VolumeLecture) {
-    return (100 - static_cast<double>(VolumeLecture)) / 100 * COURSE_CURSEUR + HAUT_CURSEUR;
-}
-
-int volumeImgCurseur(Twips haut) {
-    return static_cast<int>(
-        arrondi(std::clamp(100 - (haut - HAUT_CURSEUR) / COURSE_CURSEUR * 100, 0.0, 100.0)));
 }
 
 } // namespace vermo

@@ -48,8 +48,4 @@ Fondu avancerFondu(float& EtatFondu, float VolumeLecture);
 /// On each change of the play state: gives the player the volume that was set, or learns it.
 void suivreVolume(EtatAudio& audio, LecteurMedia& media);
 
-// The volume slider's knob on a panel: 1240 twips of travel from 440, loud on top.
-Twips hautImgCurseur(float VolumeLecture);
-int volumeImgCurseur(Twips haut); ///< its inverse, held between 0 and 100
-
 } // namespace vermo

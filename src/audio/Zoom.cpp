@@ -30,7 +30,8 @@ void choisirEmpan(EtatAudio& audio, double debut, double fin) {
 }
 
 double surGrille(double temps) {
-    return static_cast<double>(arrondi(temps) / GRILLE * GRILLE);
+    const long cases = arrondi(temps) / GRILLE;
+    return static_cast<double>(cases * GRILLE);
 }
 
 } // namespace

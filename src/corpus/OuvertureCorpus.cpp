@@ -156,8 +156,10 @@ void toutActiver(Session& session) {
 
 void calculerHauteur(Session& session, Twips hauteurCadre) {
     EtatCorpus& corpus = session.corpus;
-    if (corpus.HauteurEntretien == 0 && corpus.NbEntretiens >= 1)
-        corpus.HauteurEntretien = static_cast<float>(arrondi(hauteurCadre - 360) / (corpus.NbEntretiens + 1));
+    if (corpus.HauteurEntretien == 0 && corpus.NbEntretiens >= 1) {
+        const long parLigne = arrondi(hauteurCadre - 360) / (corpus.NbEntretiens + 1);
+        corpus.HauteurEntretien = static_cast<float>(parLigne);
+    }
     corpus.HauteurEntretien = std::max(corpus.HauteurEntretien, HAUTEUR_MIN);
 }
 

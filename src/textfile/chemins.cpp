@@ -59,16 +59,17 @@ Utf8 cheminReel(const Utf8& chemin) {
 
 IndexRepertoire::IndexRepertoire(const Utf8& repertoire) : repertoire_(repertoire) {
     if (!repertoire_.empty() && repertoire_.back() != '/') repertoire_ += '/';
-    lister(repertoire_, [&](const Utf8& nom) {
-        Utf8& garde = sansCasse_[majusculesUtf8(nom)];
-        if (garde.empty() || nom < garde) garde = nom;
-        exacts_.insert(nom);
-    });
+    lister(repertoire_, [&](const Utf8& nom) { exacts_.insert(nom); });
 }
 
 std::optional<Utf8> IndexRepertoire::trouver(const Utf8& nom) const {
     if (nom.find('/') != Utf8::npos) return vermo::trouver(repertoire_ + nom);
     if (exacts_.contains(nom)) return repertoire_ + nom;
+    if (sansCasse_.empty())
+        for (const Utf8& exact : exacts_) {
+            Utf8& garde = sansCasse_[majusculesUtf8(exact)];
+            if (garde.empty() || exact < garde) garde = exact;
+        }
     const auto autre = sansCasse_.find(majusculesUtf8(nom));
     if (autre == sansCasse_.end()) return std::nullopt;
     return repertoire_ + autre->second;

@@ -40,7 +40,7 @@ class IndexRepertoire {
   private:
     Utf8 repertoire_;
     std::unordered_set<Utf8> exacts_;
-    std::unordered_map<Utf8, Utf8> sansCasse_; ///< upper-cased name -> name
+    mutable std::unordered_map<Utf8, Utf8> sansCasse_; ///< upper-cased name -> name, made at the first miss
 };
 
 } // namespace vermo

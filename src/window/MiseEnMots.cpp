@@ -41,7 +41,8 @@ class Composition {
             mot.visible = mot.ligne <= lignes;
             if (!mot.visible) break;
             const int n = mot.ligne - 1;
-            if (mot.ligne != courante) gauche = reglages_.depart + largeurColonne_ * (n / parColonne);
+            const int colonne = n / parColonne;
+            if (mot.ligne != courante) gauche = reglages_.depart + largeurColonne_ * colonne;
             courante = mot.ligne;
             mot.gauche = gauche;
             mot.haut = reglages_.haut + reglages_.PasListe * (n % parColonne);

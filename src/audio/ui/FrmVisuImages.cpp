@@ -5,6 +5,7 @@
 #include "textfile/faute.h"
 #include "textfile/fichier.h"
 #include "transcription/Retranscription.h"
+#include "window/JaugeVolume.h"
 #include "window/ui/Glace.h"
 
 #include <QLineEdit>
@@ -125,7 +126,7 @@ void FrmVisu::DessinerVolume() {
     EtatAudio& audio = session_.audio;
     if (audio.VolumeLecture == 0) audio.VolumeLecture = static_cast<float>(plateforme_.media.volume());
     PictVol_->dessin(
-        vermo::DessinerVolume(audio.VolumeLecture, PictVol_->largeurTwips(), PictVol_->hauteurTwips()));
+        jauge::DessinerVolume(audio.VolumeLecture, PictVol_->largeurTwips(), PictVol_->hauteurTwips()));
 }
 
 } // namespace vermo
