@@ -2,6 +2,7 @@
 #include "formats/Marques.h"
 #include "textfile/lignes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -24,6 +25,7 @@ class Analyseur {
         ExtraitsEntretien& extraits = resultat.extraits;
         try {
             refuserTropGrand();
+            rangs_.reserve(std::min<std::size_t>(tampon_.size() / 256, EXTRAITS_CORPUS_MAX));
             extraits.duree = lireDuree();
             extraits.observations = lireObservations();
             lireExtraits();
@@ -34,7 +36,7 @@ class Analyseur {
         }
         rangerFin();
         extraits.somme = static_cast<float>(somme_);
-        rangs_.shrink_to_fit();
+        if (rangs_.size() < rangs_.capacity() / 2) rangs_.shrink_to_fit();
         extraits.lignes = std::move(rangs_);
         extraits.tampon = tamponReduit();
         return resultat;
@@ -81,15 +83,21 @@ class Analyseur {
     void lireExtraits() {
         std::string_view ligne;
         while (lignes_.suivante(ligne)) {
-            refuserNul(ligne, lieu());
-            const auto marque = rtr::lireMarque(ligne, lieu());
-            if (!marque)
+            if (nuls_) refuserNul(ligne, lieu());
+            if (!porteUneMarque(ligne)) {
                 ajouterTexte(ligne);
-            else if (DansExtrait_)
-                fermer(*marque);
-            else
-                ouvrir(*marque);
+                continue;
+            }
+            const rtr::Marque marque = *rtr::lireMarque(ligne, lieu());
+            DansExtrait_ ? fermer(marque) : ouvrir(marque);
         }
+    }
+
+    /// The next mark is sought once for all the lines of text before it.
+    bool porteUneMarque(std::string_view ligne) {
+        const auto debut = static_cast<std::size_t>(ligne.data() - tampon_.data());
+        if (prochaine_ < debut) prochaine_ = tampon_.find(rtr::MARQUE, debut);
+        return prochaine_ < debut + ligne.size();
     }
 
     /// What stands before the first extract belongs to none.
@@ -97,7 +105,6 @@ class Analyseur {
         if (rangs_.empty()) return;
         ecrire(ligne);
         tampon_[ecrit_++] = CR;
-        rangs_.back().longueurTexte = static_cast<std::uint32_t>(ecrit_) - rangs_.back().texte;
     }
 
     void ouvrir(const rtr::Marque& marque) {
@@ -130,7 +137,9 @@ class Analyseur {
     /// An extract's end waits until its text is complete: lines may follow the closing one.
     void rangerFin() {
         if (rangs_.empty()) return;
-        rangs_.back().fin = ecrire(fin_);
+        LigneExtrait& rang = rangs_.back();
+        rang.longueurTexte = static_cast<std::uint32_t>(ecrit_) - rang.texte;
+        rang.fin = ecrire(fin_);
         fin_.clear();
     }
 
@@ -156,6 +165,8 @@ class Analyseur {
     }
 
     std::string tampon_;
+    const bool nuls_ = tampon_.find('\0') != std::string::npos;
+    std::size_t prochaine_ = tampon_.find(rtr::MARQUE); ///< place of the next mark, npos behind the last
     std::size_t ecrit_ = 0;
     Lignes lignes_;
     const Reglages& reglages_;

@@ -43,9 +43,8 @@ void reprendreAnciens(EtatCorpus& corpus, const std::vector<Fichiers>& fichiers,
 }
 
 /// Reads a transcript into `table`, whose memory is given back first. A fault is said unless `taire`.
-void lireTable(ExtraitsEntretien& table, const Utf8& chemin, const Reglages& reglages, Dialogues& dialogues,
-               bool taire) {
-    const IdentiteFichier identite = identiteFichier(chemin);
+void lireTable(ExtraitsEntretien& table, const Utf8& chemin, const IdentiteFichier& identite,
+               const Reglages& reglages, Dialogues& dialogues, bool taire) {
     table = {};
     std::optional<FauteExecution> faute;
     try {
@@ -80,8 +79,9 @@ void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const
     entretien.NbExtraits = 0;
     if (!fichiers.rtr) return direManquant(plateforme.dialogues, entretien);
     ExtraitsEntretien& table = session.corpus.extraits[indice(slot)];
-    if (table.chemin != *fichiers.rtr || table.identite != identiteFichier(*fichiers.rtr))
-        lireTable(table, *fichiers.rtr, session.reglages, plateforme.dialogues, false);
+    const IdentiteFichier identite = identiteFichier(*fichiers.rtr);
+    if (table.chemin != *fichiers.rtr || table.identite != identite)
+        lireTable(table, *fichiers.rtr, identite, session.reglages, plateforme.dialogues, false);
     entretien.Duree = table.duree;
     entretien.Observations = table.observations;
     compterExtraits(entretien, table);
@@ -113,8 +113,9 @@ void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
     const IdentiteFichier dite = table.identite;
     table = {};
     const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
+    const IdentiteFichier identite = identiteFichier(chemin);
     if (fichierExiste(chemin))
-        lireTable(table, chemin, session.reglages, plateforme.dialogues, dite == identiteFichier(chemin));
+        lireTable(table, chemin, identite, session.reglages, plateforme.dialogues, dite == identite);
     compterExtraits(corpus.Entretiens[indice(slot)], table);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -12,7 +13,19 @@ class Lignes {
     explicit Lignes(std::string_view octets) : reste_(octets) {}
 
     /// Next line, without its end. False at the end of the text.
-    bool suivante(std::string_view& ligne);
+    bool suivante(std::string_view& ligne) {
+        if (reste_.empty()) return false;
+        const char* const debut = reste_.data();
+        const char* const bout = debut + reste_.size();
+        const auto* fin = static_cast<const char*>(std::memchr(debut, '\r', reste_.size()));
+        if (fin == nullptr) fin = bout;
+        ligne = {debut, static_cast<std::size_t>(fin - debut)};
+        const char* suite = fin == bout ? bout : fin + 1;
+        if (suite != bout && *suite == '\n') ++suite;
+        reste_ = {suite, static_cast<std::size_t>(bout - suite)};
+        ++numero_;
+        return true;
+    }
 
     /// Skips lines up to and including the first that contains `balise`. False when none does.
     bool jusqua(std::string_view balise);
