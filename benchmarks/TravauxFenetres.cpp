@@ -7,8 +7,9 @@
 
 #include <QtTest>
 
+#include <chrono>
 #include <filesystem>
-#include <memory>
+#include <optional>
 
 namespace bancs {
 
@@ -105,16 +106,22 @@ Resultat defilement(Programme& programme, const std::string& donnees) {
     return {.notre = grand, .autre = petit, .aCote = "our own 40 x 120", .atteinte = 1.5};
 }
 
-/// Told at the first paint of a window that is to come.
+/// Notes when a window that is to come has been painted for the first time.
 class GuetteurDeDessin : public QObject {
   public:
     explicit GuetteurDeDessin(QString nom) : nom_(std::move(nom)) { qApp->installEventFilter(this); }
-    bool vu = false;
+    std::optional<std::chrono::steady_clock::time_point> peinte;
 
   protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override {
-        if (evenement->type() == QEvent::Paint && objet->objectName() == nom_) vu = true;
+        // What is posted during a paint comes once the window and its children stand on the screen.
+        if (evenement->type() == QEvent::Paint && objet->objectName() == nom_)
+            QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
         return false;
+    }
+    bool event(QEvent* evenement) override {
+        if (evenement->type() == QEvent::User && !peinte) peinte = std::chrono::steady_clock::now();
+        return QObject::event(evenement);
     }
 
   private:
@@ -123,11 +130,11 @@ class GuetteurDeDessin : public QObject {
 
 double jusquAuDessin(const QString& nom, const std::function<void()>& action) {
     GuetteurDeDessin guetteur(nom);
-    return chronometrer([&] {
-        action();
-        while (!guetteur.vu)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    });
+    const auto debut = std::chrono::steady_clock::now();
+    action();
+    while (!guetteur.peinte)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return std::chrono::duration<double>(*guetteur.peinte - debut).count();
 }
 
 /// A bare Qt window, opened second in the running process, to its first paint.

@@ -163,8 +163,10 @@ void Application::desactiverCorpus() {
 void Application::montrerEntretien(Ouverture ouverture) {
     session_.transcription.signalement.clear();
     desactiverCorpus();
-    visu().show(); // the screen maps the window, still transparent, while the interview is read
-    if (!visu().OuvrirEntretienVue(ouverture)) decharger(Fenetre::FrmVisu);
+    if (visu().OuvrirEntretienVue(ouverture))
+        visu().show();
+    else
+        decharger(Fenetre::FrmVisu);
 }
 
 void Application::ReglerVolume(int part) {
