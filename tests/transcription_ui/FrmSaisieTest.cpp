@@ -99,9 +99,9 @@ TEST_F(FrmSaisieTest, escapeLosesTheTextWithoutAQuestion) {
 
 TEST_F(FrmSaisieTest, whatTheFileCantHoldIsNamedAndStaysOnTheScreen) {
     nouveau(30, 35);
-    texte().setPlainText(QString::fromUtf8("a\nb→c"));
-    EXPECT_EQ(texte().extraSelections().size(), 1);
-    hote.dialogues.repondre(Reponse::Ok, "« → » (ligne 2, caractère 2)");
+    texte().setPlainText(QString::fromUtf8("a\nb→c::d"));
+    EXPECT_EQ(texte().extraSelections().size(), 2);
+    hote.dialogues.repondre(Reponse::Ok, "« → » (ligne 2, caractère 2)\n« :: » (ligne 2, caractère 4)");
     cliquer("Imgbtn0");
     EXPECT_TRUE(fenetre->isVisible());
     EXPECT_EQ(dossier.lire("a.Rtr"), RTR);

@@ -34,6 +34,10 @@ QList<Refus> refusDuBloc(const QTextBlock& bloc) {
             refus.append({bloc.position() + place, int(caractere.size()), caractere});
         place += int(caractere.size());
     }
+    // Two colons in a row are the file's own mark: a line that held them would be read as an extract's bound.
+    const QString repere = QStringLiteral("::");
+    for (qsizetype p = ligne.indexOf(repere); p >= 0; p = ligne.indexOf(repere, p + 2))
+        refus.append({bloc.position() + int(p), 2, repere});
     return refus;
 }
 

@@ -5,7 +5,8 @@
 
 namespace vermo {
 
-/// The editor of a transcript. Characters that the files can't hold are marked as they are typed or pasted.
+/// The editor of a transcript. What the files can't hold is marked as it is typed or pasted: characters
+/// outside CP1252, and "::", which in a transcript bounds the extracts.
 class EditeurRtr : public QPlainTextEdit {
     Q_OBJECT
   public:
