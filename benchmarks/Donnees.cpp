@@ -1,8 +1,8 @@
 #include "Donnees.h"
 
-#include "audio/Bitmap8.h"
 #include "textfile/fichier.h"
 #include "textfile/reglages.h"
+#include "window/Bitmap8.h"
 
 #include <cmath>
 #include <cstdint>

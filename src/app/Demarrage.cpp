@@ -10,8 +10,8 @@ namespace vermo {
 
 namespace {
 
-/// Touching fresh memory costs more than reading the files or drawing the pictures it is for: what was given back
-/// stays at hand for the next, up to 64 MB, and the heap grows by a megabyte at a time.
+/// Touching fresh memory costs more than reading the files or drawing the pictures it is for: what was given
+/// back stays at hand for the next, up to 64 MB, and the heap grows by a megabyte at a time.
 void garderLaMemoire() {
 #ifdef __GLIBC__
     mallopt(M_MMAP_THRESHOLD, 32 << 20);

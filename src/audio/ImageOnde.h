@@ -1,7 +1,7 @@
 #pragma once
-#include "audio/Bitmap8.h"
 #include "audio/Onde.h"
 #include "platform/Progression.h"
+#include "window/Bitmap8.h"
 #include "window/Element.h"
 
 #include <array>

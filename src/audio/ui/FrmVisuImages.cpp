@@ -16,10 +16,6 @@ namespace vermo {
 
 namespace {
 
-QImage versImage(const Bitmap8& image) {
-    return QImage::fromData(QByteArray::fromStdString(ecrireBmp(image)), "BMP");
-}
-
 Bitmap8 versBitmap8(const QImage& image) {
     const QImage indexee = image.convertToFormat(QImage::Format_Indexed8);
     std::vector<Couleur> palette;
@@ -42,7 +38,7 @@ void FrmVisu::remplirVue() {
     const Utf8 cache = cheminReel(compagnon(plateforme_.media.URL(), "Bmp"));
     const QImage gardee = fichierExiste(cache) ? QImage(utf8VersQt(cache)) : QImage();
     if (!gardee.isNull())
-        Picture1_->image(gardee);
+        Picture1_->image(gardee.convertToFormat(QImage::Format_RGB32));
     else if (estWav(plateforme_.media.URL()))
         DessinerVueEtCache(cache);
     else
@@ -60,7 +56,7 @@ void FrmVisu::DessinerVueEtCache(const Utf8& cache) {
                                              .hauteur = HAUTEUR_PICTURE1,
                                              .densite = densite()},
                                             PointsVue_, &plateforme_.progression);
-    Picture1_->image(versImage(image));
+    Picture1_->image(versQImage(image));
     enregistrerCache(cache, image);
 }
 
@@ -89,7 +85,7 @@ QImage FrmVisu::ondeZoom() {
     const EtatAudio& audio = session_.audio;
     const Twips largeur = Pict_zoom_->largeurTwips(), hauteur = Pict_zoom_->hauteurTwips();
     Bitmap8 image = fondZoom(largeur, hauteur, densite());
-    if (!estWav(plateforme_.media.URL())) return versImage(image);
+    if (!estWav(plateforme_.media.URL())) return versQImage(image);
     PointsZoom_.allouer(static_cast<std::size_t>(2 * largeur) + 1);
     try {
         session_.audio.EnteteWav =
@@ -105,7 +101,7 @@ QImage FrmVisu::ondeZoom() {
     } catch (const FauteExecution&) {
         // A recording that has gone leaves an empty band; the player's own line says so.
     }
-    return versImage(image);
+    return versQImage(image);
 }
 
 void FrmVisu::DessinerZoom() {

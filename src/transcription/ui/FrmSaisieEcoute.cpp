@@ -134,7 +134,7 @@ void FrmSaisie::dessinerOnde() {
                                                  .hauteurVue = HAUTEUR_PICTURE1,
                                                  .densite = densite},
                                                 PointsSaisie_);
-    Pict_saisie_->image(QImage::fromData(QByteArray::fromStdString(ecrireBmp(image)), "BMP"));
+    Pict_saisie_->image(versQImage(image));
     rafraichirOnde();
 }
 

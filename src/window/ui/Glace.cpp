@@ -3,6 +3,8 @@
 #include "window/ui/Theme.h"
 
 #include <QPainter>
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace vermo {
@@ -79,6 +81,19 @@ void peindreDessin(QPainter& peintre, const Dessin& dessin, const QRectF& zone) 
         peintre.drawText(coin + QPointF(0, enPixels(metriques.ascendante(inscription.corps))),
                          versQt(inscription.texte));
     }
+}
+
+QImage versQImage(const Bitmap8& image) {
+    std::array<QRgb, 256> palette{};
+    std::transform(image.palette().begin(), image.palette().end(), palette.begin(),
+                   [](Couleur couleur) { return couleurQt(couleur).rgb(); });
+    QImage resultat(image.largeur(), image.hauteur(), QImage::Format_RGB32);
+    for (int y = 0; y < image.hauteur(); ++y) {
+        auto* ligne = reinterpret_cast<QRgb*>(resultat.scanLine(y));
+        for (const char indice : image.octetsRangee(y))
+            *ligne++ = palette[static_cast<unsigned char>(indice)];
+    }
+    return resultat;
 }
 
 } // namespace vermo

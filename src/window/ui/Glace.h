@@ -1,5 +1,6 @@
 #pragma once
 #include "textfile/texte.h"
+#include "window/Bitmap8.h"
 #include "window/Element.h"
 
 #include <QColor>
@@ -51,5 +52,8 @@ QSize tailleNaturelle(const std::string& source);
 /// Paints what a ruler shows; the painter's unit is the logical pixel, its origin that of the drawing. What
 /// lies wholly outside `zone` (pixels; empty: everything is wanted) is left out.
 void peindreDessin(QPainter& peintre, const Dessin& dessin, const QRectF& zone = {});
+
+/// A picture in the format that is painted without conversion.
+QImage versQImage(const Bitmap8& image);
 
 } // namespace vermo

@@ -1,4 +1,4 @@
-#include "audio/Bitmap8.h"
+#include "window/Bitmap8.h"
 
 #include "textfile/faute.h"
 
