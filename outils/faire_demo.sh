@@ -10,7 +10,7 @@ export LC_ALL=C.UTF-8
 
 textes=$racine/outils/entretiens
 demo=$racine/demo
-importer=$racine/tests/visite/donnees
+importer=$racine/visite/donnees
 travail=$(mktemp -d)
 trap 'rm -rf "$travail"' EXIT
 

@@ -63,7 +63,7 @@ class Visite {
 
     /// Compares the files with the committed ones; prints the transcript.
     void comparer() const {
-        const fs::path attendus = racine_ / "tests/visite/attendu";
+        const fs::path attendus = racine_ / "visite/attendu";
         for (const auto& entree : fs::directory_iterator(attendus)) {
             const std::string nom = entree.path().filename();
             if (lireFichier(corpus_ / nom) != lireFichier(entree.path()))
@@ -101,7 +101,7 @@ class Visite {
     }
 
     void importer() {
-        const fs::path source = racine_ / "tests/visite/donnees/Entretien à importer.wav";
+        const fs::path source = racine_ / "visite/donnees/Entretien à importer.wav";
         visiteur_.prevoirFichier(QString::fromStdString(source.string()));
         visiteur_.prevoirBouton("import-hors-du-repertoire", QMessageBox::Ok);
         visiteur_.prevoirBouton("import-copie", QMessageBox::Ok);
