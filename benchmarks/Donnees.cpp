@@ -95,10 +95,11 @@ std::string retranscription(Hasard& hasard, int extraits, const std::vector<std:
     return octets;
 }
 
+/// As large as the interview window keeps it on a screen of 1920 x 1080.
 std::string vueDe(Hasard& hasard) {
-    vermo::Bitmap8 image(1880, 76, {0, 0x928C8A}, 1);
-    for (int x = 0; x < 1880; ++x)
-        image.colonne(x, 38 - int(hasard.sous(36)), 38 + int(hasard.sous(36)), 0);
+    vermo::Bitmap8 image(1651, 60, {0, 0x928C8A}, 1);
+    for (int x = 0; x < 1651; ++x)
+        image.colonne(x, 30 - int(hasard.sous(28)), 30 + int(hasard.sous(28)), 0);
     return vermo::ecrireBmp(image);
 }
 

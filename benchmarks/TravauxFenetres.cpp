@@ -137,12 +137,15 @@ double jusquAuDessin(const QString& nom, const std::function<void()>& action) {
     return std::chrono::duration<double>(*guetteur.peinte - debut).count();
 }
 
-/// A bare Qt window, opened second in the running process, to its first paint.
+/// A bare Qt window as large as the interview's, opened second in the running process, to its first paint.
 double fenetreNue() {
-    QWidget fenetre;
-    fenetre.setObjectName(QStringLiteral("nue"));
-    fenetre.resize(1600, 900);
-    return jusquAuDessin(QStringLiteral("nue"), [&] { fenetre.show(); });
+    std::optional<QWidget> fenetre;
+    return jusquAuDessin(QStringLiteral("nue"), [&] {
+        fenetre.emplace();
+        fenetre->setObjectName(QStringLiteral("nue"));
+        fenetre->resize(1668, 969);
+        fenetre->show();
+    });
 }
 
 double ouvrirEntretien(Programme& programme) {
@@ -150,13 +153,13 @@ double ouvrirEntretien(Programme& programme) {
         QStringLiteral("FrmVisu"), [&] { programme.application().OuvrirEntretien(1, Ouverture::SansFondu); });
     QTest::qWait(200);
     programme.application().decharger(Fenetre::FrmVisu);
-    QTest::qWait(200);
+    QTest::qWait(800); // the corpus window idles
     return duree;
 }
 
 Resultat entretien(Programme& programme, const std::string& donnees) {
     CorpusOuvert ouvert(programme, corpusDe(donnees, 40, 120));
-    programme.hote().lecteur().prechauffer();
+    QTest::qWait(800); // the corpus window idles
     const Paire paire = apparier(
         7, [&] { return ouvrirEntretien(programme); }, fenetreNue);
     return {.notre = paire.notre,

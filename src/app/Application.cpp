@@ -26,7 +26,11 @@ F& premiere(QPointer<F>& pointeur, Faire&& faire) {
 Application::Application(Session& session, Plateforme& plateforme,
                          std::function<void(QProgressBar*)> brancherProgression)
     : session_(session), plateforme_(plateforme), brancherProgression_(std::move(brancherProgression)) {
+    constexpr int reposMs = 300;
     plateforme_.media.surChangementEtat = [this](EtatLecture etat) { suivreEtat(etat); };
+    repos_.setSingleShot(true);
+    repos_.setInterval(reposMs);
+    connect(&repos_, &QTimer::timeout, this, &Application::preparerVisu);
 }
 
 Application::~Application() {
@@ -57,7 +61,15 @@ FrmMenu& Application::menu() {
 }
 
 FrmVisu& Application::visu() {
+    if (!visu_) visu_ = std::exchange(reserve_, nullptr);
     return premiere(visu_, [this] { return new FrmVisu(session_, plateforme_, *this, &corpus()); });
+}
+
+void Application::preparerVisu() {
+    if (visu_ || reserve_ || !corpus_) return;
+    plateforme_.media.preparer();
+    reserve_ = new FrmVisu(session_, plateforme_, *this, corpus_);
+    reserve_->preparer();
 }
 
 FrmSaisie& Application::saisie() {
@@ -118,6 +130,7 @@ void Application::decharger(Fenetre fenetre) {
         plateforme_.media.stop();
         plateforme_.media.URL(Utf8());
         corpus().setEnabled(true);
+        repos_.start();
     }
     if (fenetre == Fenetre::FrmIntro) intro_.clear();
     if (fenetre == Fenetre::FrmMenu) menu_.clear();
@@ -163,10 +176,13 @@ void Application::desactiverCorpus() {
 void Application::montrerEntretien(Ouverture ouverture) {
     session_.transcription.signalement.clear();
     desactiverCorpus();
-    if (visu().OuvrirEntretienVue(ouverture))
-        visu().show();
-    else
+    try {
+        if (visu().OuvrirEntretienVue(ouverture)) return;
+    } catch (...) {
         decharger(Fenetre::FrmVisu);
+        throw;
+    }
+    decharger(Fenetre::FrmVisu);
 }
 
 void Application::ReglerVolume(int part) {

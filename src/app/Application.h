@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <functional>
 
 class QProgressBar;
@@ -74,6 +75,7 @@ class Application final : public QObject, public Fenetres {
     void importer();
     void montrerEntretien(Ouverture ouverture);
     void desactiverCorpus();
+    void preparerVisu();
     void suivreEtat(EtatLecture etat);
 
     Session& session_;
@@ -83,7 +85,9 @@ class Application final : public QObject, public Fenetres {
     QPointer<FrmCorpus> corpus_;
     QPointer<FrmMenu> menu_;
     QPointer<FrmVisu> visu_;
+    QPointer<FrmVisu> reserve_; ///< made while the corpus window idled, for the next interview
     QPointer<FrmSaisie> saisie_;
+    QTimer repos_; ///< runs out when an interview may be opened next
 };
 
 } // namespace vermo

@@ -48,6 +48,7 @@ bool Application::lireCorpus() {
     LireVariables(session_, plateforme_);
     for (int slot = 1; slot <= session_.corpus.NbEntretiens; ++slot)
         lireAttributs(slot);
+    repos_.start();
     return true;
 }
 

@@ -24,6 +24,9 @@ class LecteurMedia {
   public:
     virtual ~LecteurMedia() = default;
 
+    /// Loads now what the first recording would have to wait for, as while nothing else is to be done.
+    virtual void preparer() {}
+
     virtual Utf8 URL() const = 0;
     /// Loads a file; an empty path unloads.
     virtual void URL(const Utf8& chemin) = 0;

@@ -45,10 +45,10 @@ FrmVisu::FrmVisu(Session& session, Plateforme& plateforme, Fenetres& fenetres, Q
     creerControles();
     creerBoutons();
     disposer();
+    brancherTitre();
     brancherVue();
     brancherZoom();
     reglerTimers();
-    PointsVue_.allouer(static_cast<std::size_t>(2 * Picture1_->largeurTwips()) + 1);
     Transparence(0);
     TxtCtrl_->setFocus();
 }
@@ -156,10 +156,12 @@ void FrmVisu::disposerTitre(Twips L) {
     bouton(ImgMedia_[2], compteur + COMPTEUR + BOUTON);
     const Twips fichier = std::min(FICHIER, compteur - 3 * BOUTON - RETRAIT - 240);
     poser(lblfich_, {RETRAIT + 150, TITRE_HAUT, fichier, TITRE_HAUTEUR});
+}
 
+void FrmVisu::brancherTitre() {
     deplacerPar(Imagetitre_);
-    Imagetitre_->surDoubleClic = [this, L](const Souris&) {
-        Picture1_->resize(qRound(enPixels(L - 480)), Picture1_->height());
+    Imagetitre_->surDoubleClic = [this](const Souris&) {
+        Picture1_->resize(qRound(enPixels(enTwips(width()) - 480)), Picture1_->height());
         AfficherExtraits();
     };
     PictVol_->surClic = [this](const Souris&) { montrerVolume(); };
@@ -183,8 +185,6 @@ void FrmVisu::reglerTimers() {
         timer.setInterval(ms);
         connect(&timer, &QTimer::timeout, this, [this, tic = tic] { garder([&] { (this->*tic)(); }); });
     }
-    Timer1_.start();
-    Timer3_.start();
 }
 
 Entretien& FrmVisu::entretien() {
@@ -203,6 +203,7 @@ bool FrmVisu::OuvrirEntretienVue(Ouverture ouverture) {
              .icone = Icone::Critique});
         return false;
     }
+    disposer(); // the screen may have changed since the window was made
     commencerFondu(ouverture);
     const Texte& nom = entretien().Fichier;
     lblfich_->setText(versQt(elider(nom, enTwips(lblfich_->width()), CORPS_FICHIER)));
@@ -213,6 +214,8 @@ bool FrmVisu::OuvrirEntretienVue(Ouverture ouverture) {
         if (entretien().Reprise != 0) media.currentPosition(entretien().Reprise);
     }
     if (!attendreDuree()) return false;
+    // The screen makes room for the window while its pictures are drawn; what takes long is drawn before.
+    if (fichierExiste(cheminCache())) show();
 
     session_.audio.MarqueDebut = 0;
     session_.transcription.signalement.clear();
@@ -221,6 +224,7 @@ bool FrmVisu::OuvrirEntretienVue(Ouverture ouverture) {
     DessinerZoom();
     if (!media.enLecture()) media.play();
     Media_PlayStateChange(media.playState());
+    show();
     return true;
 }
 
@@ -250,6 +254,7 @@ void FrmVisu::commencerFondu(Ouverture ouverture) {
     const bool fondu = ouverture == Ouverture::AvecFondu;
     session_.EtatFondu = fondu ? DEPART_FONDU : FONDU_OPAQUE;
     Transparence(fondu ? 0 : static_cast<int>(FONDU_OPAQUE));
+    Timer1_.start();
     Timer3_.start();
 }
 

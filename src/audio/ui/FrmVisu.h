@@ -28,7 +28,7 @@ class FrmVisu : public Forme {
   public:
     FrmVisu(Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent = nullptr);
 
-    /// Loads the interview and starts playing; the window is shown by the caller. With the fade it comes in
+    /// Loads the interview, starts playing and shows the window. With the fade it comes in
     /// from nearly nothing, otherwise it is opaque at once. False when the opening was given up: a recording
     /// that isn't there, or a duration that never came and that the person wouldn't wait for.
     bool OuvrirEntretienVue(Ouverture ouverture = Ouverture::SansFondu);
@@ -67,12 +67,14 @@ class FrmVisu : public Forme {
                              void (FrmVisu::*action)());
     void disposer();
     void disposerTitre(Twips L);
+    void brancherTitre();
     void reglerTimers();
     bool attendreDuree();
     void commencerFondu(Ouverture ouverture);
     Entretien& entretien();
 
     // FrmVisuImages.cpp: pictures and rulers.
+    Utf8 cheminCache() const; ///< the picture of Picture1, beside the recording
     void remplirVue();
     void DessinerVueEtCache(const Utf8& cache);
     void dessinerRegleEnVue(const Utf8& cache);

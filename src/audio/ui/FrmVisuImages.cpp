@@ -34,8 +34,12 @@ double FrmVisu::densite() const {
     return devicePixelRatioF() / TWIPS_PAR_PIXEL;
 }
 
+Utf8 FrmVisu::cheminCache() const {
+    return cheminReel(compagnon(plateforme_.media.URL(), "Bmp"));
+}
+
 void FrmVisu::remplirVue() {
-    const Utf8 cache = cheminReel(compagnon(plateforme_.media.URL(), "Bmp"));
+    const Utf8 cache = cheminCache();
     const QImage gardee = fichierExiste(cache) ? QImage(utf8VersQt(cache)) : QImage();
     if (!gardee.isNull())
         Picture1_->image(gardee.convertToFormat(QImage::Format_RGB32));
@@ -47,6 +51,7 @@ void FrmVisu::remplirVue() {
 
 void FrmVisu::DessinerVueEtCache(const Utf8& cache) {
     const Twips largeur = Picture1_->largeurTwips();
+    PointsVue_.allouer(static_cast<std::size_t>(2 * largeur) + 1);
     Bitmap8 image = fondUni(largeur, HAUTEUR_PICTURE1, densite(), theme::ONDE);
     session_.audio.EnteteWav = DessinerOnde(image, 0,
                                             {.vue = Vue::Picture1,

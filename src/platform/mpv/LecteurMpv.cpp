@@ -4,7 +4,9 @@
 #include "platform/mpv/Refus.h"
 #include "textfile/faute.h"
 
+#include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <clocale>
 #include <cmath>
 #include <filesystem>
@@ -40,6 +42,9 @@ constexpr std::pair<const char*, const char*> OPTIONS[] = {
     {"hr-seek", "yes"},
     {"hr-seek-demuxer-offset", "0.2"},
 };
+
+/// Loading keeps several threads busy: the window that shows the recording is painted first.
+constexpr std::chrono::milliseconds RETENUE{25};
 
 Utf8 raisonDe(int erreur, const Utf8& chemin) {
     switch (erreur) {
@@ -124,6 +129,12 @@ void LecteurMpv::charger() {
             Qt::QueuedConnection);
         return;
     }
+    QTimer::singleShot(RETENUE, this, [this, chargement = chargement_] {
+        if (chargement == chargement_) lancerChargement();
+    });
+}
+
+void LecteurMpv::lancerChargement() {
     // A full path is never taken for an address.
     std::error_code sansImportance;
     const Utf8 complet = fs::absolute(url_, sansImportance).string();

@@ -48,6 +48,7 @@ class LecteurMpv final : public QObject, public LecteurMedia {
   private:
     void ouvrirBibliotheque(const std::string& sortieAudio);
     void charger();
+    void lancerChargement();
     void mesurer();
     void dureeMesuree(int chargement, double secondes);
     void oublier();

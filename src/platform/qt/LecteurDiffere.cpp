@@ -18,7 +18,7 @@ QString cheminBibliotheque() {
 
 } // namespace
 
-void LecteurDiffere::prechauffer() {
+void LecteurDiffere::preparer() {
     if (lecteur_ || !panne_.empty()) return;
     QLibrary bibliotheque(cheminBibliotheque());
     const auto creer = reinterpret_cast<CreerLecteur>(bibliotheque.resolve("vermo_creer_lecteur"));
@@ -38,7 +38,7 @@ void LecteurDiffere::prechauffer() {
 
 void LecteurDiffere::URL(const Utf8& chemin) {
     url_ = chemin;
-    if (!chemin.empty()) prechauffer();
+    if (!chemin.empty()) preparer();
     if (lecteur_) lecteur_->URL(chemin);
 }
 

@@ -5,7 +5,8 @@
 
 namespace vermo {
 
-/// The player whose library is loaded with the first recording: it costs more than the program's start.
+/// The player whose library is loaded with the first recording, if not before: it costs more than the
+/// program's start.
 ///
 /// The library "libvermo_mpv.so" is looked for beside the executable, then in "../lib/vermo/". Where it can't
 /// be loaded, `erreur()` says so once a recording is given, and nothing else happens.
@@ -14,8 +15,7 @@ class LecteurDiffere final : public LecteurMedia {
     /// `sortieAudio`: name of an audio output, "null" for none; empty: the system's own.
     explicit LecteurDiffere(std::string sortieAudio = {}) : sortieAudio_(std::move(sortieAudio)) {}
 
-    /// Loads the library now, as while the program has nothing else to do. The result stays either way.
-    void prechauffer();
+    void preparer() override;
 
     Utf8 URL() const override { return lecteur_ ? lecteur_->URL() : url_; }
     void URL(const Utf8& chemin) override;

@@ -40,12 +40,14 @@ void ProgressionQt::debut(long minimum, long maximum) {
     if (!barre_) return;
     barre_->setRange(entier(minimum), entier(maximum));
     barre_->setValue(entier(minimum));
-    barre_->show();
 }
 
 void ProgressionQt::avance(long valeur) {
     if (depuisDessin_.isValid() && depuisDessin_.elapsed() < DESSIN_MS) return;
-    if (barre_) barre_->setValue(entier(valeur));
+    if (barre_) {
+        barre_->setValue(entier(valeur));
+        barre_->show();
+    }
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     depuisDessin_.start();
 }

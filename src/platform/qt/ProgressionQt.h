@@ -10,7 +10,8 @@ class QDialog;
 
 namespace vermo {
 
-/// Long work shown on a bar of the window that does it; long waits in a small box with "Annuler".
+/// Long work shown on a bar of the window that does it, short work not at all; long waits in a small box with
+/// "Annuler".
 class ProgressionQt final : public Progression {
   public:
     ProgressionQt();

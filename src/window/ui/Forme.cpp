@@ -2,8 +2,11 @@
 
 #include "window/Placement.h"
 #include "window/ui/Glace.h"
+#include "window/ui/Theme.h"
 
+#include <QBackingStore>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QWindow>
 #include <algorithm>
 
@@ -29,6 +32,16 @@ void Forme::Transparence(int alpha) {
 
 void Forme::placer(Rectangle voulu) {
     setGeometry(enPixelsEntiers(dansEcran(voulu, plateforme_.ecran.zoneTravail())));
+}
+
+void Forme::preparer() {
+    create();
+    if (QBackingStore* memoire = backingStore()) {
+        memoire->resize(size());
+        memoire->beginPaint(rect());
+        QPainter(memoire->paintDevice()).fillRect(rect(), couleurQt(theme::FENETRE));
+        memoire->endPaint();
+    }
 }
 
 void Forme::deplacerPar(QWidget* poignee) {

@@ -31,6 +31,9 @@ class Forme : public QWidget {
 
     /// Place and size in twips of the screen, brought within it.
     void placer(Rectangle voulu);
+    /// Makes the hidden window's part in the system and the memory of its picture, which its first showing
+    /// would have to wait for.
+    void preparer();
     /// A press on `poignee` moves the window. Several handles may be given.
     void deplacerPar(QWidget* poignee);
 
