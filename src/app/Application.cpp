@@ -30,7 +30,9 @@ Application::Application(Session& session, Plateforme& plateforme,
     plateforme_.media.surChangementEtat = [this](EtatLecture etat) { suivreEtat(etat); };
     repos_.setSingleShot(true);
     repos_.setInterval(reposMs);
-    connect(&repos_, &QTimer::timeout, this, &Application::preparerVisu);
+    connect(&repos_, &QTimer::timeout, this, [this] {
+        if (corpus_) corpus_->garder([this] { preparerVisu(); });
+    });
 }
 
 Application::~Application() {
@@ -66,7 +68,7 @@ FrmVisu& Application::visu() {
 }
 
 void Application::preparerVisu() {
-    if (visu_ || reserve_ || !corpus_) return;
+    if (visu_ || reserve_) return;
     plateforme_.media.preparer();
     reserve_ = new FrmVisu(session_, plateforme_, *this, corpus_);
     reserve_->preparer();
@@ -92,24 +94,29 @@ Forme* Application::ouverte(Fenetre fenetre) const {
     return nullptr;
 }
 
-void Application::montrer(Fenetre fenetre) {
+Forme& Application::forme(Fenetre fenetre) {
     switch (fenetre) {
     case Fenetre::FrmIntro:
-        intro().show();
-        break;
+        return intro();
     case Fenetre::FrmCorpus:
-        corpus().show();
-        break;
+        return corpus();
     case Fenetre::FrmMenu:
-        menu().show();
-        break;
+        return menu();
     case Fenetre::FrmVisu:
-        visu().show();
-        break;
+        return visu();
     case Fenetre::FrmSaisie:
-        saisie().show();
         break;
     }
+    return saisie();
+}
+
+void Application::montrer(Fenetre fenetre) {
+    Forme& voulue = forme(fenetre);
+    const bool enVue = voulue.isVisible();
+    voulue.show();
+    if (!enVue) return;
+    voulue.raise();
+    voulue.activateWindow();
 }
 
 void Application::cacher(Fenetre fenetre) {
@@ -180,6 +187,7 @@ void Application::montrerEntretien(Ouverture ouverture) {
         if (visu().OuvrirEntretienVue(ouverture)) return;
     } catch (...) {
         decharger(Fenetre::FrmVisu);
+        corpus().setEnabled(true);
         throw;
     }
     decharger(Fenetre::FrmVisu);

@@ -68,10 +68,12 @@ class Application final : public QObject, public Fenetres {
     FrmMenu& menu();
     FrmVisu& visu();
     FrmSaisie& saisie();
+    Forme& forme(Fenetre fenetre);         ///< made if need be
     Forme* ouverte(Fenetre fenetre) const; ///< nullptr where it isn't loaded
 
     bool lireCorpus(); ///< the steps of an opening behind the choice of the file
     void lireAttributs(int slot);
+    void enregistrerEntretiens();
     void importer();
     void montrerEntretien(Ouverture ouverture);
     void desactiverCorpus();
@@ -87,6 +89,7 @@ class Application final : public QObject, public Fenetres {
     QPointer<FrmVisu> visu_;
     QPointer<FrmVisu> reserve_; ///< made while the corpus window idled, for the next interview
     QPointer<FrmSaisie> saisie_;
+    bool importEnCours_ = false;
     QTimer repos_; ///< runs out when an interview may be opened next
 };
 

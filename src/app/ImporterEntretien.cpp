@@ -1,8 +1,11 @@
 // Bringing one recording into the open corpus.
 #include "app/Application.h"
 #include "audio/Onde.h"
-#include "corpus/EcritureCorpus.h"
 #include "corpus/Import.h"
+#include "textfile/chemins.h"
+#include "textfile/faute.h"
+
+#include <QScopedValueRollback>
 
 namespace vermo {
 
@@ -24,7 +27,10 @@ bool formatAccepte(Plateforme& plateforme, const Utf8& chemin) {
 
 } // namespace
 
+/// Windows stay alive while a recording is copied or measured: a second import waits for the first to end.
 void Application::ImporterEntretien() {
+    if (importEnCours_) return;
+    const QScopedValueRollback enCours(importEnCours_, true);
     try {
         importer();
     } catch (...) {
@@ -43,19 +49,22 @@ void Application::importer() {
         }
         return;
     }
+    if (etat.ouvertureInachevee)
+        throw FauteExecution("Ajout impossible : le corpus n'a pas pu être lu en entier.", etat.CheminCorpus);
+    const Utf8 vise = etat.CheminCorpus;
     const Utf8 chemin = choisirEnregistrement(session_, plateforme_);
     if (chemin.empty() || !formatAccepte(plateforme_, chemin)) return;
     const Texte nom = nomImporte(chemin);
-    if (!apporterDansCorpus(session_, plateforme_, chemin)) return;
+    if (!apporterDansCorpus(session_, plateforme_, chemin) || etat.CheminCorpus != vise) return;
     if (dejaDansCorpus(session_, plateforme_, nom)) return;
 
     plateforme_.ecran.pointeur(Pointeur::Sablier);
-    const double duree = mesurerDuree(plateforme_, etat.RepCorpus + versUtf8(nom));
+    const double duree = mesurerDuree(plateforme_, cheminReel(etat.RepCorpus + versUtf8(nom)));
     session_.audio.DureeFichier = duree;
-    if (duree == 0) return;
+    if (duree == 0 || etat.CheminCorpus != vise) return;
     ajouterEntretien(session_, nom, duree);
     const int slot = etat.NbEntretiens;
-    EcrireEntretiens(session_, plateforme_);
+    enregistrerEntretiens();
     creerRetranscription(session_, slot);
     etat.EntretienCourant = std::int16_t(slot);
     RedessinerFrise();

@@ -10,6 +10,8 @@
 #include "corpus/ui/FrmCorpus.h"
 #include "data/Variables.h"
 
+#include <utility>
+
 namespace vermo {
 
 void Application::NouveauCorpus() {
@@ -23,8 +25,12 @@ void Application::OuvrirCorpus() {
     session_.corpus.EntretienCourant = 0;
     plateforme_.ecran.pointeur(Pointeur::Sablier);
     try {
-        if (!demanderCorpus(session_, plateforme_) || lireCorpus())
+        if (!demanderCorpus(session_, plateforme_)) {
+            corpus().RedessinerPistes(); // no interview is chosen any more
             plateforme_.ecran.pointeur(Pointeur::Normal);
+        } else if (lireCorpus()) {
+            plateforme_.ecran.pointeur(Pointeur::Normal);
+        }
     } catch (...) {
         plateforme_.ecran.pointeur(Pointeur::Normal);
         throw;
@@ -52,12 +58,13 @@ bool Application::lireCorpus() {
     return true;
 }
 
-/// A fault in one interview's attributes is told, and the opening goes on.
+/// A fault in one interview's attributes is told once for this file, and the opening goes on.
 void Application::lireAttributs(int slot) {
     try {
         LireAttributs(session_, slot);
     } catch (const FauteExecution& faute) {
-        direFaute(plateforme_.dialogues, faute);
+        bool& dite = session_.corpus.extraits[std::size_t(slot)].fauteDite;
+        if (!std::exchange(dite, true)) direFaute(plateforme_.dialogues, faute);
     }
 }
 
@@ -81,16 +88,27 @@ void Application::RetirerEntretien() {
                                         .icone = Icone::Question});
     if (reponse != Reponse::Oui) return;
     etat.Entretiens[std::size_t(etat.EntretienCourant)].Fichier.clear();
-    EcrireEntretiens(session_, plateforme_);
+    enregistrerEntretiens();
     etat.OuvertureDirecte = true;
     etat.EntretienCourant = 0;
     OuvrirCorpus();
 }
 
+/// When the list can't be written, the one that the file holds counts again.
+void Application::enregistrerEntretiens() {
+    try {
+        EcrireEntretiens(session_, plateforme_);
+    } catch (...) {
+        session_.corpus.OuvertureDirecte = true;
+        OuvrirCorpus();
+        throw;
+    }
+}
+
 void Application::DeplacerEntretien(int source, int cible) {
     if (source == cible) return;
     vermo::DeplacerEntretien(session_, source, cible);
-    EcrireEntretiens(session_, plateforme_);
+    enregistrerEntretiens();
     session_.corpus.OuvertureDirecte = true;
     OuvrirCorpus();
 }

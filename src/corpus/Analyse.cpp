@@ -30,7 +30,6 @@ class Analyseur {
             extraits.observations = lireObservations();
             lireExtraits();
             refuserOuvert();
-            if (extraits.duree == 0) Lieu{fichier_, 1}.refuser("La durée de l'entretien est nulle.");
         } catch (const FauteExecution& faute) {
             resultat.faute = faute;
         }
@@ -60,9 +59,7 @@ class Analyseur {
     float lireDuree() {
         std::string_view ligne;
         if (!lignes_.suivante(ligne)) throw FauteExecution("Fichier vide : la durée manque.", fichier_, 1);
-        const float duree = temps(ligne, "La durée");
-        if (duree < 0) lieu().refuser("La durée est négative.");
-        return duree;
+        return static_cast<float>(rtr::dureeOuFaute(ligne, reglages_, lieu()));
     }
 
     /// Without the section the reading starts again from the first line.

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace vermo {
 namespace {
@@ -56,10 +57,15 @@ void lireTable(ExtraitsEntretien& table, const Utf8& chemin, const IdentiteFichi
     }
     table.chemin = chemin;
     table.identite = identite;
+    table.fauteDite = faute.has_value();
     if (faute && !taire) direFaute(dialogues, *faute);
 }
 
-void compterExtraits(Entretien& entretien, const ExtraitsEntretien& table) {
+void prendreTable(Entretien& entretien, const ExtraitsEntretien& table) {
+    if (!table.chemin.empty()) {
+        entretien.Duree = table.duree;
+        entretien.Observations = table.observations;
+    }
     entretien.NbExtraits = static_cast<float>(table.lignes.size());
     entretien.PrcRtr = entretien.Duree == 0 ? 0 : table.somme / entretien.Duree;
 }
@@ -77,14 +83,15 @@ void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const
         entretien.DateModif = dates->modification;
     }
     entretien.NbExtraits = 0;
-    if (!fichiers.rtr) return direManquant(plateforme.dialogues, entretien);
     ExtraitsEntretien& table = session.corpus.extraits[indice(slot)];
+    if (!fichiers.rtr) {
+        if (!std::exchange(table.manqueDit, true)) direManquant(plateforme.dialogues, entretien);
+        return;
+    }
     const IdentiteFichier identite = identiteFichier(*fichiers.rtr);
     if (table.chemin != *fichiers.rtr || table.identite != identite)
         lireTable(table, *fichiers.rtr, identite, session.reglages, plateforme.dialogues, false);
-    entretien.Duree = table.duree;
-    entretien.Observations = table.observations;
-    compterExtraits(entretien, table);
+    prendreTable(entretien, table);
 }
 
 } // namespace
@@ -110,13 +117,15 @@ void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
     if (slot < 1 || slot > corpus.NbEntretiens) return;
     corpus.extraits.resize(corpus.Entretiens.size());
     ExtraitsEntretien& table = corpus.extraits[indice(slot)];
-    const IdentiteFichier dite = table.identite;
-    table = {};
+    const ExtraitsEntretien avant = std::exchange(table, {});
     const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
     const IdentiteFichier identite = identiteFichier(chemin);
     if (fichierExiste(chemin))
-        lireTable(table, chemin, identite, session.reglages, plateforme.dialogues, dite == identite);
-    compterExtraits(corpus.Entretiens[indice(slot)], table);
+        lireTable(table, chemin, identite, session.reglages, plateforme.dialogues,
+                  avant.identite == identite);
+    table.manqueDit = avant.manqueDit;
+    table.dureeNulleDite = avant.dureeNulleDite && avant.identite == identite;
+    prendreTable(corpus.Entretiens[indice(slot)], table);
 }
 
 } // namespace vermo

@@ -80,18 +80,18 @@ void disposerInterrupteur(const EtatCorpus& corpus, int slot, Elements& sortie) 
     ImgOnOff.sensible = true;
 }
 
-long pasRegle(float durmax) {
-    constexpr long marques = 5000;
-    long pas = durmax >= 360 ? 300 : 60;
-    while (static_cast<double>(durmax) / static_cast<double>(pas) > marques)
+double pasRegle(double durmax) {
+    constexpr double marques = 5000;
+    double pas = durmax >= 360 ? 300 : 60;
+    while (durmax / pas > marques)
         pas *= 2;
     return pas;
 }
 
 /// Seconds at which the ruler has a line: every half step, and the end when it falls on a whole second.
-std::vector<double> marquesRegle(float durmax, long pas) {
+std::vector<double> marquesRegle(double durmax, double pas) {
     std::vector<double> marques;
-    const double demi = static_cast<double>(pas) / 2;
+    const double demi = pas / 2;
     for (double t = demi; t <= durmax; t += demi)
         marques.push_back(t);
     const bool entiere = std::floor(durmax) == durmax;
@@ -144,7 +144,7 @@ Twips largeurBarre(const VueFrise& vue) {
 Rectangle cadreImgEnt(const Session& session, int slot, const VueFrise& vue, float durmax) {
     const EtatCorpus& corpus = session.corpus;
     Twips largeur = largeurBarre(vue);
-    if (corpus.TailleReelle && durmax > 0)
+    if (vue.tailleReelle && durmax > 0)
         largeur *= static_cast<double>(entretienDe(corpus, slot).Duree) / static_cast<double>(durmax);
     return {TAILLES_FRISE.gaucheImgEnt, base(corpus, slot), largeur, hauteurLigne(corpus) - 120};
 }
@@ -176,16 +176,15 @@ void DisposerFrise(const Session& session, const VueFrise& vue, const std::vecto
 
 Dessin DisposerRegle(const Session& session, Twips largeurBarre) {
     Dessin dessin;
-    const float durmax = dureeMax(session.corpus);
+    const double durmax = dureeMax(session.corpus);
     if (!session.corpus.TailleReelle || !(durmax > 0)) return dessin;
-    const long pas = pasRegle(durmax);
+    const double pas = pasRegle(durmax);
     for (const double t : marquesRegle(durmax, pas)) {
-        const Twips x = largeurBarre * t / static_cast<double>(durmax);
-        const double dansLePas = std::fmod(t, static_cast<double>(pas));
+        const Twips x = largeurBarre * t / durmax;
+        const double dansLePas = std::fmod(t, pas);
         if (dansLePas == 0) dessin.inscriptions.push_back({x, 0, HeureTexte(t), HEURE});
         const Twips trait = TAILLES_FRISE.gaucheImgEnt + x;
-        dessin.traits.push_back({trait, 0, trait, BAS_LIGNES_TPS,
-                                 2 * dansLePas == static_cast<double>(pas) ? DEMI_TRAIT : TRAIT});
+        dessin.traits.push_back({trait, 0, trait, BAS_LIGNES_TPS, 2 * dansLePas == pas ? DEMI_TRAIT : TRAIT});
     }
     return dessin;
 }

@@ -27,9 +27,10 @@ constexpr float HAUTEUR_ZOOM_MIN = 450, HAUTEUR_ZOOM_MAX = 3600;
 
 /// The part of the surface that is seen.
 struct VueFrise {
-    Twips largeur = 0;    ///< of Frm_entretiens
-    Twips defilement = 0; ///< minus the top of Frm_entretiens
-    Twips hauteur = 0;    ///< of Frm_fond_entretiens
+    Twips largeur = 0;         ///< of Frm_entretiens
+    Twips defilement = 0;      ///< minus the top of Frm_entretiens
+    Twips hauteur = 0;         ///< of Frm_fond_entretiens
+    bool tailleReelle = false; ///< TailleReelle at the last redraw: the command applies with the next one
 };
 
 /// Before a redraw: scans every interview under the progress bar, and returns the greatest duration. When

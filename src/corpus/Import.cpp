@@ -1,17 +1,20 @@
 #include "corpus/Import.h"
 
+#include "corpus/OuvertureCorpus.h"
 #include "formats/FichierRtr.h"
 #include "textfile/chemins.h"
 #include "textfile/faute.h"
 #include "textfile/fichier.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 
 namespace vermo {
 namespace {
 
 constexpr const char* CONVERTISSEUR = "Convertisseur.exe";
+constexpr std::chrono::milliseconds ENTRE_DEUX_ATTENTES{100}; ///< a wait sleeps: not at each block
 
 bool memeRepertoire(const Utf8& un, const Utf8& autre) {
     if (un == autre) return true;
@@ -32,9 +35,13 @@ bool aCopier(Plateforme& plateforme, const Utf8& cible, const Utf8& nom) {
 /// False when the person gave up.
 bool copierAvecProgression(Plateforme& plateforme, const Utf8& source, const Utf8& cible) {
     plateforme.progression.debut(0, 100);
+    std::chrono::steady_clock::time_point derniere;
     const bool copie = copierFichier(source, cible, [&](std::int64_t fait, std::int64_t total) {
         plateforme.progression.avance(total > 0 ? static_cast<long>(fait * 100 / total) : 100);
-        return plateforme.progression.patienter();
+        if (std::chrono::steady_clock::now() - derniere < ENTRE_DEUX_ATTENTES) return true;
+        const bool continuer = plateforme.progression.patienter("La copie du fichier se poursuit...");
+        derniere = std::chrono::steady_clock::now();
+        return continuer;
     });
     plateforme.progression.fin();
     return copie;
@@ -49,13 +56,14 @@ bool copierDansCorpus(const Session& session, Plateforme& plateforme, const Utf8
     try {
         libererMedia(plateforme.media, cible);
         if (!copierAvecProgression(plateforme, source, cible)) return false;
-    } catch (const FauteExecution&) {
+    } catch (const FauteExecution& faute) {
         plateforme.progression.fin();
         plateforme.dialogues.demander(
             {"La copie du fichier est impossible.\nLe fichier est peut-être en cours d'écoute.",
              {},
              Boutons::Ok,
              Icone::Critique});
+        direFaute(plateforme.dialogues, faute); // a full disk is no recording that plays
         return false;
     }
     plateforme.dialogues.demander({"Le fichier a été copié dans le répertoire.\n" + session.corpus.RepCorpus +
@@ -153,7 +161,8 @@ double mesurerDuree(Plateforme& plateforme, const Utf8& chemin) {
     media.URL(chemin);
     media.play();
     media.stop();
-    while (media.duration() == 0 && media.erreur().empty() && plateforme.progression.patienter()) {
+    while (media.duration() == 0 && media.erreur().empty() &&
+           plateforme.progression.patienter(ATTENTE_DUREE)) {
     }
     plateforme.ecran.pointeur(Pointeur::Normal);
     const double duree = media.duration();

@@ -102,6 +102,8 @@ void viderCorpus(Session& session) {
     const auto taille = static_cast<std::size_t>(corpus.NbEntretiens) + 1;
     corpus.Entretiens.assign(taille, {});
     corpus.extraits.assign(taille, {});
+    prendreThematiques(corpus, {});
+    corpus.ThmVisible.assign(1, 1);
     corpus.ouvertureInachevee = true;
     session.donnees = {};
 }

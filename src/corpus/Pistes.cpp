@@ -8,6 +8,7 @@
 #include <charconv>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace vermo {
 namespace {
@@ -167,11 +168,12 @@ Texte compteEntretiens(const EtatCorpus& corpus) {
                   nombre);
 }
 
-void signalerDureesNulles(const Session& session, Plateforme& plateforme, int premier, int dernier) {
+void signalerDureesNulles(Session& session, Plateforme& plateforme, int premier, int dernier) {
     dernier = std::min(dernier, nombreLignes(session.corpus));
     for (int slot = std::max(premier, 1); slot <= dernier; ++slot) {
-        const Entretien& entretien = session.corpus.Entretiens[static_cast<std::size_t>(slot)];
-        if (entretien.Duree == 0)
+        const auto i = static_cast<std::size_t>(slot);
+        const Entretien& entretien = session.corpus.Entretiens[i];
+        if (entretien.Duree == 0 && !std::exchange(session.corpus.extraits[i].dureeNulleDite, true))
             plateforme.dialogues.demander(
                 {"Un problème est survenu lors de l'ouverture de l'entretien " + versUtf8(entretien.Fichier),
                  "Vermo", Boutons::OkAnnuler, Icone::Exclamation});

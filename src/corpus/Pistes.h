@@ -25,7 +25,8 @@ void DisposerPistes(const Session& session, const VueFrise& vue, Elements& sorti
 Texte compteThematiques(const EtatCorpus& corpus);
 Texte compteEntretiens(const EtatCorpus& corpus);
 
-/// One message for each interview of the range whose duration is 0. Its answer changes nothing.
-void signalerDureesNulles(const Session& session, Plateforme& plateforme, int premier, int dernier);
+/// One message for each interview of the range whose duration is 0, once for each state of its transcript.
+/// Its answer changes nothing.
+void signalerDureesNulles(Session& session, Plateforme& plateforme, int premier, int dernier);
 
 } // namespace vermo

@@ -61,6 +61,7 @@ struct ExtraitsEntretien {
     float duree = 0;          ///< its first line, seconds
     float somme = 0;          ///< lengths of its extracts, seconds
     Texte observations;
+    bool fauteDite = false, manqueDit = false, dureeNulleDite = false; ///< told: not again for this file
     bool operator==(const ExtraitsEntretien&) const = default;
 };
 

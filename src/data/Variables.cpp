@@ -58,7 +58,9 @@ namespace {
 std::string lireJusquAuxAttributs(const Utf8& chemin) {
     constexpr std::size_t debutUsuel = 8192;
     std::string octets = lireDebut(chemin, debutUsuel);
-    const bool suffit = octets.size() < debutUsuel || octets.find(">|ATTR|") != std::string::npos;
+    const std::size_t section = octets.find("<|ATTR|");
+    const bool suffit = octets.size() < debutUsuel || (section != std::string::npos &&
+                                                       octets.find(">|ATTR|", section) != std::string::npos);
     return suffit ? octets : lireFichier(chemin);
 }
 

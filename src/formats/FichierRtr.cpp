@@ -37,7 +37,7 @@ void verifierEnTete(std::string_view octets, const Utf8& fichier, const Reglages
     Lignes lignes(octets);
     std::string_view ligne, attendue;
     if (!lignes.suivante(ligne)) throw FauteExecution("Fichier vide : la durée manque.", fichier, 1);
-    tempsOuFaute(ligne, reglages, "La durée", {fichier, 1});
+    dureeOuFaute(ligne, reglages, {fichier, 1});
     std::size_t ouverture = 0;
     while (lignes.suivante(ligne) && !contient(ligne, MARQUE)) {
         if (!attendue.empty()) {

@@ -2,6 +2,7 @@
 #include "formats/Champs.h"
 #include "textfile/nombres.h"
 
+#include <cmath>
 #include <optional>
 #include <string_view>
 
@@ -34,6 +35,14 @@ inline double tempsOuFaute(std::string_view temps, const Reglages& reglages, con
     } catch (const FauteExecution&) {
         lieu.refuser(quoi + " « " + versUtf8(temps) + " » n'est pas un nombre.");
     }
+}
+
+/// The duration on a transcript's first line, seconds. Throws for what no recording can last.
+inline double dureeOuFaute(std::string_view ligne, const Reglages& reglages, const Lieu& lieu) {
+    const double duree = tempsOuFaute(ligne, reglages, "La durée", lieu);
+    if (duree < 0) lieu.refuser("La durée est négative.");
+    if (!std::isfinite(static_cast<float>(duree))) lieu.refuser("La durée est hors de toute mesure.");
+    return duree;
 }
 
 } // namespace vermo::rtr

@@ -2,6 +2,8 @@
 
 namespace vermo {
 
+constexpr const char* ATTENTE_DUREE = "La durée du fichier se fait attendre...";
+
 /// How far long work has come, and the window kept alive meanwhile.
 class Progression {
   public:
@@ -10,8 +12,9 @@ class Progression {
     /// Shows the value and lets the windows repaint. Cheap enough to be called at every step of a scan.
     virtual void avance(long valeur) = 0;
     virtual void fin() = 0;
-    /// Lets the interface run while something is waited for. False when the person asked to give up.
-    virtual bool patienter() = 0;
+    /// Lets the interface run while something is waited for; `attente` says what, to the person. False when
+    /// they asked to give up.
+    virtual bool patienter(const char* attente) = 0;
 };
 
 } // namespace vermo

@@ -2,6 +2,7 @@
 
 #include "textfile/fichier.h"
 
+#include <cerrno>
 #include <dirent.h>
 #include <memory>
 
@@ -12,13 +13,15 @@ struct Fermer {
     void operator()(DIR* d) const { closedir(d); }
 };
 
-/// Calls `faire` with each name of a directory.
+/// Calls `faire` with each name of a directory. False when it can't be listed to its end.
 template <class Faire>
-void lister(const Utf8& repertoire, Faire faire) {
+bool lister(const Utf8& repertoire, Faire faire) {
     const std::unique_ptr<DIR, Fermer> dir(opendir(repertoire.empty() ? "." : repertoire.c_str()));
-    if (!dir) return;
+    if (!dir) return false;
+    errno = 0;
     while (const dirent* entree = readdir(dir.get()))
         faire(Utf8(entree->d_name));
+    return errno == 0;
 }
 
 } // namespace
@@ -59,7 +62,7 @@ Utf8 cheminReel(const Utf8& chemin) {
 
 IndexRepertoire::IndexRepertoire(const Utf8& repertoire) : repertoire_(repertoire) {
     if (!repertoire_.empty() && repertoire_.back() != '/') repertoire_ += '/';
-    lister(repertoire_, [&](const Utf8& nom) { exacts_.insert(nom); });
+    entier_ = lister(repertoire_, [&](const Utf8& nom) { exacts_.insert(nom); });
 }
 
 std::optional<Utf8> IndexRepertoire::trouver(const Utf8& nom) const {
@@ -71,7 +74,7 @@ std::optional<Utf8> IndexRepertoire::trouver(const Utf8& nom) const {
             if (garde.empty() || exact < garde) garde = exact;
         }
     const auto autre = sansCasse_.find(majusculesUtf8(nom));
-    if (autre == sansCasse_.end()) return std::nullopt;
+    if (autre == sansCasse_.end()) return entier_ ? std::nullopt : vermo::trouver(repertoire_ + nom);
     return repertoire_ + autre->second;
 }
 

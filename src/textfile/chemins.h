@@ -39,6 +39,7 @@ class IndexRepertoire {
 
   private:
     Utf8 repertoire_;
+    bool entier_ = false; ///< the listing came to its end; otherwise names are asked for one by one
     std::unordered_set<Utf8> exacts_;
     mutable std::unordered_map<Utf8, Utf8> sansCasse_; ///< upper-cased name -> name, made at the first miss
 };

@@ -198,6 +198,9 @@ bool AjouterExtrait(Session& session, Plateforme& plateforme, Texte& texteSaisi,
         if (fichierExiste(chemin)) return insererDans(chemin, extrait, session, plateforme);
         const auto duree = static_cast<float>(plateforme.media.duration());
         remplacerFichier(chemin, rtr::creerAvec(duree, extrait, session.reglages));
+        if (entretienValide(session.corpus))
+            session.corpus.Entretiens[static_cast<std::size_t>(session.corpus.EntretienCourant)].Duree =
+                duree;
         return true;
     } catch (const FauteExecution& faute) {
         return dire(plateforme, faute.what());

@@ -17,7 +17,7 @@ class Fenetres {
   public:
     virtual ~Fenetres() = default;
 
-    virtual void montrer(Fenetre fenetre) = 0;
+    virtual void montrer(Fenetre fenetre) = 0; ///< one that is visible comes to the front
     virtual void cacher(Fenetre fenetre) = 0;
     /// Unloads a window; the next reference makes it afresh. Unloading FrmVisu also stops its player.
     virtual void decharger(Fenetre fenetre) = 0;

@@ -43,7 +43,7 @@ TEST(Analyser, LignesEtFautes) {
         {"", "", "1: Fichier vide : la durée manque."},
         {"abc\r\n" + ok, "", "1: La durée « abc » n'est pas un nombre."},
         {"-5\r\n" + ok, "", "1: La durée est négative."},
-        {" 0 \r\n" + ok, "1;2;001;t/;", "1: La durée de l'entretien est nulle."},
+        {" 0 \r\n" + ok, "1;2;001;t/;", ""},
         {ENTETE + ok + "::3::002\r\ncoup", "1;2;001;t/;|3;;002;coup/;",
          "9: L'extrait 2 n'a pas de ligne de fin : la retranscription est coupée."},
         {ENTETE + ok + "heure :: non\r\n" + ok, "1;2;001;t/;", coupee},

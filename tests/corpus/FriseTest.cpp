@@ -81,8 +81,11 @@ TEST(Frise, LignesEnVueEtTailleReelle) {
     EXPECT_EQ(frise(Session{}, VUE), "");
     Session reelle = sessionDe({25, 100, 0});
     reelle.corpus.TailleReelle = true;
+    VueFrise vue = VUE;
+    EXPECT_EQ(cadreImgEnt(reelle, 1, vue, dureeMax(reelle.corpus)).largeur, 1000) << "before the redraw";
+    vue.tailleReelle = true;
     for (const auto& [slot, largeur] : {std::pair(1, 250.0), {2, 1000.0}, {3, 0.0}})
-        EXPECT_EQ(cadreImgEnt(reelle, slot, VUE, dureeMax(reelle.corpus)).largeur, largeur) << slot;
+        EXPECT_EQ(cadreImgEnt(reelle, slot, vue, dureeMax(reelle.corpus)).largeur, largeur) << slot;
 }
 
 /// Where the lines stand, "'" behind one at half a step; then the labels.
@@ -105,7 +108,7 @@ TEST(Frise, Regle) {
                           "60=01:00 120=02:00 180=03:00 240=04:00 300=05:00 ");
     EXPECT_EQ(regle(360), "150' 300 360 300=05:00 ");
     EXPECT_EQ(regle(0.5F), "");
-    EXPECT_LT(regle(1e12F).size(), 1000000U);
+    EXPECT_LT(regle(1e30F).size(), 1000000U);
     EXPECT_EQ(DisposerRegle(sessionDe({360}), 1000), Dessin{});
 }
 
@@ -136,12 +139,13 @@ TEST(Frise, DureesNulles) {
     essai.ecrireCorpus("", "a.wav\r\n");
     ASSERT_TRUE(essai.ouvrir());
     essai.corpus().TailleReelle = true;
-    essai.dialogues().repondre(Reponse::Ok, "La durée de l'entretien est nulle.").repondre(Reponse::Ok);
+    essai.dialogues().repondre(Reponse::Ok);
     EXPECT_EQ(preparerFrise(essai.session, essai.hote), 0);
     EXPECT_EQ(essai.dialogues().dernier(), "|Durmax à Zéro|Ok|Aucune -> Ok");
     EXPECT_FALSE(essai.corpus().TailleReelle);
     essai.dialogues().repondre(Reponse::Annuler, "l'ouverture de l'entretien a.wav");
-    signalerDureesNulles(essai.session, essai.hote, 1, 1);
+    for (int fois = 0; fois < 2; ++fois)
+        signalerDureesNulles(essai.session, essai.hote, 1, 1);
     EXPECT_EQ(pistes(essai.session), "");
 }
 

@@ -4,6 +4,7 @@
 #include "window/ui/Lien.h"
 
 #include <QLabel>
+#include <filesystem>
 #include <memory>
 
 namespace vermo {
@@ -31,6 +32,14 @@ TEST_F(FrmIntroTest, ListsFiveRecentCorporaAtMost) {
     EXPECT_EQ(ligne(4)->text(), QStringLiteral("/b")) << "a comma ends an item";
     EXPECT_EQ(ligne(7)->text(), QStringLiteral("/e.Crp"));
     EXPECT_EQ(fenetre->alpha(), 249);
+}
+
+TEST_F(FrmIntroTest, AListThatCantBeReadIsSaidAndTheWindowOpens) {
+    std::filesystem::create_directories(hote.dossier.chemin("programme/Projets.ini"));
+    hote.dialogues.repondre(Reponse::Ok, "Projets.ini");
+    ouvrir("");
+    EXPECT_EQ(ligne(3), nullptr);
+    EXPECT_NE(ligne(1), nullptr);
 }
 
 TEST_F(FrmIntroTest, LinesLeadToTheCorpusWindow) {

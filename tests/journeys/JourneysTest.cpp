@@ -3,10 +3,14 @@
 #include "audio/OndeDEssai.h"
 #include "audio/ui/FrmVisu.h"
 #include "corpus_ui/CorpusDEssai.h"
+#include "support/Pannes.h"
+#include "textfile/faute.h"
 
 #include <QApplication>
 #include <QPlainTextEdit>
 #include <QTimer>
+#include <cerrno>
+#include <filesystem>
 
 namespace vermo {
 namespace {
@@ -150,6 +154,44 @@ TEST_F(Parcours, AnOpeningThatFailsLeavesTheWindowEmptied) {
     app.RetirerEntretien();
     forme("FrmCorpus").grab();
     EXPECT_EQ(hote.dossier.lire("c/E.Crp"), std::string(TETE) + "a.wav\r\nb.wav\r\n>|ENTR|\r\n");
+}
+
+TEST_F(Parcours, AListThatCantBeWrittenIsReadAnew) {
+    ouvrirCorpus();
+    {
+        const Pannes pannes({.rang = 1, .erreur = ENOSPC, .appel = "write", .toujours = true});
+        hote.dialogues.repondre(Reponse::Ok, "Projets.ini");
+        EXPECT_THROW(app.DeplacerEntretien(1, 2), FauteExecution);
+    }
+    EXPECT_EQ(noms(), "a b ");
+    EXPECT_EQ(session.corpus.Entretiens[1].Fichier, "a.wav");
+}
+
+TEST_F(Parcours, ARecordingThatCantBeReadLeavesTheCorpusWindowInUse) {
+    ouvrirCorpus();
+    std::filesystem::remove(hote.dossier.chemin("c/a.wav"));
+    std::filesystem::create_directory(hote.dossier.chemin("c/a.wav"));
+    EXPECT_THROW(app.OuvrirEntretien(1, Ouverture::SansFondu), FauteExecution);
+    EXPECT_FALSE(app.visible(Fenetre::FrmVisu));
+    EXPECT_TRUE(forme("FrmCorpus").isEnabled());
+}
+
+TEST_F(Parcours, WhatIsBeingTypedHoldsTheInterviewOpenAndItsTranscriptKeepsItsDuration) {
+    std::filesystem::remove(hote.dossier.chemin("c/a.Rtr"));
+    hote.media.durees["a.wav"] = 60;
+    hote.dialogues.repondre(Reponse::Ok, "introuvable").repondre(Reponse::Ok, "Un problème est survenu");
+    ouvrirCorpus();
+    app.OuvrirEntretien(1, Ouverture::SansFondu);
+    session.transcription.SaisieFin = 2;
+    session.transcription.NouvelExtrait = true;
+    app.PreparerSaisie();
+    cliquer(forme("FrmVisu"), "ImgCorpus");
+    QTest::qWait(10);
+    cliquer(forme("FrmSaisie"), "Imgbtn0");
+    EXPECT_EQ(session.corpus.Entretiens[1].Duree, 60);
+    cliquer(forme("FrmVisu"), "ImgCorpus");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !app.visible(Fenetre::FrmVisu); }));
+    EXPECT_EQ(extraits(1), 1);
 }
 
 } // namespace

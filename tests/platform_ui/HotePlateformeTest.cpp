@@ -136,7 +136,7 @@ TEST_F(Hote, aLongWaitCanBeGivenUpAndItsBoxGoesAwayWithIt) {
         EXPECT_GE(montre.elapsed(), 1500);
         QTest::mouseClick(boite.findChild<QPushButton*>(QStringLiteral("Annuler")), Qt::LeftButton);
     }});
-    while (attente.patienter() && montre.elapsed() < 10000) {
+    while (attente.patienter(ATTENTE_DUREE) && montre.elapsed() < 10000) {
     }
     EXPECT_LT(montre.elapsed(), 10000);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);

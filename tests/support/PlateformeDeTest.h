@@ -47,7 +47,7 @@ class ProgressionMuette : public Progression {
     void debut(long, long) override {}
     void avance(long) override {}
     void fin() override {}
-    bool patienter() override { return patience-- > 0; }
+    bool patienter(const char*) override { return patience-- > 0; }
 };
 
 /// The whole host, simulated; each of its parts stands open to the test. `dossier` is the place "beside the

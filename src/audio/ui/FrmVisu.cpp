@@ -232,7 +232,8 @@ bool FrmVisu::attendreDuree() {
     double duree = entretien().Duree;
     while (!(duree > 0)) {
         LecteurMedia& media = plateforme_.media;
-        while (media.duration() == 0 && media.erreur().empty() && plateforme_.progression.patienter()) {
+        while (media.duration() == 0 && media.erreur().empty() &&
+               plateforme_.progression.patienter(ATTENTE_DUREE)) {
         }
         duree = media.duration();
         if (duree > 0) break;

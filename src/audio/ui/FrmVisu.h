@@ -129,6 +129,7 @@ class FrmVisu : public Forme {
     void ouvrirSaisie(Bornes span);
     void montrerVolume();
     void direEtatSon();
+    bool saisieOuverte();
     void fermer();
     void retournerAuCorpus();
     void dechargerPlusTard();

@@ -140,8 +140,15 @@ void FrmVisu::montrerVolume() {
     fenetres_.OuvrirMenu(Panneau::Volume, ancre);
 }
 
+/// What is being typed is left from its own window.
+bool FrmVisu::saisieOuverte() {
+    if (!fenetres_.visible(Fenetre::FrmSaisie)) return false;
+    fenetres_.montrer(Fenetre::FrmSaisie);
+    return true;
+}
+
 void FrmVisu::fermer() {
-    if (std::exchange(ferme_, true)) return;
+    if (saisieOuverte() || std::exchange(ferme_, true)) return;
     fenetres_.quitterVisu();
     session_.EtatFondu = FONDU_FERMETURE;
     Transparence(static_cast<int>(FONDU_FIN - FONDU_FERMETURE));
@@ -149,7 +156,7 @@ void FrmVisu::fermer() {
 }
 
 void FrmVisu::retournerAuCorpus() {
-    if (std::exchange(ferme_, true)) return;
+    if (saisieOuverte() || std::exchange(ferme_, true)) return;
     fenetres_.quitterVisu();
     dechargerPlusTard();
 }

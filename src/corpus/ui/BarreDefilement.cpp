@@ -18,7 +18,10 @@ BarreDefilement::BarreDefilement(EtatCorpus& corpus, QWidget* parent)
     surMouvement = [this](const Souris& s) {
         if (corpus_.DefilementActif) surDefilement(defilementDe(defilement_, s.y - prise_));
     };
-    surRelachement = [this](const Souris&) { corpus_.DefilementActif = false; };
+    surRelachement = [this](const Souris&) {
+        corpus_.DefilementActif = false;
+        montrer(defilement_, defile_, page_);
+    };
 }
 
 void BarreDefilement::placer(Rectangle ligne) {

@@ -122,7 +122,9 @@ void FrmIntro::listerCorpus() {
     ajouterLigne(2, QStringLiteral("Modèle"))->setEnabled(false);
     Elements puces;
     int index = PREMIER_RECENT;
-    for (const Utf8& chemin : listeProjets(plateforme_.emplacements)) {
+    std::vector<Utf8> recents;
+    garder([&] { recents = listeProjets(plateforme_.emplacements); });
+    for (const Utf8& chemin : recents) {
         const QRect ligne = ajouterLigne(index, utf8VersQt(chemin))->geometry();
         const QRectF puce(ligne.left() - BANDE_PUCE, ligne.center().y() - COTE_PUCE / 2.0, COTE_PUCE,
                           COTE_PUCE);

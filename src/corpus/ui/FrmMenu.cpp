@@ -31,7 +31,7 @@ FrmMenu::FrmMenu(Session& session, Plateforme& plateforme, Fenetres& fenetres)
 
 void FrmMenu::OuvrirMenu(Panneau panneau, Rectangle ancre) {
     ouvert_ = panneau;
-    listerCorpus();
+    if (panneau == Panneau::Corpus) listerCorpus();
     montrerEntretienCourant();
     montrerVolume();
     for (auto& [autre, cadre] : FrmMnu_)

@@ -196,7 +196,9 @@ void FrmMenu::listerCorpus() {
         delete ancien;
     }
     int index = 0;
-    for (const Utf8& chemin : listeProjets(plateforme_.emplacements)) {
+    std::vector<Utf8> recents;
+    garder([&] { recents = listeProjets(plateforme_.emplacements); });
+    for (const Utf8& chemin : recents) {
         auto* ligne = new Lien(QStringLiteral("lblcorpus%1").arg(++index), utf8VersQt(chemin), cadre);
         ligne->setMaximumWidth(LARGEUR_RECENT);
         ligne->encre(theme::TEXTE_DISCRET);

@@ -36,7 +36,10 @@ ToileEntretiens::ToileEntretiens(Session& session, Fenetres& fenetres, QWidget* 
 }
 
 VueFrise ToileEntretiens::vue() const {
-    return {.largeur = largeurTwips(), .defilement = defile_, .hauteur = hauteurTwips()};
+    return {.largeur = largeurTwips(),
+            .defilement = defile_,
+            .hauteur = hauteurTwips(),
+            .tailleReelle = tailleReelle_};
 }
 
 void ToileEntretiens::redessiner() {
@@ -49,6 +52,7 @@ void ToileEntretiens::redessiner() {
     vues_ = std::move(vues);
     identites_ = std::move(identites);
     vide_ = false;
+    tailleReelle_ = session_.corpus.TailleReelle;
     defiler(defile_);
     disposer();
 }

@@ -41,6 +41,7 @@ class ToileEntretiens : public Toile {
     void resizeEvent(QResizeEvent* evenement) override;
 
   private:
+    int ligneVisee(const Souris& souris) const;
     void presser(const Souris& souris);
     void bouger(const Souris& souris);
     void relacher(const Souris& souris);
@@ -66,6 +67,7 @@ class ToileEntretiens : public Toile {
     std::vector<Utf8> vues_;
     std::vector<IdentiteFichier> identites_; ///< of vues_
     bool vide_ = true;                       ///< nothing is shown before the first redraw
+    bool tailleReelle_ = false;              ///< as of the last redraw
     Twips defile_ = 0;                       ///< whole pixels of the screen
     mutable Elements liste_;                 ///< what elements() gives
     mutable bool listeAJour_ = false;

@@ -20,6 +20,12 @@ bool poignee(Controle controle) {
 
 } // namespace
 
+/// Beside the columns that a row is dragged by, letting go changes nothing.
+int ToileEntretiens::ligneVisee(const Souris& souris) const {
+    const bool colonnes = souris.x >= 0 && souris.x < TAILLES_FRISE.gaucheImgEnt;
+    return colonnes ? slotSous(session_, souris.y) : 0;
+}
+
 void ToileEntretiens::presser(const Souris& souris) {
     glisse_ = false;
     source_ = cible_ = 0;
@@ -34,7 +40,7 @@ void ToileEntretiens::bouger(const Souris& souris) {
     if (!glisse_ && std::abs(souris.y - prise_) < enTwips(QApplication::startDragDistance())) return;
     glisse_ = true;
     session_.corpus.LigneSource = static_cast<std::int16_t>(source_);
-    const int avant = std::exchange(cible_, slotSous(session_, souris.y));
+    const int avant = std::exchange(cible_, ligneVisee(souris));
     const bool auDessus = souris.y<defile_, auDessous = souris.y> defile_ + hauteurTwips();
     defiler(defile_ + (auDessous - auDessus) * static_cast<Twips>(session_.corpus.HauteurEntretien));
     if (cible_ != avant) disposer();

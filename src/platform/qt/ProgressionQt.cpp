@@ -57,10 +57,10 @@ void ProgressionQt::fin() {
     finirAttente();
 }
 
-bool ProgressionQt::patienter() {
+bool ProgressionQt::patienter(const char* attente) {
     if (!depuisAttente_.isValid()) depuisAttente_.start();
     abandonne_.start();
-    if (!boite_ && depuisAttente_.elapsed() >= BOITE_MS) montrerBoite();
+    if (!boite_ && depuisAttente_.elapsed() >= BOITE_MS) montrerBoite(attente);
     QCoreApplication::processEvents();
     if (boite_ && !boite_->isVisible()) {
         finirAttente();
@@ -76,7 +76,7 @@ void ProgressionQt::finirAttente() {
     delete boite_;
 }
 
-void ProgressionQt::montrerBoite() {
+void ProgressionQt::montrerBoite(const char* attente) {
     boite_ = new QDialog(QApplication::activeWindow());
     boite_->setWindowTitle(QStringLiteral("Vermo"));
     boite_->setWindowModality(Qt::ApplicationModal);
@@ -85,7 +85,7 @@ void ProgressionQt::montrerBoite() {
     annuler->setObjectName(QStringLiteral("Annuler"));
     QObject::connect(boutons, &QDialogButtonBox::rejected, boite_, &QDialog::reject);
     auto* colonne = new QVBoxLayout(boite_);
-    colonne->addWidget(new QLabel(QStringLiteral("La durée du fichier se fait attendre..."), boite_));
+    colonne->addWidget(new QLabel(QString::fromUtf8(attente), boite_));
     colonne->addWidget(boutons);
     boite_->show();
 }

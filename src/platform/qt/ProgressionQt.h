@@ -25,11 +25,11 @@ class ProgressionQt final : public Progression {
     void fin() override;
     /// Handles events for about 15 ms. Calls less than 0.3 s apart are one wait; after 1.5 s of it the box
     /// opens, and closes by itself when the calls end.
-    bool patienter() override;
+    bool patienter(const char* attente) override;
 
   private:
     void finirAttente();
-    void montrerBoite();
+    void montrerBoite(const char* attente);
 
     QPointer<QProgressBar> barre_;
     QElapsedTimer depuisDessin_;

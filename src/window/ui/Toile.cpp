@@ -43,11 +43,6 @@ void Toile::elements(Elements elements) {
     update();
 }
 
-Elements& Toile::reprendreElements() {
-    update();
-    return elements_;
-}
-
 Element* Toile::modifiable(Controle controle, int index) {
     const auto trouve = std::find_if(elements_.rbegin(), elements_.rend(), [&](const Element& element) {
         return element.controle == controle && element.index == index;

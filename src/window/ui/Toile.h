@@ -41,8 +41,6 @@ class Toile : public QWidget {
     void elements(Elements elements);
     /// A canvas of many items may lay them out only here, when they are asked for.
     virtual const Elements& elements() const { return elements_; }
-    /// Gives back the list for refilling, so that a redraw allocates nothing. The canvas repaints it later.
-    Elements& reprendreElements();
     /// One item for changing in place, nullptr for none; the caller then repaints its part (`repeindre`).
     /// Items on top are found first.
     Element* modifiable(Controle controle, int index = 0);
