@@ -177,7 +177,10 @@ void Application::desactiverCorpus() {
     FrmCorpus& forme = corpus();
     forme.setUpdatesEnabled(false);
     forme.setEnabled(false);
-    QTimer::singleShot(apresLeDessinMs, &forme, [&forme] { forme.setUpdatesEnabled(true); });
+    QTimer::singleShot(apresLeDessinMs, &forme, [&forme] {
+        forme.setUpdatesEnabled(true);
+        forme.repaint(); // what was asked for meanwhile would wait for ever
+    });
 }
 
 void Application::montrerEntretien(Ouverture ouverture) {
