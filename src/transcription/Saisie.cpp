@@ -128,7 +128,7 @@ int selectionnerPortion(Session& session, Twips x1, Twips x2, Twips largeur) {
     const double debut = tempsSousX(session, x1, largeur);
     demarrerPortion(session, debut, tempsSousX(session, x2, largeur) - debut);
     if (etat.PortionFin <= etat.PortionDebut) demarrerPortion(session, debut, 1);
-    return static_cast<int>(std::max(1L, arrondi(etat.PortionFin - etat.PortionDebut)));
+    return static_cast<int>(std::max(1L, std::lround(etat.PortionFin - etat.PortionDebut)));
 }
 
 Decompte compter(Session& session, bool fenetreVisible, int secondesLues) {

@@ -67,7 +67,7 @@ class FrmSaisieTest : public testing::Test {
 
 TEST_F(FrmSaisieTest, aNewExtractIsInsertedInTheTranscript) {
     nouveau(30, 35);
-    for (const QChar c : QString::fromUtf8("Déjà là"))
+    for (const QChar c : QString::fromUtf8("Déjà\u00A0là"))
         QTest::sendKeyEvent(QTest::Click, &texte(), Qt::Key(c.toUpper().unicode()), QString(c),
                             Qt::NoModifier);
     QTest::keyClick(&texte(), Qt::Key_Return);
@@ -75,7 +75,7 @@ TEST_F(FrmSaisieTest, aNewExtractIsInsertedInTheTranscript) {
     cliquer("Imgbtn0");
     EXPECT_FALSE(fenetre->isVisible());
     EXPECT_EQ(dossier.lire("a.Rtr"),
-              std::string(RTR) + "::30.00::000\r\nD\xE9j\xE0 l\xE0\r\nligne 2\r\n::35.00::\r\n");
+              std::string(RTR) + "::30.00::000\r\nD\xE9j\xE0\xA0l\xE0\r\nligne 2\r\n::35.00::\r\n");
     EXPECT_TRUE(demande("rafraichirExtraits"));
 }
 
@@ -92,16 +92,29 @@ TEST_F(FrmSaisieTest, anEditedExtractKeepsAttributesAndTakesTheCaption) {
 TEST_F(FrmSaisieTest, escapeLosesTheTextWithoutAQuestion) {
     nouveau(30, 35);
     QTest::keyClicks(&texte(), QStringLiteral("perdu"));
+    QTest::keyClick(&controle("TxtThema"), Qt::Key_Escape);
+    EXPECT_TRUE(fenetre->isVisible()) << "folds the panel";
     QTest::keyClick(&texte(), Qt::Key_Escape);
     EXPECT_FALSE(fenetre->isVisible());
     EXPECT_EQ(dossier.lire("a.Rtr"), RTR);
 }
 
+TEST_F(FrmSaisieTest, lengtheningEndsWithItsExtract) {
+    nouveau(30, 35);
+    cliquer("ImgPlus0");
+    EXPECT_TRUE(controle("ImgPlus1").isVisible());
+    cliquer("Imgbtn0");
+    nouveau(50, 52);
+    EXPECT_FALSE(controle("ImgPlus1").isVisible());
+}
+
 TEST_F(FrmSaisieTest, whatTheFileCantHoldIsNamedAndStaysOnTheScreen) {
     nouveau(30, 35);
-    texte().setPlainText(QString::fromUtf8("a\nb→c::d"));
-    EXPECT_EQ(texte().extraSelections().size(), 2);
-    hote.dialogues.repondre(Reponse::Ok, "« → » (ligne 2, caractère 2)\n« :: » (ligne 2, caractère 4)");
+    texte().setPlainText(QString::fromUtf8("a\nb→c::d\u2028") + QChar(u'\0'));
+    EXPECT_EQ(texte().extraSelections().size(), 3);
+    hote.dialogues.repondre(
+        Reponse::Ok,
+        "« → » (ligne 2, caractère 2)\n« ␀ » (ligne 2, caractère 8)\n« :: » (ligne 2, caractère 4)");
     cliquer("Imgbtn0");
     EXPECT_TRUE(fenetre->isVisible());
     EXPECT_EQ(dossier.lire("a.Rtr"), RTR);

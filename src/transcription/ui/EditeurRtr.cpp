@@ -28,9 +28,11 @@ QList<Refus> refusDuBloc(const QTextBlock& bloc) {
             combinant && place > 0
                 ? QString(ligne.mid(place - 1, 1) + caractere).normalized(QString::NormalizationForm_C)
                 : caractere;
-        if (compose.size() > 1 && combinant)
+        if (c == 0)
+            refus.append({bloc.position() + place, 1, QStringLiteral("\u2400")});
+        else if (compose.size() > 1 && combinant)
             refus.append({bloc.position() + place, int(caractere.size()), caractere});
-        else if (!caracteresRefuses(utf8DepuisQt(compose)).empty())
+        else if (c != QChar::LineSeparator && !caracteresRefuses(utf8DepuisQt(compose)).empty())
             refus.append({bloc.position() + place, int(caractere.size()), caractere});
         place += int(caractere.size());
     }
@@ -66,7 +68,11 @@ void EditeurRtr::texte(const Texte& texte) {
 }
 
 Texte EditeurRtr::texte() const {
-    return depuisQt(toPlainText());
+    // The document's own plain text turns non-breaking spaces into plain ones.
+    QStringList lignes;
+    for (QTextBlock bloc = document()->begin(); bloc.isValid(); bloc = bloc.next())
+        lignes.append(bloc.text());
+    return depuisQt(lignes.join(QLatin1Char('\n')));
 }
 
 QStringList EditeurRtr::refuses() const {

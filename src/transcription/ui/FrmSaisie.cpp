@@ -11,6 +11,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <utility>
 
 namespace vermo {
 
@@ -24,13 +25,14 @@ FrmSaisie::FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetre
     Picture1_->fond(theme::PANNEAU);
     poser(Picture1_, {0, 0, t::LARGEUR_NOUVEL_EXTRAIT, t::HAUTEUR});
     deplacerPar(Picture1_);
+    Picture1_->surPression = [this](const Souris&) { TextRtr_->setFocus(); };
+    secondes_ = tagSecondes_ = std::max(1, static_cast<int>(session_.transcription.PortionSecondes));
     creerEntete();
     creerEcoute();
     creerOptions();
     creerTexte();
     creerPanneau();
     creerAjout();
-    session_.transcription.BoucleDictee = false;
     Timer1_.start(50);
     placerLargeur(false);
 }
@@ -98,6 +100,7 @@ void FrmSaisie::PreparerSaisie() {
     raise();
     activateWindow();
     reprendreFocus();
+    TextRtr_->setFocus();
 }
 
 void FrmSaisie::OuvrirExtrait(int n) {
@@ -115,11 +118,13 @@ void FrmSaisie::OuvrirExtrait(int n) {
     raise();
     activateWindow();
     reprendreFocus();
+    TextRtr_->setFocus();
 }
 
 void FrmSaisie::preparer() {
-    auto& tr3 = session_.transcription;
+    auto& etat = session_.transcription;
     LecteurMedia& media = plateforme_.media;
+    arreterAllongement();
     if (!media.enLecture()) media.play();
     if (session_.audio.VitesseLecture != 0) media.rate(session_.audio.VitesseLecture);
     Picture2_->setVisible(media.rateDisponible());
@@ -129,17 +134,17 @@ void FrmSaisie::preparer() {
     TextRtr_->texte({});
     etat_->clear();
     titrer();
-    if (tr3.DicteeActive) saisie::demarrerPortion(session_, tr3.SaisieDebut, tr3.PortionSecondes);
-    if (tr3.DicteeActive) MontrerPortion(tr3.PortionDebut, tr3.PortionFin);
+    if (etat.DicteeActive) saisie::demarrerPortion(session_, etat.SaisieDebut, etat.PortionSecondes);
+    if (etat.DicteeActive) MontrerPortion(etat.PortionDebut, etat.PortionFin);
     dessinerOnde();
     montrerOptions();
-    placerLargeur(tr3.NouvelExtrait);
+    placerLargeur(etat.NouvelExtrait);
 }
 
 void FrmSaisie::titrer() {
-    const auto& tr3 = session_.transcription;
-    etq_deb_sel_->setText(versQt(HeureTexte(tr3.SaisieDebut)));
-    etq_fin_sel_->setText(versQt(HeureTexte(tr3.SaisieFin)));
+    const auto& etat = session_.transcription;
+    etq_deb_sel_->setText(versQt(HeureTexte(etat.SaisieDebut)));
+    etq_fin_sel_->setText(versQt(HeureTexte(etat.SaisieFin)));
     const auto& corpus = session_.corpus;
     if (corpus.EntretienCourant == 0) return;
     findChild<QLabel*>(QStringLiteral("lblfich"))
@@ -153,8 +158,9 @@ void FrmSaisie::placerLargeur(bool depliee) {
     const bool jamaisMontree = !testAttribute(Qt::WA_WState_ExplicitShowHide);
     const Twips gauche = jamaisMontree ? (zone.largeur - t::LARGEUR_FOND) / 2 : enTwips(x());
     const Twips haut = jamaisMontree ? (zone.hauteur - t::HAUTEUR) * 3 / 4 : enTwips(y());
+    const int avant = width();
     placer({gauche, haut, largeur, t::HAUTEUR});
-    if (depliee) reinitialiserAjout();
+    if (depliee && (width() != avant || !isVisible())) reinitialiserAjout();
     if (depliee)
         FrmThms_->setFocus();
     else
@@ -194,7 +200,6 @@ void FrmSaisie::reprendreFocus() {
     QTextCursor curseur = TextRtr_->textCursor();
     curseur.setPosition(std::min(1, int(TextRtr_->toPlainText().size())));
     TextRtr_->setTextCursor(curseur);
-    TextRtr_->setFocus();
 }
 
 bool FrmSaisie::event(QEvent* evenement) {
@@ -216,10 +221,14 @@ bool FrmSaisie::eventFilter(QObject* objet, QEvent* evenement) {
                 prise = toucheTexte(touche);
             else if (objet == FrmThms_)
                 prise = touchePanneau(touche);
-            if (!prise && touche->key() == Qt::Key_Escape) FermerSaisie(), prise = true;
+            if (prise || touche->key() != Qt::Key_Escape) return;
+            prise = true;
+            objet == TextRtr_ ? FermerSaisie() : placerLargeur(false);
         });
         if (prise) return true;
     }
+    if (objet == ImgMedia_ && evenement->type() == QEvent::Enter) LblTip_->show();
+    if (objet == ImgMedia_ && evenement->type() == QEvent::Leave) LblTip_->hide();
     return Forme::eventFilter(objet, evenement);
 }
 
@@ -248,6 +257,7 @@ bool FrmSaisie::toucheTexte(QKeyEvent* touche) {
 }
 
 void FrmSaisie::FermerSaisie() {
+    arreterAllongement();
     session_.transcription.SaisieDuree = 0;
     hide();
     if (session_.transcription.RetourCorpus) plateforme_.media.pause();
@@ -269,44 +279,50 @@ bool FrmSaisie::texteValide(Texte& texte) {
     return false;
 }
 
+/// While the file is written the window is away; it comes back, with all that it held, when nothing was.
+bool FrmSaisie::cacherPour(const std::function<bool()>& ecrire) {
+    arreterAllongement();
+    const double duree = std::exchange(session_.transcription.SaisieDuree, 0);
+    const auto revenir = [&] {
+        session_.transcription.SaisieDuree = duree;
+        show();
+    };
+    hide();
+    try {
+        if (ecrire()) return true;
+    } catch (...) {
+        revenir();
+        throw;
+    }
+    revenir();
+    return false;
+}
+
 void FrmSaisie::valider() {
     Texte texte;
     if (!texteValide(texte)) return;
-    auto& tr3 = session_.transcription;
-    const double duree = tr3.SaisieDuree;
-    tr3.SaisieDuree = 0;
-    hide();
-    const bool ecrit = tr3.NouvelExtrait
-                           ? AjouterExtrait(session_, plateforme_, texte, code_)
-                           : saisie::validerModification(session_, plateforme_, legende_, texte);
-    if (!ecrit) {
-        tr3.SaisieDuree = duree;
-        show();
-        return;
-    }
-    if (tr3.NouvelExtrait || !tr3.RetourCorpus) {
+    auto& etat = session_.transcription;
+    const bool ecrit = cacherPour([&] {
+        return etat.NouvelExtrait ? AjouterExtrait(session_, plateforme_, texte, code_)
+                                  : saisie::validerModification(session_, plateforme_, legende_, texte);
+    });
+    if (!ecrit) return;
+    if (etat.NouvelExtrait || !etat.RetourCorpus) {
         fenetres_.rafraichirExtraits();
         return;
     }
-    tr3.RetourCorpus = false;
+    etat.RetourCorpus = false;
     fenetres_.quitterVisu();
     fenetres_.decharger(Fenetre::FrmVisu);
 }
 
 void FrmSaisie::supprimer() {
-    auto& tr3 = session_.transcription;
-    if (tr3.ExtraitCourant == 0) return;
-    const double duree = tr3.SaisieDuree;
-    tr3.SaisieDuree = 0;
-    hide();
-    if (SupprimerExtrait(session_, plateforme_) != Suppression::Supprime) {
-        tr3.SaisieDuree = duree;
-        show();
-        return;
-    }
+    auto& etat = session_.transcription;
+    if (etat.ExtraitCourant == 0) return;
+    if (!cacherPour([&] { return SupprimerExtrait(session_, plateforme_) == Suppression::Supprime; })) return;
     fenetres_.rafraichirExtraits();
-    if (!tr3.RetourCorpus) return;
-    tr3.RetourCorpus = false;
+    if (!etat.RetourCorpus) return;
+    etat.RetourCorpus = false;
     fenetres_.quitterVisu();
 }
 

@@ -7,10 +7,10 @@
 
 #include <QTimer>
 #include <array>
+#include <functional>
 
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 
 namespace vermo {
 
@@ -61,6 +61,7 @@ class FrmSaisie : public Forme {
     void codage(const Texte& code, const Texte& legende);
     void titrer();
     void reprendreFocus();
+    bool cacherPour(const std::function<bool()>& ecrire);
     void valider();
     void supprimer();
     bool toucheTexte(QKeyEvent* touche);
@@ -84,6 +85,7 @@ class FrmSaisie : public Forme {
     void montrerOptions();
     void allonger();
     void finirAllongement();
+    void arreterAllongement();
     void positionner(double secondes);
 
     // FrmSaisieThematiques.cpp
@@ -102,7 +104,6 @@ class FrmSaisie : public Forme {
     Toile* Picture1_ = nullptr; ///< the window's ground, by which it is moved
     Toile* Pict_saisie_ = nullptr;
     Toile* FrmThms_ = nullptr;
-    Toile* ShpCoulT_ = nullptr;
     Toile* Picture2_ = nullptr; ///< speed slider
     Toile* LblSec_ = nullptr;
     QLabel *etq_deb_sel_ = nullptr, *etq_fin_sel_ = nullptr, *LblTimer_ = nullptr, *LblTip_ = nullptr;

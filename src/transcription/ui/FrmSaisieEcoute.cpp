@@ -118,22 +118,27 @@ void FrmSaisie::MontrerPortion(double debut, double fin) {
 }
 
 void FrmSaisie::dessinerOnde() {
-    const auto& tr3 = session_.transcription;
+    const auto& etat = session_.transcription;
     const double duree = session_.audio.DureeFichier;
     const Twips largeur = Pict_saisie_->largeurTwips(), hauteur = Pict_saisie_->hauteurTwips();
     const double densite = devicePixelRatioF() / TWIPS_PAR_PIXEL;
     Bitmap8 image = fondUni(largeur, hauteur, densite, theme::ONDE);
     const Utf8 fichier = plateforme_.media.URL();
-    if (estWav(fichier) && duree > 0)
-        session_.audio.EnteteWav = DessinerOnde(image, 0,
-                                                {.vue = Vue::Pict_saisie,
-                                                 .fichier = fichier,
-                                                 .empan = {tr3.SaisieDebut / duree, tr3.SaisieDuree / duree},
-                                                 .largeur = largeur,
-                                                 .hauteur = hauteur,
-                                                 .hauteurVue = HAUTEUR_PICTURE1,
-                                                 .densite = densite},
-                                                PointsSaisie_);
+    try {
+        if (estWav(fichier) && duree > 0)
+            session_.audio.EnteteWav =
+                DessinerOnde(image, 0,
+                             {.vue = Vue::Pict_saisie,
+                              .fichier = fichier,
+                              .empan = {etat.SaisieDebut / duree, etat.SaisieDuree / duree},
+                              .largeur = largeur,
+                              .hauteur = hauteur,
+                              .hauteurVue = HAUTEUR_PICTURE1,
+                              .densite = densite},
+                             PointsSaisie_);
+    } catch (const FauteExecution&) {
+        // A recording that has gone leaves an empty wave; its extracts stay open to correction.
+    }
     Pict_saisie_->image(versQImage(image));
     rafraichirOnde();
 }
@@ -161,6 +166,7 @@ void FrmSaisie::rafraichirOnde() {
 }
 
 void FrmSaisie::ondePressee(const Souris& souris) {
+    if (souris.bouton != Qt::LeftButton) return;
     GlisseDebut_ = souris.x;
     GlisseFin_ = 0;
 }
@@ -173,24 +179,25 @@ void FrmSaisie::ondeGlissee(const Souris& souris) {
 }
 
 void FrmSaisie::ondeRelachee(const Souris& souris) {
-    auto& tr3 = session_.transcription;
+    if (souris.bouton != Qt::LeftButton) return;
+    auto& etat = session_.transcription;
     const Twips largeur = Pict_saisie_->largeurTwips();
     Pict_saisie_->unsetCursor();
     if (saisie::estClic(GlisseDebut_, souris.x)) {
         const double position = saisie::tempsSousX(session_, souris.x, largeur);
         positionner(position);
         curseur_ = souris.x;
-        if (tr3.DicteeActive) {
+        if (etat.DicteeActive) {
             saisie::demarrerPortion(session_, position, secondes_);
-            MontrerPortion(tr3.PortionDebut, tr3.PortionFin);
+            MontrerPortion(etat.PortionDebut, etat.PortionFin);
             Timer3_.stop();
         }
     } else {
         secondes_ = tagSecondes_ = saisie::selectionnerPortion(session_, GlisseDebut_, souris.x, largeur);
-        positionner(tr3.PortionDebut);
-        tr3.Compteur = 0;
-        if (!tr3.DicteeActive) basculerDictee();
-        MontrerPortion(tr3.PortionDebut, tr3.PortionFin);
+        positionner(etat.PortionDebut);
+        etat.Compteur = 0;
+        if (!etat.DicteeActive) basculerDictee();
+        MontrerPortion(etat.PortionDebut, etat.PortionFin);
         Timer3_.stop();
         montrerOptions();
     }
@@ -219,11 +226,15 @@ void FrmSaisie::Timer4_Tick() {
 
 void FrmSaisie::finirAllongement() {
     saisie::allonger(session_, plateforme_.media.currentPosition());
-    Timer4_.stop();
-    Timer1_.start();
+    arreterAllongement();
     titrer();
     dessinerOnde();
     positionner(FinInitiale_);
+}
+
+void FrmSaisie::arreterAllongement() {
+    Timer4_.stop();
+    Timer1_.start();
     ImgPlus_[1]->hide();
 }
 

@@ -24,10 +24,10 @@ void FrmSaisie::creerOptions() {
         BtnOpt_[i]->setCheckable(true);
         poser(BtnOpt_[i], cadres[i]);
     }
-    auto& tr3 = session_.transcription;
-    connect(BtnOpt_[0], &BoutonImage::clicked, this, [&tr3](bool allume) { tr3.BoucleDictee = allume; });
+    auto& etat = session_.transcription;
+    connect(BtnOpt_[0], &BoutonImage::clicked, this, [&etat](bool allume) { etat.BoucleDictee = allume; });
     connect(BtnOpt_[1], &BoutonImage::clicked, this, [this] { garder([this] { basculerDictee(); }); });
-    connect(BtnOpt_[2], &BoutonImage::clicked, this, [&tr3](bool allume) { tr3.DicteeAuto = allume; });
+    connect(BtnOpt_[2], &BoutonImage::clicked, this, [&etat](bool allume) { etat.DicteeAuto = allume; });
 
     LblSec_ = new Toile(QStringLiteral("LblSec"), this);
     LblSec_->setAccessibleName(tr("Secondes d'une portion : glisser vers le haut ou le bas"));
@@ -76,12 +76,12 @@ void FrmSaisie::creerOptions() {
 }
 
 void FrmSaisie::montrerOptions() {
-    const auto& tr3 = session_.transcription;
-    BtnOpt_[0]->setChecked(tr3.BoucleDictee);
-    BtnOpt_[1]->setChecked(tr3.DicteeActive);
-    BtnOpt_[2]->setChecked(tr3.DicteeAuto);
-    LblSec_->setVisible(tr3.DicteeActive);
-    findChild<QLabel*>(QStringLiteral("Label1"))->setVisible(tr3.DicteeActive);
+    const auto& etat = session_.transcription;
+    BtnOpt_[0]->setChecked(etat.BoucleDictee);
+    BtnOpt_[1]->setChecked(etat.DicteeActive);
+    BtnOpt_[2]->setChecked(etat.DicteeAuto);
+    LblSec_->setVisible(etat.DicteeActive);
+    findChild<QLabel*>(QStringLiteral("Label1"))->setVisible(etat.DicteeActive);
     LblSec_->elements({{.controle = Controle::Shape2,
                         .cadre = {0, 0, t::LBLSEC.largeur, t::LBLSEC.hauteur},
                         .texte = std::to_string(secondes_),
@@ -103,11 +103,11 @@ void FrmSaisie::montrerOptions() {
 }
 
 void FrmSaisie::basculerDictee() {
-    auto& tr3 = session_.transcription;
-    tr3.DicteeActive = !tr3.DicteeActive;
-    if (tr3.DicteeActive) {
+    auto& etat = session_.transcription;
+    etat.DicteeActive = !etat.DicteeActive;
+    if (etat.DicteeActive) {
         saisie::activerDictee(session_, plateforme_.media.currentPosition(), secondes_);
-        MontrerPortion(tr3.PortionDebut, tr3.PortionFin);
+        MontrerPortion(etat.PortionDebut, etat.PortionFin);
         Timer3_.stop();
     } else {
         portion_ = {};
@@ -123,10 +123,10 @@ void FrmSaisie::glisserSecondes(const Souris& souris) {
 }
 
 void FrmSaisie::reglerSecondes(int secondes) {
-    auto& tr3 = session_.transcription;
+    auto& etat = session_.transcription;
     secondes_ = secondes;
-    saisie::demarrerPortion(session_, tr3.PortionDebut, secondes_);
-    MontrerPortion(tr3.PortionDebut, tr3.PortionFin);
+    saisie::demarrerPortion(session_, etat.PortionDebut, secondes_);
+    MontrerPortion(etat.PortionDebut, etat.PortionFin);
     if (!pressionSecondes_) tagSecondes_ = secondes_;
     montrerOptions();
 }

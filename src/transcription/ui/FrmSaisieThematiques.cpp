@@ -100,7 +100,10 @@ bool FrmSaisie::touchePanneau(QKeyEvent* touche) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-        choisirThematique(rangSurvole_);
+        if (touche->modifiers() & (Qt::AltModifier | Qt::ControlModifier))
+            basculerLecture();
+        else
+            choisirThematique(rangSurvole_);
         return true;
     default:
         return false;
@@ -159,13 +162,13 @@ void FrmSaisie::ajouterThematique() {
         return;
     }
     saisie::ajouterThematique(corpus, nouvelle);
-    CouleurChoisie_.clear();
     try {
         EcrireThematiques(session_, plateforme_);
     } catch (const FauteExecution&) {
         saisie::retirerDerniereThematique(corpus);
         throw;
     }
+    CouleurChoisie_.clear();
     fenetres_.ConstruireThematiques();
     choisirThematique(int(corpus.NbThm));
     reinitialiserAjout();
