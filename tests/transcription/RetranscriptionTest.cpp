@@ -48,6 +48,8 @@ TEST(LireRetranscription, UnFichierFautifEstDitUneFoisEtJamaisReecrit) {
         {TETE + UN + std::string("\0\r\n", 3), "nul", 1},
         {"", "vide", 0},
         {"1\r\n<|OBS|\r\n" + UN, "manque", 1},
+        {"-5\r\n" + UN, "négative", 1},
+        {"1E39\r\n" + UN, "hors de toute mesure", 1},
         {TETE + "::10,5::000\r\n::11,5::\r\n", "d'une autre machine", 1}};
     for (const auto& [octets, cause, lus] : cas) {
         EntretienOuvert e(octets,
