@@ -63,7 +63,10 @@ FrmMenu& Application::menu() {
 }
 
 FrmVisu& Application::visu() {
-    if (!visu_) visu_ = std::exchange(reserve_, nullptr);
+    if (!visu_ && reserve_) {
+        visu_ = std::exchange(reserve_, nullptr);
+        visu_->setEnabled(true); // it was there when the corpus window was disabled, and went with it
+    }
     return premiere(visu_, [this] { return new FrmVisu(session_, plateforme_, *this, &corpus()); });
 }
 

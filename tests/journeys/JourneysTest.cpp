@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QPlainTextEdit>
 #include <QTimer>
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 
@@ -105,6 +106,18 @@ TEST_F(Parcours, EachWayToAnInterviewShowsItAtItsOpacity) {
     app.OuvrirMenu(Panneau::Entretiens, {});
     cliquer(forme("FrmMenu"), "lblmenu10");
     EXPECT_EQ(ouverte(1).alpha(), 250);
+}
+
+TEST_F(Parcours, AnInterviewOpenedAfterARestIsAsMuchInUse) {
+    ouvrirCorpus();
+    EXPECT_TRUE(QTest::qWaitFor([] {
+        const auto fenetres = QApplication::topLevelWidgets();
+        return std::any_of(fenetres.begin(), fenetres.end(),
+                           [](QWidget* f) { return f->objectName() == QLatin1String("FrmVisu"); });
+    }));
+    app.OuvrirEntretien(1, Ouverture::SansFondu);
+    EXPECT_FALSE(forme("FrmCorpus").isEnabled());
+    EXPECT_TRUE(membre<QWidget>(forme("FrmVisu"), "ImgMedia2")->isEnabled());
 }
 
 TEST_F(Parcours, AnExtractMarkedAndTypedIsOnTheTimelineAfterTheClosing) {
