@@ -108,6 +108,22 @@ TEST_F(Parcours, EachWayToAnInterviewShowsItAtItsOpacity) {
     EXPECT_EQ(ouverte(1).alpha(), 250);
 }
 
+TEST_F(Parcours, TrueSizesApplyWithTheNextRedraw) {
+    hote.dossier.ecrire("c/b.Rtr", std::string(RTR).replace(1, 2, "30"));
+    ouvrirCorpus();
+    const auto largeur = [] {
+        for (const Element& e : rangees().elements())
+            if (e.controle == Controle::ImgEnt && e.index == 2) return e.cadre.largeur;
+        return 0.0;
+    };
+    const Twips pleine = largeur();
+    app.BasculerTailleReelle(false);
+    rangees().grab();
+    EXPECT_EQ(largeur(), pleine);
+    app.RedessinerFrise();
+    EXPECT_EQ(largeur(), pleine / 2);
+}
+
 TEST_F(Parcours, AnInterviewOpenedAfterARestIsAsMuchInUse) {
     ouvrirCorpus();
     EXPECT_TRUE(QTest::qWaitFor([] {

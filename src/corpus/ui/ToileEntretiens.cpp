@@ -70,7 +70,9 @@ const Elements& ToileEntretiens::elements() const {
 }
 
 void ToileEntretiens::disposerEntre(Elements& liste, Twips haut, Twips bas) const {
-    const VueFrise bande{.largeur = largeurTwips(), .defilement = haut, .hauteur = bas - haut};
+    VueFrise bande = vue();
+    bande.defilement = haut;
+    bande.hauteur = bas - haut;
     liste.clear();
     if (vide_) return;
     ajouterSurlignage(liste);
