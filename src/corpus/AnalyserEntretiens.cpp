@@ -5,12 +5,19 @@
 #include "window/DatesFichier.h"
 
 #include <algorithm>
+#include <atomic>
+#include <exception>
 #include <string_view>
+#include <system_error>
+#include <thread>
 #include <unordered_map>
 #include <utility>
 
 namespace vermo {
 namespace {
+
+/// Interviews read between two signs of life.
+constexpr std::size_t LOT = 64;
 
 std::size_t indice(int slot) {
     return static_cast<std::size_t>(slot);
@@ -43,9 +50,9 @@ void reprendreAnciens(EtatCorpus& corpus, const std::vector<Fichiers>& fichiers,
     corpus.anciensExtraits = {};
 }
 
-/// Reads a transcript into `table`, whose memory is given back first. A fault is said unless `taire`.
-void lireTable(ExtraitsEntretien& table, const Utf8& chemin, const IdentiteFichier& identite,
-               const Reglages& reglages, Dialogues& dialogues, bool taire) {
+/// Reads a transcript into `table`, whose memory is given back first. What was wrong with it, if anything.
+std::optional<FauteExecution> lireTable(ExtraitsEntretien& table, const Utf8& chemin,
+                                        const IdentiteFichier& identite, const Reglages& reglages) {
     table = {};
     std::optional<FauteExecution> faute;
     try {
@@ -58,7 +65,47 @@ void lireTable(ExtraitsEntretien& table, const Utf8& chemin, const IdentiteFichi
     table.chemin = chemin;
     table.identite = identite;
     table.fauteDite = faute.has_value();
-    if (faute && !taire) direFaute(dialogues, *faute);
+    return faute;
+}
+
+/// What comes of one interview's files before anything is told of them.
+struct Releve {
+    std::optional<DatesDeFichier> dates; ///< of the recording
+    std::optional<FauteExecution> faute;
+    std::exception_ptr autre; ///< no fault of the file, as memory that runs out
+};
+
+/// The recording's dates, and the transcript again if it isn't the one that was read last.
+Releve relever(ExtraitsEntretien& table, const Fichiers& fichiers, const Reglages& reglages) noexcept {
+    Releve releve;
+    try {
+        releve.dates = datesFichier(fichiers.enregistrement);
+        if (!fichiers.rtr) return releve;
+        const IdentiteFichier identite = identiteFichier(*fichiers.rtr);
+        if (table.chemin != *fichiers.rtr || table.identite != identite)
+            releve.faute = lireTable(table, *fichiers.rtr, identite, reglages);
+    } catch (...) {
+        releve.autre = std::current_exception();
+    }
+    return releve;
+}
+
+/// Calls `faire` with 0 to `nombre` - 1, each once, on as many threads as the machine runs at a time.
+template <class Faire>
+void enParallele(std::size_t nombre, const Faire& faire) {
+    std::atomic<std::size_t> suivant = 0;
+    const auto travailler = [&] {
+        for (std::size_t i = suivant++; i < nombre; i = suivant++)
+            faire(i);
+    };
+    std::vector<std::jthread> autres;
+    try {
+        for (std::size_t i = 1; i < std::min<std::size_t>(nombre, std::thread::hardware_concurrency()); ++i)
+            autres.emplace_back(travailler);
+    } catch (const std::system_error&) {
+        // Without a further thread this one does it all.
+    }
+    travailler();
 }
 
 void prendreTable(Entretien& entretien, const ExtraitsEntretien& table) {
@@ -76,9 +123,12 @@ void direManquant(Dialogues& dialogues, const Entretien& entretien) {
                         "Vermo", Boutons::Ok, Icone::Exclamation});
 }
 
-void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const Fichiers& fichiers) {
+void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const Fichiers& fichiers,
+                       const Releve& releve) {
     Entretien& entretien = session.corpus.Entretiens[indice(slot)];
-    if (const auto dates = LireDatesFichier(fichiers.enregistrement, plateforme.dialogues)) {
+    const auto dates =
+        releve.dates ? releve.dates : LireDatesFichier(fichiers.enregistrement, plateforme.dialogues);
+    if (dates) {
         entretien.DateAjout = dates->creation;
         entretien.DateModif = dates->modification;
     }
@@ -88,9 +138,8 @@ void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const
         if (!std::exchange(table.manqueDit, true)) direManquant(plateforme.dialogues, entretien);
         return;
     }
-    const IdentiteFichier identite = identiteFichier(*fichiers.rtr);
-    if (table.chemin != *fichiers.rtr || table.identite != identite)
-        lireTable(table, *fichiers.rtr, identite, session.reglages, plateforme.dialogues, false);
+    if (releve.autre) std::rethrow_exception(releve.autre);
+    if (releve.faute) direFaute(plateforme.dialogues, *releve.faute);
     prendreTable(entretien, table);
 }
 
@@ -106,9 +155,18 @@ void AnalyserEntretiens(Session& session, Plateforme& plateforme, int premier, i
     for (int slot = premier; slot <= dernier; ++slot)
         fichiers.push_back(fichiersDe(corpus.Entretiens[indice(slot)], corpus.RepCorpus, index));
     reprendreAnciens(corpus, fichiers, premier);
-    for (int slot = premier; slot <= dernier; ++slot) {
-        analyserEntretien(session, plateforme, slot, fichiers[indice(slot - premier)]);
-        plateforme.progression.avance(slot);
+    std::vector<Releve> releves;
+    for (std::size_t debut = 0; debut < fichiers.size(); debut += releves.size()) {
+        releves.assign(std::min(LOT, fichiers.size() - debut), {});
+        enParallele(releves.size(), [&](std::size_t i) {
+            releves[i] =
+                relever(corpus.extraits[indice(premier) + debut + i], fichiers[debut + i], session.reglages);
+        });
+        for (std::size_t i = 0; i < releves.size(); ++i) {
+            const int slot = premier + static_cast<int>(debut + i);
+            analyserEntretien(session, plateforme, slot, fichiers[debut + i], releves[i]);
+            plateforme.progression.avance(slot);
+        }
     }
 }
 
@@ -120,9 +178,10 @@ void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
     const ExtraitsEntretien avant = std::exchange(table, {});
     const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
     const IdentiteFichier identite = identiteFichier(chemin);
-    if (fichierExiste(chemin))
-        lireTable(table, chemin, identite, session.reglages, plateforme.dialogues,
-                  avant.identite == identite);
+    if (fichierExiste(chemin)) {
+        const auto faute = lireTable(table, chemin, identite, session.reglages);
+        if (faute && avant.identite != identite) direFaute(plateforme.dialogues, *faute);
+    }
     table.manqueDit = avant.manqueDit;
     table.dureeNulleDite = avant.dureeNulleDite && avant.identite == identite;
     prendreTable(corpus.Entretiens[indice(slot)], table);

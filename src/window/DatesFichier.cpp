@@ -27,16 +27,20 @@ bool interroger(const Utf8& chemin, struct statx& etat) {
 
 } // namespace
 
-std::optional<DatesDeFichier> LireDatesFichier(const Utf8& chemin, Dialogues& dialogues) {
+std::optional<DatesDeFichier> datesFichier(const Utf8& chemin) {
     struct statx etat {};
-    if (!interroger(chemin, etat)) {
-        dialogues.demander(
-            {.texte = "Impossible ouvrir le fichier : " + chemin, .icone = Icone::Exclamation});
-        return std::nullopt;
-    }
+    if (!interroger(chemin, etat)) return std::nullopt;
     const bool naissance = etat.stx_mask & STATX_BTIME;
     return DatesDeFichier{locale(naissance ? etat.stx_btime.tv_sec : etat.stx_mtime.tv_sec),
                           locale(etat.stx_mtime.tv_sec)};
+}
+
+std::optional<DatesDeFichier> LireDatesFichier(const Utf8& chemin, Dialogues& dialogues) {
+    const auto dates = datesFichier(chemin);
+    if (!dates)
+        dialogues.demander(
+            {.texte = "Impossible ouvrir le fichier : " + chemin, .icone = Icone::Exclamation});
+    return dates;
 }
 
 } // namespace vermo

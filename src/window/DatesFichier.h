@@ -18,7 +18,9 @@ struct DatesDeFichier {
     DateHeure modification;
 };
 
-/// Creation and last write time of a file. When it can't be opened for reading: one message, and nothing.
+/// Creation and last write time of a file that can be opened for reading.
+std::optional<DatesDeFichier> datesFichier(const Utf8& chemin);
+/// The same. When it can't be opened for reading: one message, and nothing.
 std::optional<DatesDeFichier> LireDatesFichier(const Utf8& chemin, Dialogues& dialogues);
 
 } // namespace vermo
