@@ -10,7 +10,8 @@
 ///
 /// A transcript is read once into one buffer, which is compacted in place and stays as the interview's own;
 /// the rows are offsets in it. A file whose identity (size, modification time, inode) is that of the last
-/// scan is not read again.
+/// scan is not read again. Files are read on as many threads as the machine runs, some dozens at a time; what
+/// is told of them is told in the order of the slots, on the caller's thread.
 namespace vermo {
 
 /// What a transcript holds for the corpus-wide tables. After a fault `extraits` holds the rows before it.
@@ -24,9 +25,9 @@ struct LectureRtr {
 /// Texts keep each line, empty ones too, followed by a CR; lines that stand behind a closing line still
 /// belong to the extract that it closed. The code has at most three characters.
 ///
-/// Faults, each with its line: a duration or a time that is no number, a duration of 0, a mark line without
-/// its second "::", extract 1,000, an extract that the end of the file leaves open (its row is kept, without
-/// an end), a NUL byte, a file of 4 GiB or more.
+/// Faults, each with its line: a duration or a time that is no number, a duration that no recording can last,
+/// a mark line without its second "::", extract 1,000, an extract that the end of the file leaves open (its
+/// row is kept, without an end), a NUL byte, a file of 4 GiB or more.
 LectureRtr analyser(std::string octets, const Reglages& reglages, const Utf8& fichier);
 
 /// Scans slots `premier` to `dernier`: DateAjout, DateModif, Duree, NbExtraits, Observations, PrcRtr and the

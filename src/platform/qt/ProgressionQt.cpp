@@ -59,7 +59,7 @@ void ProgressionQt::fin() {
 
 bool ProgressionQt::patienter(const char* attente) {
     if (!depuisAttente_.isValid()) depuisAttente_.start();
-    abandonne_.start();
+    abandonne_.stop(); // handling events may take longer than its time
     if (!boite_ && depuisAttente_.elapsed() >= BOITE_MS) montrerBoite(attente);
     QCoreApplication::processEvents();
     if (boite_ && !boite_->isVisible()) {
@@ -67,6 +67,7 @@ bool ProgressionQt::patienter(const char* attente) {
         return false;
     }
     QThread::msleep(PAS_MS);
+    abandonne_.start();
     return true;
 }
 
