@@ -10,8 +10,6 @@
 namespace vermo {
 namespace {
 
-constexpr std::string_view OBS = "<|OBS|", FIN_OBS = ">|OBS|";
-
 /// One pass over a transcript. The buffer is compacted behind the reading: for each extract its start, its
 /// code and its text, and behind the text its end. Mark lines are longer than the fields they leave, so what
 /// is written never reaches what is still to be read.
@@ -66,11 +64,11 @@ class Analyseur {
     Texte lireObservations() {
         Texte observations;
         std::string_view ligne;
-        if (!lignes_.jusqua(OBS)) {
+        if (!lignes_.jusqua(rtr::OBS)) {
             lignes_ = Lignes(tampon_);
             return observations;
         }
-        while (lignes_.suivante(ligne) && ligne.find(FIN_OBS) == std::string_view::npos) {
+        while (lignes_.suivante(ligne) && !contient(ligne, rtr::FIN_OBS)) {
             refuserNul(ligne, lieu());
             if (!ligne.empty()) observations.append(ligne) += CR;
         }

@@ -18,10 +18,6 @@ constexpr Section POS{"<|POS|", ">|POS|"};
 constexpr Section DIC{"<|DIC|", ">|DIC|"};
 constexpr Section ENTR{"<|ENTR|", ">|ENTR|"};
 
-bool contient(std::string_view ligne, std::string_view balise) {
-    return ligne.find(balise) != std::string_view::npos;
-}
-
 /// Rows of a section, one a line that isn't empty; `lireRang` takes a line and where it stands.
 template <class Rang, class LireRang>
 std::optional<std::vector<Rang>> lireSection(std::string_view octets, const Section& section,
@@ -74,15 +70,6 @@ std::optional<Cadre> encadrer(std::string_view octets, const Section& section) {
     const std::string_view tete = octets.substr(0, octets.size() - lignes.reste().size());
     lignes.jusqua(section.fermeture);
     return Cadre{tete, lignes.reste()};
-}
-
-/// Every line of `octets` with a line end of the normal form.
-void copierLignes(std::string& sortie, std::string_view octets,
-                  void (*ecrire)(std::string&, std::string_view) = ecrireLigne) {
-    Lignes lignes(octets);
-    std::string_view ligne;
-    while (lignes.suivante(ligne))
-        ecrire(sortie, ligne);
 }
 
 } // namespace

@@ -11,12 +11,7 @@
 namespace vermo::rtr {
 namespace {
 
-constexpr std::string_view OBS = "<|OBS|", FIN_OBS = ">|OBS|";
 constexpr std::string_view ATTR = "<|ATTR|", FIN_ATTR = ">|ATTR|";
-
-bool contient(std::string_view ligne, std::string_view balise) {
-    return ligne.find(balise) != std::string_view::npos;
-}
 
 /// Adds a line to a text; an empty one is absorbed by the line end before it.
 void ajouterLigne(Texte& texte, std::string_view ligne) {
@@ -81,13 +76,6 @@ std::string composer(const Extrait& extrait) {
     sortie.append(MARQUE).append(extrait.debut).append(MARQUE).append(extrait.code) += CR;
     sortie.append(extrait.texte) += CR;
     return sortie.append(MARQUE).append(extrait.fin).append(MARQUE);
-}
-
-void copierLignes(std::string& sortie, std::string_view octets) {
-    Lignes lignes(octets);
-    std::string_view ligne;
-    while (lignes.suivante(ligne))
-        ecrireLigne(sortie, ligne);
 }
 
 } // namespace

@@ -6,9 +6,11 @@
 #include <optional>
 #include <string_view>
 
-/// The lines between which a transcript's extracts stand ("::12.50::001"), for all who read them.
+/// The lines between which a transcript's observations and extracts ("::12.50::001") stand, for all who read
+/// them.
 namespace vermo::rtr {
 
+constexpr std::string_view OBS = "<|OBS|", FIN_OBS = ">|OBS|";
 constexpr std::string_view MARQUE = "::";
 
 /// The fields of a mark line: between its marks, and behind the second.

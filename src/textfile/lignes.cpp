@@ -5,12 +5,20 @@ namespace vermo {
 bool Lignes::jusqua(std::string_view balise) {
     std::string_view ligne;
     while (suivante(ligne))
-        if (ligne.find(balise) != std::string_view::npos) return true;
+        if (contient(ligne, balise)) return true;
     return false;
 }
 
 void ecrireLigne(std::string& sortie, std::string_view ligne) {
     sortie.append(ligne).append("\r\n");
+}
+
+void copierLignes(std::string& sortie, std::string_view octets,
+                  void (*ecrire)(std::string&, std::string_view)) {
+    Lignes lignes(octets);
+    std::string_view ligne;
+    while (lignes.suivante(ligne))
+        ecrire(sortie, ligne);
 }
 
 } // namespace vermo

@@ -41,7 +41,15 @@ class Lignes {
     std::size_t numero_ = 0;
 };
 
+inline bool contient(std::string_view ligne, std::string_view balise) {
+    return ligne.find(balise) != std::string_view::npos;
+}
+
 /// The line, then CR LF.
 void ecrireLigne(std::string& sortie, std::string_view ligne);
+
+/// Every line of `octets` by `ecrire`: with a line end of the normal form, whatever ended it.
+void copierLignes(std::string& sortie, std::string_view octets,
+                  void (*ecrire)(std::string&, std::string_view) = ecrireLigne);
 
 } // namespace vermo

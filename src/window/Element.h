@@ -32,13 +32,12 @@ struct Rectangle {
 /// The formatter never settles on a list of macros.
 // clang-format off
 #define VERMO_CONTROLES(X) \
-    X(Aucun) X(lblpiste) X(lblfich) X(ImgEnt) X(ShpFich) X(ImgOnOff) X(ImgPlay) X(LigneTps) X(PictTps) \
-    X(ShpThm) X(Lblthm) X(LblCoul) X(ShpCoul) X(ImgCoul) X(ImgSurlig) X(LblScroll) X(LigneScroll) \
-    X(LblXtr) X(ShpXtr) X(ShpXtrInt) X(LblXtrZ) X(LbltitreXtrZ) X(LbltxtXtrZ) X(ShpXtrZ) X(ShpXtrIntZ) \
-    X(ImgBulleBlanche) X(ImgBulleBas) X(ImgBulleInt) X(LblMot) X(Shp_visu) X(Curseur) X(TotalSelect) \
-    X(shp_curseur_zoom) X(ZoomSelect) X(Pict_tps) X(Pict_tpsZ) X(Picture1) X(Pict_zoom) X(Pict_saisie) \
-    X(SaisieSelect) X(ShpDict) X(ShpCoulT) X(LblCoulThm) X(ShpFondSaisie) X(ShpFdThm) X(LblXtrBulle) \
-    X(lblcorpus) X(ImgPuce) X(lblmenu) X(Shape2)
+    X(Aucun) X(lblpiste) X(lblfich) X(ImgEnt) X(ShpFich) X(ImgOnOff) X(ImgPlay) X(Lblthm) \
+    X(LblCoul) X(ShpCoul) X(ImgCoul) X(ImgSurlig) X(LblScroll) X(LigneScroll) X(LblXtr) X(ShpXtr) \
+    X(ShpXtrInt) X(LblXtrZ) X(LbltitreXtrZ) X(LbltxtXtrZ) X(ShpXtrZ) X(ShpXtrIntZ) \
+    X(ImgBulleBlanche) X(ImgBulleBas) X(ImgBulleInt) X(LblMot) X(Shp_visu) X(Curseur) \
+    X(TotalSelect) X(shp_curseur_zoom) X(ZoomSelect) X(SaisieSelect) X(ShpDict) X(ShpFondSaisie) \
+    X(ShpFdThm) X(LblXtrBulle) X(ImgPuce) X(Shape2)
 // clang-format on
 enum class Controle : std::uint16_t {
 #define X(nom) nom,

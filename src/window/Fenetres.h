@@ -6,7 +6,7 @@ namespace vermo {
 enum class Fenetre { FrmIntro, FrmCorpus, FrmMenu, FrmVisu, FrmSaisie };
 
 /// Panels of FrmMenu, by the index that `OuvrirMenu` takes.
-enum class Panneau { Corpus = 0, Entretiens = 1, Thematiques = 2, Attributs = 3, Volume = 5, Tri = 6 };
+enum class Panneau { Corpus = 0, Entretiens = 1, Thematiques = 2, Attributs = 3, Volume = 5 };
 
 /// How the interview window is opened.
 enum class Ouverture { AvecFondu, SansFondu };

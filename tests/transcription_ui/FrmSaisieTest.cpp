@@ -132,7 +132,13 @@ TEST_F(FrmSaisieTest, aFailedWriteKeepsTheTextOnTheScreen) {
 TEST_F(FrmSaisieTest, enterTypesALineOrMovesThePortion) {
     nouveau(30, 50);
     hote.media.currentPosition(30);
+    const QSize replie = controle("BtnOpt1").size();
+    const auto fond = [&] { return controle("BtnOpt1").grab().toImage().pixelColor(3, replie.height() / 2); };
+    const QColor eteint = fond();
+    EXPECT_TRUE(controle("LblSec").visibleRegion().isEmpty());
     cliquer("BtnOpt1");
+    EXPECT_NE(fond(), eteint) << "a toggle that is on is seen";
+    EXPECT_FALSE(controle("LblSec").visibleRegion().isEmpty());
     QTest::keyClick(&texte(), Qt::Key_Return);
     EXPECT_EQ(texte().toPlainText(), QString());
     EXPECT_EQ(session.transcription.PortionDebut, 35);

@@ -70,6 +70,9 @@ class FrmSaisie : public Forme {
     // FrmSaisieEcoute.cpp, FrmSaisieOptions.cpp
     void creerEcoute();
     void creerOptions();
+    void creerBoutonsDictee();
+    void creerSecondes();
+    void creerVitesse();
     void dessinerOnde();
     void rafraichirOnde(); ///< cursor, portion and selection over the waveform
     void MontrerPortion(double debut, double fin);

@@ -13,6 +13,12 @@ namespace vermo {
 namespace t = tailles_saisie;
 
 void FrmSaisie::creerOptions() {
+    creerBoutonsDictee();
+    creerSecondes();
+    creerVitesse();
+}
+
+void FrmSaisie::creerBoutonsDictee() {
     const char* const icones[] = {"Boucle", "Dictee", "DicteeAuto"};
     const char* const bulles[] = {
         "Répéter la portion", "Dictée par portions (Entrée : portion suivante)",
@@ -23,19 +29,29 @@ void FrmSaisie::creerOptions() {
             new BoutonImage(QStringLiteral("BtnOpt%1").arg(i), QLatin1String(icones[i]), tr(bulles[i]), this);
         BtnOpt_[i]->setCheckable(true);
         poser(BtnOpt_[i], cadres[i]);
+        BtnOpt_[i]->caseIcone(BtnOpt_[i]->width());
     }
     auto& etat = session_.transcription;
     connect(BtnOpt_[0], &BoutonImage::clicked, this, [&etat](bool allume) { etat.BoucleDictee = allume; });
     connect(BtnOpt_[1], &BoutonImage::clicked, this, [this] { garder([this] { basculerDictee(); }); });
     connect(BtnOpt_[2], &BoutonImage::clicked, this, [&etat](bool allume) { etat.DicteeAuto = allume; });
 
-    LblSec_ = new Toile(QStringLiteral("LblSec"), this);
+    LblTimer_ = new QLabel(this);
+    LblTimer_->setObjectName(QStringLiteral("LblTimer"));
+    LblTimer_->setAlignment(Qt::AlignCenter);
+    LblTimer_->setStyleSheet(
+        QStringLiteral("background: rgb(110,178,255); color: black; border-radius: 8px"));
+    poser(LblTimer_, t::LBLTIMER);
+    LblTimer_->hide();
+}
+
+void FrmSaisie::creerSecondes() {
+    LblSec_ = new Toile(QStringLiteral("LblSec"), BtnOpt_[1]);
     LblSec_->setAccessibleName(tr("Secondes d'une portion : glisser vers le haut ou le bas"));
     LblSec_->setToolTip(LblSec_->accessibleName());
     LblSec_->setCursor(Qt::SizeVerCursor);
     LblSec_->fond(theme::CHAMP);
-    poser(LblSec_, {t::BTNOPT_1.gauche + t::LBLSEC.gauche, t::BTNOPT_1.haut + t::LBLSEC.haut,
-                    t::LBLSEC.largeur, t::LBLSEC.hauteur});
+    poser(LblSec_, t::LBLSEC);
     LblSec_->surPression = [this](const Souris&) { pressionSecondes_ = true; };
     LblSec_->surMouvement = [this](const Souris& souris) { glisserSecondes(souris); };
     LblSec_->surRelachement = [this](const Souris&) {
@@ -45,18 +61,12 @@ void FrmSaisie::creerOptions() {
     LblSec_->surMolette = [this](int crans, Qt::KeyboardModifiers) {
         reglerSecondes(std::max(1, secondes_ + crans));
     };
-    auto* unite = new QLabel(QStringLiteral("sec."), this);
+    auto* unite = new QLabel(QStringLiteral("sec."), BtnOpt_[1]);
     unite->setObjectName(QStringLiteral("Label1"));
-    poser(unite, {t::BTNOPT_1.gauche + t::LABEL1.gauche, t::BTNOPT_1.haut + t::LABEL1.haut, t::LABEL1.largeur,
-                  t::LABEL1.hauteur});
-    LblTimer_ = new QLabel(this);
-    LblTimer_->setObjectName(QStringLiteral("LblTimer"));
-    LblTimer_->setAlignment(Qt::AlignCenter);
-    LblTimer_->setStyleSheet(
-        QStringLiteral("background: rgb(110,178,255); color: black; border-radius: 8px"));
-    poser(LblTimer_, t::LBLTIMER);
-    LblTimer_->hide();
+    poser(unite, t::LABEL1);
+}
 
+void FrmSaisie::creerVitesse() {
     Picture2_ = new Toile(QStringLiteral("Picture2"), this);
     Picture2_->setAccessibleName(tr("Vitesse de lecture"));
     Picture2_->setToolTip(tr("Vitesse de lecture, de 0,75 à 1,25"));
@@ -80,8 +90,9 @@ void FrmSaisie::montrerOptions() {
     BtnOpt_[0]->setChecked(etat.BoucleDictee);
     BtnOpt_[1]->setChecked(etat.DicteeActive);
     BtnOpt_[2]->setChecked(etat.DicteeAuto);
-    LblSec_->setVisible(etat.DicteeActive);
-    findChild<QLabel*>(QStringLiteral("Label1"))->setVisible(etat.DicteeActive);
+    Rectangle dictee = t::BTNOPT_1;
+    if (etat.DicteeActive) dictee.largeur = t::LARGEUR_DICTEE;
+    poser(BtnOpt_[1], dictee);
     LblSec_->elements({{.controle = Controle::Shape2,
                         .cadre = {0, 0, t::LBLSEC.largeur, t::LBLSEC.hauteur},
                         .texte = std::to_string(secondes_),

@@ -21,6 +21,7 @@ constexpr Rectangle IMGPLUS{900, 2310, 600, 600};
 constexpr Rectangle PICTURE2{1590, 2310, 2130, 600};
 constexpr Rectangle LBLVIT{120, 190, 1890, 375}; ///< inside Picture2
 constexpr Rectangle BTNOPT_1{3800, 2340, 705, 540};
+constexpr Twips LARGEUR_DICTEE = 1905;           ///< of that button while dictating, so that the seconds show
 constexpr Rectangle LBLSEC{820, 120, 345, 300};  ///< inside the dictation button
 constexpr Rectangle LABEL1{1180, 120, 600, 300}; ///< "sec.", beside it
 constexpr Rectangle LBLTIMER{5745, 2460, 255, 300};

@@ -11,6 +11,7 @@ namespace {
 
 constexpr double ARRONDI = 3; ///< pixels, of the halo and the focus ring
 constexpr double OPACITE_INACTIF = 0.32;
+constexpr float OPACITE_ALLUME = 0.45F;
 
 std::string sourceIcone(const QString& nom) {
     return nom.isEmpty() ? std::string() : ":/icones/" + utf8DepuisQt(nom) + ".svg";
@@ -44,6 +45,11 @@ void BoutonImage::bulle(const QString& bulle) {
     setAccessibleName(bulle);
 }
 
+void BoutonImage::caseIcone(int largeur) {
+    caseIcone_ = largeur;
+    update();
+}
+
 QSize BoutonImage::sizeHint() const {
     return naturelle_.isEmpty() ? QSize(24, 24) : naturelle_;
 }
@@ -52,14 +58,22 @@ void BoutonImage::paintEvent(QPaintEvent*) {
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::Antialiasing);
     const QRectF cadre = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (isChecked()) {
+        QColor lumiere = couleurQt(theme::ACCENT);
+        lumiere.setAlphaF(OPACITE_ALLUME);
+        peintre.setPen(Qt::NoPen);
+        peintre.setBrush(lumiere);
+        peintre.drawRoundedRect(cadre, ARRONDI, ARRONDI);
+    }
     if (isEnabled() && (underMouse() || isDown())) {
         peintre.setPen(Qt::NoPen);
         peintre.setBrush(QColor(255, 255, 255, isDown() ? 56 : 30));
         peintre.drawRoundedRect(cadre, ARRONDI, ARRONDI);
     }
-    const QSize taille = sizeHint().scaled(size(), Qt::KeepAspectRatio);
+    const QSize place(caseIcone_ > 0 ? caseIcone_ : width(), height());
+    const QSize taille = sizeHint().scaled(place, Qt::KeepAspectRatio);
     const std::string& source = isDown() && !iconePressee_.empty() ? iconePressee_ : icone_;
-    const QPoint coin((width() - taille.width()) / 2, (height() - taille.height()) / 2);
+    const QPoint coin((place.width() - taille.width()) / 2, (place.height() - taille.height()) / 2);
     peintre.setOpacity(isEnabled() ? 1 : OPACITE_INACTIF);
     peintre.drawImage(QRect(coin, taille), imageEtiree(source, taille * devicePixelRatioF()));
     if (hasFocus()) {

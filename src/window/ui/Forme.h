@@ -78,7 +78,8 @@ void garderPour(QWidget* controle, Action&& action) {
 }
 
 /// A picture that is pressed: an SVG of the resources, another while it is held, a tooltip that is also its
-/// accessible name. Reached by Tab, pressed by Space and Enter; a click leaves the focus where it was.
+/// accessible name. Reached by Tab, pressed by Space and Enter; a click leaves the focus where it was. A
+/// toggle that is on stands on a lit ground.
 class BoutonImage : public QAbstractButton {
     Q_OBJECT
   public:
@@ -86,6 +87,8 @@ class BoutonImage : public QAbstractButton {
     void icone(const QString& icone); ///< name under ":/icones/", without its extension
     void iconePressee(const QString& icone);
     void bulle(const QString& bulle); ///< tooltip and accessible name
+    /// The icon keeps to the first `largeur` pixels, however wide the button is made; 0: to all of it.
+    void caseIcone(int largeur);
     QSize sizeHint() const override;
 
   protected:
@@ -95,6 +98,7 @@ class BoutonImage : public QAbstractButton {
   private:
     std::string icone_, iconePressee_;
     QSize naturelle_; ///< pixels
+    int caseIcone_ = 0;
 };
 
 /// Places a widget by its geometry in twips of its parent.
