@@ -131,6 +131,10 @@ bool Application::visible(Fenetre fenetre) const {
     return forme != nullptr && forme->isVisible();
 }
 
+bool Application::saisieEntamee() const {
+    return saisie_ && saisie_->isVisible() && saisie_->entamee();
+}
+
 void Application::decharger(Fenetre fenetre) {
     Forme* forme = ouverte(fenetre);
     if (forme == nullptr) return;

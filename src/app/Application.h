@@ -38,6 +38,7 @@ class Application final : public QObject, public Fenetres {
     void cacher(Fenetre fenetre) override;
     void decharger(Fenetre fenetre) override;
     bool visible(Fenetre fenetre) const override;
+    bool saisieEntamee() const override;
     void finir() override;
 
     void NouveauCorpus() override;

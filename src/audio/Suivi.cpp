@@ -7,8 +7,6 @@
 
 namespace vermo {
 
-namespace {} // namespace
-
 SuiviLecture suivreLecture(const EtatAudio& audio, double position, Twips W, Twips Z) {
     SuiviLecture suivi;
     suivi.LblCompteur = HeureTexte(position);

@@ -22,6 +22,7 @@ class Fenetres {
     /// Unloads a window; the next reference makes it afresh. Unloading FrmVisu also stops its player.
     virtual void decharger(Fenetre fenetre) = 0;
     virtual bool visible(Fenetre fenetre) const = 0;
+    virtual bool saisieEntamee() const = 0; ///< FrmSaisie is open and holds what no file does
     virtual void finir() = 0; ///< ends the program
 
     // Sequences that run through several windows.

@@ -157,6 +157,31 @@ TEST_F(Parcours, AnExtractMarkedAndTypedIsOnTheTimelineAfterTheClosing) {
     EXPECT_TRUE(forme("FrmCorpus").isEnabled());
 }
 
+TEST_F(Parcours, NothingOpensOverATextThatIsBeingTyped) {
+    ouvrirCorpus();
+    app.OuvrirEntretien(1, Ouverture::SansFondu);
+    auto* touches = membre<QWidget>(forme("FrmVisu"), "TxtCtrl");
+    const auto marquer = [&](double debut, double fin) {
+        for (const double temps : {debut, fin}) {
+            hote.media.currentPosition(temps);
+            QTest::keyClick(touches, Qt::Key_Return);
+        }
+    };
+    marquer(10, 20);
+    auto* texte = membre<QPlainTextEdit>(forme("FrmSaisie"), "TextRtr");
+    marquer(30, 40);
+    EXPECT_EQ(session.transcription.SaisieDebut, 30) << "nothing was typed yet";
+    QTest::keyClicks(texte, QStringLiteral("bonjour"));
+    QTest::keyClick(touches, Qt::Key_Right, Qt::ControlModifier);
+    QTest::keyClick(touches, Qt::Key_F2);
+    marquer(50, 55);
+    EXPECT_EQ(texte->toPlainText(), QStringLiteral("bonjour"));
+    EXPECT_EQ(session.transcription.SaisieDebut, 30);
+    cliquer(forme("FrmSaisie"), "Imgbtn0");
+    QTest::keyClick(touches, Qt::Key_F2);
+    EXPECT_EQ(texte->toPlainText(), QStringLiteral("mot\n"));
+}
+
 TEST_F(Parcours, FaultsInSingleTranscriptsAreEachToldOnceAndTheCorpusOpens) {
     std::string mille = RTR;
     for (int i = 0; i < 1000; ++i)

@@ -18,6 +18,7 @@ class FenetresMuettes : public Fenetres {
     void cacher(Fenetre f) override { noter("cacher " + nom(f)), visibles_[f] = false; }
     void decharger(Fenetre f) override { noter("decharger " + nom(f)), visibles_[f] = false; }
     bool visible(Fenetre f) const override { return visibles_.contains(f) && visibles_.at(f); }
+    bool saisieEntamee() const override { return false; }
     void finir() override { noter("finir"); }
     void NouveauCorpus() override { noter("NouveauCorpus"); }
     void OuvrirCorpus() override { noter("OuvrirCorpus"); }

@@ -129,7 +129,7 @@ class FrmVisu : public Forme {
     void ouvrirSaisie(Bornes span);
     void montrerVolume();
     void direEtatSon();
-    bool saisieOuverte();
+    bool ramenerSaisie(bool enCours);
     void fermer();
     void retournerAuCorpus();
     void dechargerPlusTard();

@@ -123,6 +123,7 @@ void FrmVisu::marquer() {
 }
 
 void FrmVisu::ouvrirSaisie(Bornes span) {
+    if (ramenerSaisie(fenetres_.saisieEntamee())) return;
     EtatTranscription& etat = session_.transcription;
     etat.SaisieDebut = span.debut;
     etat.SaisieFin = span.fin;
@@ -140,15 +141,14 @@ void FrmVisu::montrerVolume() {
     fenetres_.OuvrirMenu(Panneau::Volume, ancre);
 }
 
-/// What is being typed is left from its own window.
-bool FrmVisu::saisieOuverte() {
-    if (!fenetres_.visible(Fenetre::FrmSaisie)) return false;
-    fenetres_.montrer(Fenetre::FrmSaisie);
-    return true;
+/// What is being typed is left from its own window, which comes to the front.
+bool FrmVisu::ramenerSaisie(bool enCours) {
+    if (enCours) fenetres_.montrer(Fenetre::FrmSaisie);
+    return enCours;
 }
 
 void FrmVisu::fermer() {
-    if (saisieOuverte() || std::exchange(ferme_, true)) return;
+    if (ramenerSaisie(fenetres_.visible(Fenetre::FrmSaisie)) || std::exchange(ferme_, true)) return;
     fenetres_.quitterVisu();
     session_.EtatFondu = FONDU_FERMETURE;
     Transparence(static_cast<int>(FONDU_FIN - FONDU_FERMETURE));
@@ -156,7 +156,7 @@ void FrmVisu::fermer() {
 }
 
 void FrmVisu::retournerAuCorpus() {
-    if (saisieOuverte() || std::exchange(ferme_, true)) return;
+    if (ramenerSaisie(fenetres_.visible(Fenetre::FrmSaisie)) || std::exchange(ferme_, true)) return;
     fenetres_.quitterVisu();
     dechargerPlusTard();
 }

@@ -89,6 +89,7 @@ void FrmVisu::zoomerExtrait(int k) {
 
 void FrmVisu::ouvrirExtrait(int k) {
     if (ferme_ || k < 1 || k > nombreExtraits(session_)) return;
+    if (ramenerSaisie(fenetres_.saisieEntamee())) return;
     session_.transcription.ExtraitCourant = static_cast<float>(k);
     fenetres_.OuvrirExtrait(k);
 }

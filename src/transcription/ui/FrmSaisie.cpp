@@ -96,11 +96,7 @@ void FrmSaisie::PreparerSaisie() {
     preparer();
     Timer2_.stop();
     Transparence(250);
-    show();
-    raise();
-    activateWindow();
-    reprendreFocus();
-    TextRtr_->setFocus();
+    prendrePlace();
 }
 
 void FrmSaisie::OuvrirExtrait(int n) {
@@ -114,11 +110,22 @@ void FrmSaisie::OuvrirExtrait(int n) {
     codage(thematique.tag, thematique.caption);
     colorer(thematique.couleur);
     TextRtr_->texte(session_.transcription.ExtraitTexte[std::size_t(n)]);
+    prendrePlace();
+}
+
+void FrmSaisie::prendrePlace() {
+    legendeOuverte_ = legende_;
+    finOuverte_ = session_.transcription.SaisieFin;
     show();
     raise();
     activateWindow();
     reprendreFocus();
     TextRtr_->setFocus();
+}
+
+bool FrmSaisie::entamee() const {
+    return TextRtr_->document()->isModified() || legende_ != legendeOuverte_ ||
+           session_.transcription.SaisieFin != finOuverte_;
 }
 
 void FrmSaisie::preparer() {

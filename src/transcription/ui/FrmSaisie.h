@@ -35,6 +35,8 @@ class FrmSaisie : public Forme {
     void OuvrirExtrait(int n);
     /// Leaves without saving.
     void FermerSaisie();
+    /// The text, the thematic or the end of the span are no more what they were at the opening.
+    bool entamee() const;
     /// Refills the panel from the thematic table.
     void ConstruireThematiques();
 
@@ -55,7 +57,8 @@ class FrmSaisie : public Forme {
     // FrmSaisie.cpp
     void creerEntete();
     void creerTexte();
-    void preparer(); ///< resets the window for the open span and draws it
+    void preparer();     ///< resets the window for the open span and draws it
+    void prendrePlace(); ///< shows the window that is ready, to be typed in
     void placerLargeur(bool depliee);
     void colorer(Couleur couleur);
     void codage(const Texte& code, const Texte& legende);
@@ -121,6 +124,8 @@ class FrmSaisie : public Forme {
 
     Texte code_ = "000";       ///< tag of lbl_thm
     Texte legende_;            ///< caption of lbl_thm
+    Texte legendeOuverte_;     ///< the same at the opening
+    double finOuverte_ = 0;    ///< SaisieFin at the opening
     Couleur couleur_ = 0;      ///< of every ShpFondSaisie
     Couleur couleurAjout_ = 0; ///< of ShpFdThm
     Texte CouleurChoisie_;     ///< decimal value; empty: none
