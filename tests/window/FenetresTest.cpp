@@ -34,14 +34,15 @@ TEST(Detourage, RegionDepuisImage) {
 }
 
 TEST(Placement, DansEcran) {
-    const ZoneTravail zone{.largeur = 20000, .hauteur = 12000, .barreDesTaches = 40}; // bottom at 11400
+    const ZoneTravail zone{
+        .gauche = -6000, .haut = 600, .largeur = 20000, .hauteur = 12000, .barreDesTaches = 40};
     struct Cas {
         Rectangle voulu, obtenu;
     };
-    for (const Cas& cas : {Cas{{100, 200, 5000, 4000}, {100, 200, 5000, 4000}},
-                           {{-300, -20, 5000, 4000}, {0, 0, 5000, 4000}},
-                           {{18000, 9000, 5000, 4000}, {15000, 7400, 5000, 4000}},
-                           {{40, 1305, 30000, 20000}, {0, 0, 20000, 11400}}})
+    for (const Cas& cas : {Cas{{-100, 700, 5000, 4000}, {-100, 700, 5000, 4000}},
+                           {{-6300, 580, 5000, 4000}, {-6000, 600, 5000, 4000}},
+                           {{12000, 9600, 5000, 4000}, {9000, 8000, 5000, 4000}},
+                           {{40, 1305, 30000, 20000}, {-6000, 600, 20000, 11400}}})
         EXPECT_EQ(dansEcran(cas.voulu, zone), cas.obtenu) << cas.voulu.gauche << "," << cas.voulu.haut;
 }
 

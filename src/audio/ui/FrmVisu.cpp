@@ -5,6 +5,7 @@
 #include "audio/ui/GeometrieVisu.h"
 #include "textfile/faute.h"
 #include "textfile/fichier.h"
+#include "window/Placement.h"
 #include "window/ui/Glace.h"
 
 #include <QCloseEvent>
@@ -117,8 +118,8 @@ void FrmVisu::creerBoutons() {
 
 void FrmVisu::disposer() {
     const ZoneTravail zone = plateforme_.ecran.zoneTravail();
-    placer({GAUCHE, HAUT, zone.largeur - GAUCHE - MARGE_DROITE,
-            zone.hauteur - HAUT - zone.barreDesTaches * TWIPS_PAR_PIXEL});
+    placer({zone.gauche + GAUCHE, zone.haut + HAUT, zone.largeur - GAUCHE - MARGE_DROITE,
+            cadreUtile(zone).hauteur - HAUT});
     const Twips L = enTwips(width()), H = enTwips(height());
     disposerTitre(L);
 

@@ -5,6 +5,7 @@
 #include "corpus/ui/FrmCorpus.h"
 #include "corpus/ui/ToileEntretiens.h"
 #include "corpus/ui/ToileThematiques.h"
+#include "window/Placement.h"
 #include "window/ui/Glace.h"
 #include "window/ui/Lien.h"
 #include "window/ui/Theme.h"
@@ -58,8 +59,7 @@ FrmCorpus::FrmCorpus(Session& session, Plateforme& plateforme, Fenetres& fenetre
     construireMenus();
     construireBoutons();
     construirePanneaux();
-    const ZoneTravail zone = plateforme_.ecran.zoneTravail();
-    placer({0, 0, zone.largeur, zone.hauteur - zone.barreDesTaches * TWIPS_PAR_PIXEL});
+    placer(cadreUtile(plateforme_.ecran.zoneTravail()));
     placerControles();
     montrerComptes();
     montrerInvite();

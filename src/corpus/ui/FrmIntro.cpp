@@ -3,6 +3,7 @@
 #include "corpus/OuvertureCorpus.h"
 #include "corpus/Session.h"
 #include "window/Detourage.h"
+#include "window/Placement.h"
 #include "window/ui/Glace.h"
 #include "window/ui/Lien.h"
 #include "window/ui/Theme.h"
@@ -38,9 +39,10 @@ FrmIntro::FrmIntro(Session& session, Plateforme& plateforme, Fenetres& fenetres)
       Picture1_(new Toile(QStringLiteral("Picture1"), this)), LblSon_(new QLabel(this)) {
     setWindowTitle(QStringLiteral("Vermo"));
     Transparence(OPACITE);
-    const ZoneTravail zone = plateforme_.ecran.zoneTravail();
-    placer({(zone.largeur - enTwips(LARGEUR)) / 2, (zone.hauteur - enTwips(HAUTEUR)) / 2, enTwips(LARGEUR),
-            enTwips(HAUTEUR)});
+    const Rectangle utile = cadreUtile(plateforme_.ecran.zoneTravail());
+    const Twips largeur = enTwips(LARGEUR), hauteur = enTwips(HAUTEUR);
+    placer({utile.gauche + (utile.largeur - largeur) / 2, utile.haut + (utile.hauteur - hauteur) / 2, largeur,
+            hauteur});
     peindreFond();
     decouper();
     deplacerPar(Picture1_);

@@ -2,16 +2,22 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QWindow>
 
 namespace vermo {
 
 ZoneTravail EcranQt::zoneTravail() const {
     constexpr double TWIPS_PAR_PIXEL = 15;
-    const QScreen* ecran = QGuiApplication::primaryScreen();
+    const QWindow* active = QGuiApplication::focusWindow();
+    const QScreen* ecran = active ? active->screen() : QGuiApplication::primaryScreen();
     if (!ecran) return {};
-    const QSize entier = ecran->geometry().size();
-    return {entier.width() * TWIPS_PAR_PIXEL, entier.height() * TWIPS_PAR_PIXEL,
-            entier.height() - ecran->availableGeometry().height()};
+    const QRect utile = ecran->availableGeometry();
+    const int entiere = ecran->geometry().height();
+    return {.gauche = utile.x() * TWIPS_PAR_PIXEL,
+            .haut = utile.y() * TWIPS_PAR_PIXEL,
+            .largeur = utile.width() * TWIPS_PAR_PIXEL,
+            .hauteur = entiere * TWIPS_PAR_PIXEL,
+            .barreDesTaches = entiere - utile.height()};
 }
 
 void EcranQt::pointeur(Pointeur pointeur) {

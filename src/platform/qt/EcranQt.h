@@ -3,7 +3,7 @@
 
 namespace vermo {
 
-/// The primary screen.
+/// The screen on which the window with the focus lies; without one, the primary screen.
 class EcranQt final : public Ecran {
   public:
     ZoneTravail zoneTravail() const override;

@@ -163,8 +163,8 @@ void FrmSaisie::placerLargeur(bool depliee) {
     const Twips largeur = !depliee ? t::LARGEUR_PLIEE : nouveau ? t::LARGEUR_NOUVEL_EXTRAIT : t::LARGEUR_FOND;
     const ZoneTravail zone = plateforme_.ecran.zoneTravail();
     const bool jamaisMontree = !testAttribute(Qt::WA_WState_ExplicitShowHide);
-    const Twips gauche = jamaisMontree ? (zone.largeur - t::LARGEUR_FOND) / 2 : enTwips(x());
-    const Twips haut = jamaisMontree ? (zone.hauteur - t::HAUTEUR) * 3 / 4 : enTwips(y());
+    const Twips gauche = jamaisMontree ? zone.gauche + (zone.largeur - t::LARGEUR_FOND) / 2 : enTwips(x());
+    const Twips haut = jamaisMontree ? zone.haut + (zone.hauteur - t::HAUTEUR) * 3 / 4 : enTwips(y());
     const int avant = width();
     placer({gauche, haut, largeur, t::HAUTEUR});
     if (depliee && (width() != avant || !isVisible())) reinitialiserAjout();
