@@ -155,6 +155,7 @@ void Application::decharger(Fenetre fenetre) {
 }
 
 void Application::finir() {
+    if (saisieEntamee()) return montrer(Fenetre::FrmSaisie);
     for (const Fenetre fenetre :
          {Fenetre::FrmSaisie, Fenetre::FrmVisu, Fenetre::FrmMenu, Fenetre::FrmIntro, Fenetre::FrmCorpus})
         cacher(fenetre);

@@ -180,6 +180,20 @@ TEST_F(Parcours, NothingOpensOverATextThatIsBeingTyped) {
     cliquer(forme("FrmSaisie"), "Imgbtn0");
     QTest::keyClick(touches, Qt::Key_F2);
     EXPECT_EQ(texte->toPlainText(), QStringLiteral("mot\n"));
+
+    for (int fois = 0; fois < 2; ++fois) { // the span may move until something is typed
+        QTest::keyClick(touches, Qt::Key_Right, Qt::AltModifier);
+        EXPECT_EQ(session.transcription.SaisieDebut, 1.1);
+        EXPECT_NE(hote.dossier.lire("c/a.Rtr").find("::1.10::001"), std::string::npos);
+        QTest::keyClicks(texte, QStringLiteral("un "));
+    }
+
+    EXPECT_FALSE(forme("FrmCorpus").close());
+    app.finir();
+    EXPECT_TRUE(texte->isVisible());
+    QTest::keyClick(texte, Qt::Key_Escape);
+    app.finir();
+    EXPECT_FALSE(app.visible(Fenetre::FrmCorpus));
 }
 
 TEST_F(Parcours, FaultsInSingleTranscriptsAreEachToldOnceAndTheCorpusOpens) {

@@ -115,6 +115,7 @@ class FrmVisu : public Forme {
     void poserBorne(int k, bool debut, double v);
     void refuserEnglobement();
     std::vector<Bornes> bornesExtraits() const;
+    std::vector<Bornes> autresBornes(int k) const;
     void ouvrirExtrait(int k);
 
     // FrmVisuLecture.cpp: the player, commands, closing.

@@ -188,21 +188,32 @@ void FrmVisu::relacherPoignee(bool debut, Twips x) {
                tempsZoom(session_.audio, std::max(gauche + x, 0.0), Pict_zoom_->largeurTwips()));
 }
 
+/// Bounds as their text reads: under a decimal comma they count as whole seconds here.
+std::vector<Bornes> FrmVisu::autresBornes(int k) const {
+    const EtatTranscription& etat = session_.transcription;
+    std::vector<Bornes> autres;
+    for (int i = 1; i <= nombreExtraits(session_); ++i) {
+        if (i == k) continue;
+        const auto place = static_cast<std::size_t>(i);
+        autres.push_back({valeurTexte(etat.ExtraitDebut[place], session_.reglages),
+                          valeurTexte(etat.ExtraitFin[place], session_.reglages)});
+    }
+    return autres;
+}
+
+/// An extract that is open in FrmSaisie is opened anew, or its old span would come back when it is validated.
 void FrmVisu::poserBorne(int k, bool debut, double v) {
     EtatTranscription& etat = session_.transcription;
+    const bool ouvert = fenetres_.visible(Fenetre::FrmSaisie) && !etat.NouvelExtrait &&
+                        static_cast<int>(etat.ExtraitCourant) == k;
+    if (ouvert && ramenerSaisie(fenetres_.saisieEntamee())) return AfficherExtraits();
+
     const auto place = static_cast<std::size_t>(k);
     const double f0 = secondesFin(session_, k);
     (debut ? etat.ExtraitDebut : etat.ExtraitFin)[place] = v;
 
-    std::vector<Bornes> autres;
-    for (int i = 1; i <= nombreExtraits(session_); ++i)
-        if (i != k) {
-            const auto autre = static_cast<std::size_t>(i);
-            autres.push_back({valeurTexte(etat.ExtraitDebut[autre], session_.reglages),
-                              valeurTexte(etat.ExtraitFin[autre], session_.reglages)});
-        }
     const Bornes deplacees{secondesDebut(session_, k), secondesFin(session_, k)};
-    const Marquage marquage = bornerExtraitDeplace(deplacees, autres);
+    const Marquage marquage = bornerExtraitDeplace(deplacees, autresBornes(k));
     if (marquage.englobe) return refuserEnglobement();
     if (marquage.bornes.debut != deplacees.debut) etat.ExtraitDebut[place] = marquage.bornes.debut;
     if (marquage.bornes.fin != deplacees.fin) etat.ExtraitFin[place] = marquage.bornes.fin;
@@ -211,7 +222,7 @@ void FrmVisu::poserBorne(int k, bool debut, double v) {
     const bool ecrit = EnregistrerExtraits(session_, plateforme_);
     LireRetranscription(session_, plateforme_);
     AfficherExtraits();
-    if (allonge && ecrit) ouvrirExtrait(k);
+    if ((allonge || ouvert) && ecrit) ouvrirExtrait(k);
 }
 
 } // namespace vermo

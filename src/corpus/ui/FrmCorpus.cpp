@@ -133,7 +133,7 @@ void FrmCorpus::croix() {
 }
 
 void FrmCorpus::closeEvent(QCloseEvent* evenement) {
-    evenement->accept();
+    evenement->setAccepted(!fenetres_.saisieEntamee());
     garder([this] { fenetres_.finir(); });
 }
 
