@@ -23,7 +23,7 @@ class Fenetres {
     virtual void decharger(Fenetre fenetre) = 0;
     virtual bool visible(Fenetre fenetre) const = 0;
     virtual bool saisieEntamee() const = 0; ///< FrmSaisie is open and holds what no file does
-    virtual void finir() = 0;               ///< ends the program, but for a transcript that is being typed
+    virtual void finir() = 0;               ///< ends the program, unless something is being typed
 
     // Sequences that run through several windows.
     virtual void NouveauCorpus() = 0;

@@ -131,6 +131,7 @@ class FrmVisu : public Forme {
     void montrerVolume();
     void direEtatSon();
     bool ramenerSaisie(bool enCours);
+    bool quitter();
     void fermer();
     void retournerAuCorpus();
     void dechargerPlusTard();

@@ -147,18 +147,22 @@ bool FrmVisu::ramenerSaisie(bool enCours) {
     return enCours;
 }
 
-void FrmVisu::fermer() {
-    if (ramenerSaisie(fenetres_.visible(Fenetre::FrmSaisie)) || std::exchange(ferme_, true)) return;
+/// What every way out begins with. False when the window stays.
+bool FrmVisu::quitter() {
+    if (ramenerSaisie(fenetres_.visible(Fenetre::FrmSaisie)) || std::exchange(ferme_, true)) return false;
     fenetres_.quitterVisu();
+    return true;
+}
+
+void FrmVisu::fermer() {
+    if (!quitter()) return;
     session_.EtatFondu = FONDU_FERMETURE;
     Transparence(static_cast<int>(FONDU_FIN - FONDU_FERMETURE));
     Timer3_.start();
 }
 
 void FrmVisu::retournerAuCorpus() {
-    if (ramenerSaisie(fenetres_.visible(Fenetre::FrmSaisie)) || std::exchange(ferme_, true)) return;
-    fenetres_.quitterVisu();
-    dechargerPlusTard();
+    if (quitter()) dechargerPlusTard();
 }
 
 /// The window can't go while one of its own events or ticks is being answered.

@@ -133,8 +133,8 @@ void FrmCorpus::croix() {
 }
 
 void FrmCorpus::closeEvent(QCloseEvent* evenement) {
-    evenement->setAccepted(!fenetres_.saisieEntamee());
     garder([this] { fenetres_.finir(); });
+    evenement->setAccepted(!isVisible());
 }
 
 /// Windows that are open over this one stay in front of it.

@@ -29,8 +29,8 @@ void FrmSaisie::creerBoutonsDictee() {
             new BoutonImage(QStringLiteral("BtnOpt%1").arg(i), QLatin1String(icones[i]), tr(bulles[i]), this);
         BtnOpt_[i]->setCheckable(true);
         poser(BtnOpt_[i], cadres[i]);
-        BtnOpt_[i]->caseIcone(BtnOpt_[i]->width());
     }
+    BtnOpt_[1]->caseIcone(BtnOpt_[1]->width()); // it widens
     auto& etat = session_.transcription;
     connect(BtnOpt_[0], &BoutonImage::clicked, this, [&etat](bool allume) { etat.BoucleDictee = allume; });
     connect(BtnOpt_[1], &BoutonImage::clicked, this, [this] { garder([this] { basculerDictee(); }); });
