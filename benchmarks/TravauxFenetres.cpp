@@ -150,7 +150,7 @@ double fenetreNue() {
 
 double ouvrirEntretien(Programme& programme) {
     const double duree = jusquAuDessin(
-        QStringLiteral("FrmVisu"), [&] { programme.application().OuvrirEntretien(1, Ouverture::SansFondu); });
+        QStringLiteral("FrmVisu"), [&] { programme.application().ouvrirEntretien(1, Ouverture::SansFondu); });
     QTest::qWait(200);
     programme.application().decharger(Fenetre::FrmVisu);
     QTest::qWait(800); // the corpus window idles

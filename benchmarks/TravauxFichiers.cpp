@@ -30,7 +30,7 @@ double dessinerVue(const std::string& onde, const std::string& sortie) {
     return chronometrer([&] {
         PointsOnde points;
         Bitmap8 image = fondUni(LARGEUR_VUE, HAUTEUR_VUE, 1 / TWIPS_PAR_PIXEL, rvb(138, 140, 146));
-        DessinerOnde(image, 0,
+        dessinerOnde(image, 0,
                      {.vue = Vue::Picture1,
                       .fichier = onde,
                       .empan = {0, 1},

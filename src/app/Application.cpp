@@ -162,7 +162,7 @@ void Application::finir() {
     emit fini();
 }
 
-void Application::OuvrirEntretien(int slot, Ouverture ouverture) {
+void Application::ouvrirEntretien(int slot, Ouverture ouverture) {
     auto& etat = session_.corpus;
     if (slot < 1 || slot > etat.NbEntretiens) return;
     plateforme_.ecran.pointeur(Pointeur::Sablier);
@@ -204,7 +204,7 @@ void Application::montrerEntretien(Ouverture ouverture) {
     decharger(Fenetre::FrmVisu);
 }
 
-void Application::ReglerVolume(int part) {
+void Application::reglerVolume(int part) {
     session_.audio.VolumeLecture = float(part);
     plateforme_.media.volume(part);
     if (corpus_) corpus_->DessinerVolume();

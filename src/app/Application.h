@@ -44,11 +44,11 @@ class Application final : public QObject, public Fenetres {
     void NouveauCorpus() override;
     void OuvrirCorpus() override;
     void ImporterEntretien() override;
-    void OuvrirEntretien(int slot, Ouverture ouverture) override;
-    void RetirerEntretien() override;
+    void ouvrirEntretien(int slot, Ouverture ouverture) override;
+    void retirerEntretien() override;
     void DeplacerEntretien(int source, int cible) override;
-    void BasculerTailleReelle(bool redessiner) override;
-    void ReglerVolume(int part) override;
+    void basculerTailleReelle(bool redessiner) override;
+    void reglerVolume(int part) override;
 
     void OuvrirMenu(Panneau panneau, Rectangle ancre) override;
     void RedessinerFrise() override;

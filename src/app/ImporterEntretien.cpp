@@ -70,7 +70,7 @@ void Application::importer() {
     RedessinerFrise();
     RedessinerPistes();
     lireAttributs(slot);
-    OuvrirEntretien(slot, Ouverture::SansFondu);
+    ouvrirEntretien(slot, Ouverture::SansFondu);
 }
 
 } // namespace vermo

@@ -78,7 +78,7 @@ void Application::RedessinerPistes() {
     corpus().RedessinerPistes();
 }
 
-void Application::RetirerEntretien() {
+void Application::retirerEntretien() {
     auto& etat = session_.corpus;
     if (etat.EntretienCourant == 0) return;
     const Reponse reponse =
@@ -113,7 +113,7 @@ void Application::DeplacerEntretien(int source, int cible) {
     OuvrirCorpus();
 }
 
-void Application::BasculerTailleReelle(bool redessiner) {
+void Application::basculerTailleReelle(bool redessiner) {
     session_.corpus.TailleReelle = !session_.corpus.TailleReelle;
     if (!redessiner) return;
     corpus().surface(false);

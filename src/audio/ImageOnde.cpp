@@ -80,7 +80,7 @@ long hauteurCibleZoom(const EnTeteWav& entete, Twips hauteurZoom, Twips hauteurV
     return entete.NbCanaux == 2 ? arrondi(hauteurZoom) / 3 : arrondi(hauteurVue);
 }
 
-void ConvertirPoints(PointsOnde& points, const EnTeteWav& entete, const Echelles& echelles, long largeur) {
+void convertirPoints(PointsOnde& points, const EnTeteWav& entete, const Echelles& echelles, long largeur) {
     const long nombre = std::max(rangees(entete) * largeur - 1, 0L);
     if (entete.BitsParEchantillon == 16)
         convertir16(points, echelles, largeur, nombre);
@@ -96,7 +96,7 @@ long nombreLignes(Vue vue, const EnTeteWav& entete, long largeur) {
     return std::max(std::min(converties, voulues), 0L);
 }
 
-void TracerOnde(Bitmap8& image, std::uint8_t indice, Vue vue, const PointsOnde& points,
+void tracerOnde(Bitmap8& image, std::uint8_t indice, Vue vue, const PointsOnde& points,
                 const EnTeteWav& entete, long largeur, double facteurY, double densite) {
     Traceur traceur(image, indice);
     const long lignes = nombreLignes(vue, entete, largeur);
@@ -108,7 +108,7 @@ void TracerOnde(Bitmap8& image, std::uint8_t indice, Vue vue, const PointsOnde& 
     }
 }
 
-EnTeteWav DessinerOnde(Bitmap8& image, std::uint8_t indice, const DemandeOnde& demande, PointsOnde& points,
+EnTeteWav dessinerOnde(Bitmap8& image, std::uint8_t indice, const DemandeOnde& demande, PointsOnde& points,
                        Progression* progression) {
     const EnTeteWav entete = avecDefauts(sonderEnteteWav(demande.fichier));
     const long LargeurCible = arrondi(demande.largeur);
@@ -119,11 +119,11 @@ EnTeteWav DessinerOnde(Bitmap8& image, std::uint8_t indice, const DemandeOnde& d
     {
         const FichierOnde fichier(demande.fichier);
         const AvanceOnde avance(progression, entete, LargeurCible);
-        LirePoints(fichier, entete, demande.empan, LargeurCible, points, avance.suite());
+        lirePoints(fichier, entete, demande.empan, LargeurCible, points, avance.suite());
     }
-    ConvertirPoints(points, entete, echelles, LargeurCible);
+    convertirPoints(points, entete, echelles, LargeurCible);
     const double facteurY = demande.vue == Vue::Picture1 ? 1 : demande.hauteur / demande.hauteurVue;
-    TracerOnde(image, indice, demande.vue, points, entete, LargeurCible, facteurY, demande.densite);
+    tracerOnde(image, indice, demande.vue, points, entete, LargeurCible, facteurY, demande.densite);
     return entete;
 }
 

@@ -41,7 +41,7 @@ long hauteurCibleZoom(const EnTeteWav& entete, Twips hauteurZoom, Twips hauteurV
 /// Turns samples into Y coordinates, for the first NbCanaux x largeur - 1 elements of at most two rows; the
 /// last element of the last row is no point. Throws FauteExecution when the rounded scale of a 16-bit file is
 /// 0.
-void ConvertirPoints(PointsOnde& points, const EnTeteWav& entete, const Echelles& echelles, long largeur);
+void convertirPoints(PointsOnde& points, const EnTeteWav& entete, const Echelles& echelles, long largeur);
 
 /// How many lines are drawn, counted from point 0, so that each joins two converted points: both rows in the
 /// overview, the first row in the others.
@@ -49,7 +49,7 @@ long nombreLignes(Vue vue, const EnTeteWav& entete, long largeur);
 
 /// Draws the lines in palette colour `indice`. `facteurY` brings Y to the picture's own height, `densite` is
 /// its device pixels a twip. In the run of a stereo overview one line joins the two rows at the right edge.
-void TracerOnde(Bitmap8& image, std::uint8_t indice, Vue vue, const PointsOnde& points,
+void tracerOnde(Bitmap8& image, std::uint8_t indice, Vue vue, const PointsOnde& points,
                 const EnTeteWav& entete, long largeur, double facteurY, double densite);
 
 /// Everything a waveform is drawn from.
@@ -65,7 +65,7 @@ struct DemandeOnde {
 /// Probes, reads, converts and draws on `image`, in palette colour `indice`. Gives the header, defaults
 /// applied. Throws FauteExecution when the file can't be opened or the picture has no scale; `points` then
 /// keeps what it held and nothing is drawn.
-EnTeteWav DessinerOnde(Bitmap8& image, std::uint8_t indice, const DemandeOnde& demande, PointsOnde& points,
+EnTeteWav dessinerOnde(Bitmap8& image, std::uint8_t indice, const DemandeOnde& demande, PointsOnde& points,
                        Progression* progression = nullptr);
 
 /// A picture of `largeur` x `hauteur` twips in one colour, with black as its colour 0.

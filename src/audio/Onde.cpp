@@ -94,7 +94,7 @@ std::size_t FichierOnde::lire(std::int64_t position, void* octets, std::size_t t
     return lus;
 }
 
-LieuDonnees LocaliserDonnees(const FichierOnde& fichier) {
+LieuDonnees localiserDonnees(const FichierOnde& fichier) {
     std::array<char, TAILLE_DEBUT> DebutFichier{};
     const std::size_t lus = fichier.lire(1, DebutFichier.data(), DebutFichier.size());
     const std::size_t trouve = std::string_view(DebutFichier.data(), lus).find("data");
@@ -154,13 +154,13 @@ void PointsOnde::allouer(std::size_t nombre) {
     octets.assign(nombre, 0);
 }
 
-void LirePoints(const FichierOnde& fichier, const EnTeteWav& entete, const Empan& empan, long largeur,
+void lirePoints(const FichierOnde& fichier, const EnTeteWav& entete, const Empan& empan, long largeur,
                 PointsOnde& points, const AvanceLecture& avance) {
     const auto rangees = 2 * static_cast<std::size_t>(std::max(largeur, 0L));
     points.points.resize(std::max(points.points.size(), rangees));
     points.octets.resize(std::max(points.octets.size(), rangees));
 
-    const PasLecture pas = pasDeLecture(LocaliserDonnees(fichier), entete, empan, largeur);
+    const PasLecture pas = pasDeLecture(localiserDonnees(fichier), entete, empan, largeur);
     const bool seize = entete.BitsParEchantillon == 16;
     const std::size_t taille = seize ? 2 : 1;
     const auto ranger = [&](long i, const unsigned char* octets) {

@@ -51,7 +51,7 @@ struct LieuDonnees {
 
 /// Searches the first "data" in the first 255 bytes. When there is none the size is read at position 4:
 /// wrong, told to nobody, and harmless, since reads outside the file give nothing.
-LieuDonnees LocaliserDonnees(const FichierOnde& fichier);
+LieuDonnees localiserDonnees(const FichierOnde& fichier);
 
 /// What of a recording a picture shows.
 struct Empan {
@@ -82,7 +82,7 @@ using AvanceLecture = std::function<void(long)>;
 
 /// Reads one sample a point, and the sample behind it into the second row, for points 0 to `largeur` - 2. A
 /// point that lies beyond the end of the file keeps its value. Grows `points` where it is too small.
-void LirePoints(const FichierOnde& fichier, const EnTeteWav& entete, const Empan& empan, long largeur,
+void lirePoints(const FichierOnde& fichier, const EnTeteWav& entete, const Empan& empan, long largeur,
                 PointsOnde& points, const AvanceLecture& avance = {});
 
 } // namespace vermo

@@ -21,7 +21,7 @@ long minutesEntieres(double secondes) {
     return arrondi(secondes) / 60;
 }
 
-Dessin DessinerRegleMinutes(double DureeFichier, Twips largeur, std::string_view etiquette) {
+Dessin dessinerRegleMinutes(double DureeFichier, Twips largeur, std::string_view etiquette) {
     Dessin dessin;
     if (!(DureeFichier > 0) || !(largeur > 0)) return dessin;
     const Twips m = largeur / DureeFichier * 60;
@@ -47,7 +47,7 @@ int pasEtiquettes(double DureeZoom) {
     return 10;
 }
 
-Dessin DessinerRegleSecondes(double DebutZoom, double DureeZoom, Twips largeur) {
+Dessin dessinerRegleSecondes(double DebutZoom, double DureeZoom, Twips largeur) {
     Dessin dessin;
     if (!(DureeZoom > 0) || !(largeur > 0)) return dessin;
     const Twips s = largeur / DureeZoom;

@@ -15,13 +15,13 @@ long minutesEntieres(double secondes);
 /// A recording below 10 minutes numbers each minute, one above 30 every tenth, one between numbers none.
 /// `etiquette`, when given, stands in the place of the numbers: recordings without samples have this ruler as
 /// their overview. Marks closer than one twip are left out. No duration, no mark.
-Dessin DessinerRegleMinutes(double DureeFichier, Twips largeur, std::string_view etiquette = {});
+Dessin dessinerRegleMinutes(double DureeFichier, Twips largeur, std::string_view etiquette = {});
 
 /// Seconds between two labels of the zoom's ruler.
 int pasEtiquettes(double DureeZoom);
 
 /// The second ruler of a span: a mark a second, counted from the span's left edge, and at some of them the
 /// time.
-Dessin DessinerRegleSecondes(double DebutZoom, double DureeZoom, Twips largeur);
+Dessin dessinerRegleSecondes(double DebutZoom, double DureeZoom, Twips largeur);
 
 } // namespace vermo

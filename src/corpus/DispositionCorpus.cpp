@@ -78,7 +78,7 @@ void disposerEntretiens(DispositionCorpus& d, Twips largeur, Twips hauteur, bool
 
 } // namespace
 
-DispositionCorpus DisposerFenetreCorpus(Twips largeur, Twips hauteur, bool TriAPlat) {
+DispositionCorpus disposerFenetreCorpus(Twips largeur, Twips hauteur, bool TriAPlat) {
     DispositionCorpus d;
     disposerTitre(d, largeur);
     disposerThematiques(d, hauteur);

@@ -27,6 +27,6 @@ struct DispositionCorpus {
 };
 
 /// Layout of the window for its size. `TriAPlat`: the timeline gives up the height of PictTAP plus 720.
-DispositionCorpus DisposerFenetreCorpus(Twips largeur, Twips hauteur, bool TriAPlat);
+DispositionCorpus disposerFenetreCorpus(Twips largeur, Twips hauteur, bool TriAPlat);
 
 } // namespace vermo

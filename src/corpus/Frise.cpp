@@ -16,10 +16,6 @@ constexpr Twips BAS_LIGNES_TPS = 33500;
 constexpr Twips MARGE_LIGNE = 60, POUCE_MIN = 300;
 constexpr int SUFFIXE_NOM = 4; ///< of a recording's name: its extension and the point
 
-const Entretien& entretienDe(const EtatCorpus& corpus, int slot) {
-    return corpus.Entretiens[static_cast<std::size_t>(slot)];
-}
-
 Twips hauteurLigne(const EtatCorpus& corpus) {
     return corpus.HauteurEntretien > 0 ? corpus.HauteurEntretien : HAUTEUR_MIN;
 }
@@ -160,7 +156,7 @@ int slotSous(const Session& session, Twips y) {
     return ligne <= nombreLignes(session.corpus) ? ligne : 0;
 }
 
-void DisposerFrise(const Session& session, const VueFrise& vue, const std::vector<Utf8>& vues,
+void disposerFrise(const Session& session, const VueFrise& vue, const std::vector<Utf8>& vues,
                    Elements& sortie) {
     const EtatCorpus& corpus = session.corpus;
     const float durmax = dureeMax(corpus);
@@ -174,7 +170,7 @@ void DisposerFrise(const Session& session, const VueFrise& vue, const std::vecto
     }
 }
 
-Dessin DisposerRegle(const Session& session, Twips largeurBarre) {
+Dessin disposerRegle(const Session& session, Twips largeurBarre) {
     Dessin dessin;
     const double durmax = dureeMax(session.corpus);
     if (!session.corpus.TailleReelle || !(durmax > 0)) return dessin;

@@ -64,12 +64,12 @@ int slotSous(const Session& session, Twips y);
 
 /// Appends lblpiste, lblfich, ImgEnt (tag Fichier), ShpFich and ImgOnOff of the rows in view, index the slot.
 /// ImgPlay is not among them: it stands over the bars, DisposerPistes brings it.
-void DisposerFrise(const Session& session, const VueFrise& vue, const std::vector<Utf8>& vues,
+void disposerFrise(const Session& session, const VueFrise& vue, const std::vector<Utf8>& vues,
                    Elements& sortie);
 
 /// The ruler, empty unless TailleReelle. `inscriptions` are places in PictTps, `traits` (the LigneTps) in
 /// Frm_entretiens, to be drawn behind the rows. Beyond some 400 hours the marks spread out.
-Dessin DisposerRegle(const Session& session, Twips largeurBarre);
+Dessin disposerRegle(const Session& session, Twips largeurBarre);
 
 /// The scroll thumb. Heights of LblScroll are twips of Frm_fond_entretiens.
 struct Defilement {

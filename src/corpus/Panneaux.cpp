@@ -53,7 +53,7 @@ Twips hauteurThematique(int nombre, Twips hauteurCadre) {
     return nombre < 1 ? HAUTEUR_THM_MAX : std::min(hauteurCadre / nombre, HAUTEUR_THM_MAX);
 }
 
-Elements DisposerThematiques(const Session& session, Twips largeur, Twips hauteurCadre, Legende legende) {
+Elements disposerThematiques(const Session& session, Twips largeur, Twips hauteurCadre, Legende legende) {
     const EtatCorpus& corpus = session.corpus;
     Elements liste;
     const Twips h = hauteurThematique(nombreThematiques(corpus), hauteurCadre);
@@ -72,27 +72,27 @@ Elements DisposerThematiques(const Session& session, Twips largeur, Twips hauteu
     return liste;
 }
 
-void BasculerEntretien(EtatCorpus& corpus, int slot) {
+void basculerEntretien(EtatCorpus& corpus, int slot) {
     Entretien& entretien = corpus.Entretiens.at(static_cast<std::size_t>(slot));
     entretien.Visible = !entretien.Visible;
 }
 
-void IsolerEntretien(EtatCorpus& corpus, int slot) {
+void isolerEntretien(EtatCorpus& corpus, int slot) {
     for (int i = 1; i <= corpus.NbEntretiens; ++i)
         corpus.Entretiens[static_cast<std::size_t>(i)].Visible = i == slot;
 }
 
-void BasculerThematique(EtatCorpus& corpus, int rang) {
+void basculerThematique(EtatCorpus& corpus, int rang) {
     std::int16_t& etat = corpus.ThmVisible.at(static_cast<std::size_t>(rang));
     etat = etat == 1 ? 0 : 1;
 }
 
-void IsolerThematique(EtatCorpus& corpus, int rang) {
+void isolerThematique(EtatCorpus& corpus, int rang) {
     allumerThematiques(corpus, 0);
     corpus.ThmVisible.at(static_cast<std::size_t>(rang)) = 1;
 }
 
-bool BasculerTousEntretiens(EtatCorpus& corpus) {
+bool basculerTousEntretiens(EtatCorpus& corpus) {
     int actifs = 0;
     for (int i = 1; i <= corpus.NbEntretiens; ++i)
         actifs += corpus.Entretiens[static_cast<std::size_t>(i)].Visible ? 1 : 0;
@@ -102,7 +102,7 @@ bool BasculerTousEntretiens(EtatCorpus& corpus) {
     return allumer;
 }
 
-bool BasculerToutesThematiques(EtatCorpus& corpus) {
+bool basculerToutesThematiques(EtatCorpus& corpus) {
     bool toutes = true;
     for (int rang = 1; rang <= nombreThematiques(corpus); ++rang)
         toutes = toutes && thematiqueVisible(corpus, rang);

@@ -12,16 +12,16 @@ enum class Legende { Corpus, Saisie };
 Twips hauteurThematique(int nombre, Twips hauteurCadre);
 
 /// ImgCoul, ShpCoul and LblCoul (tag: the code) of each row, index the row. Places are twips of the frame.
-Elements DisposerThematiques(const Session& session, Twips largeur, Twips hauteurCadre, Legende legende);
+Elements disposerThematiques(const Session& session, Twips largeur, Twips hauteurCadre, Legende legende);
 
-void BasculerEntretien(EtatCorpus& corpus, int slot);  ///< ImgOnOff, click
-void IsolerEntretien(EtatCorpus& corpus, int slot);    ///< ImgOnOff, double click
-void BasculerThematique(EtatCorpus& corpus, int rang); ///< LblCoul, left button
-void IsolerThematique(EtatCorpus& corpus, int rang);   ///< LblCoul, right button
+void basculerEntretien(EtatCorpus& corpus, int slot);  ///< ImgOnOff, click
+void isolerEntretien(EtatCorpus& corpus, int slot);    ///< ImgOnOff, double click
+void basculerThematique(EtatCorpus& corpus, int rang); ///< LblCoul, left button
+void isolerThematique(EtatCorpus& corpus, int rang);   ///< LblCoul, right button
 
 /// ImgOnOffent: more than one active, all off; otherwise all on. Returns whether they are on now (ImgOn).
-bool BasculerTousEntretiens(EtatCorpus& corpus);
+bool basculerTousEntretiens(EtatCorpus& corpus);
 /// ImgOnOffthm: all on, all off; otherwise all on. Returns whether they are on now (ImgOn).
-bool BasculerToutesThematiques(EtatCorpus& corpus);
+bool basculerToutesThematiques(EtatCorpus& corpus);
 
 } // namespace vermo

@@ -135,7 +135,7 @@ bool thematiqueVisible(const EtatCorpus& corpus, int rang) {
     return i < corpus.ThmVisible.size() && corpus.ThmVisible[i] == 1;
 }
 
-void DisposerPistes(const Session& session, const VueFrise& vue, Elements& sortie) {
+void disposerPistes(const Session& session, const VueFrise& vue, Elements& sortie) {
     const EtatCorpus& corpus = session.corpus;
     const Teintes teintes(corpus);
     const float durmax = dureeMax(corpus);

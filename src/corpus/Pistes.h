@@ -19,7 +19,7 @@ bool thematiqueVisible(const EtatCorpus& corpus, int rang);
 /// isn't filled, but still takes the mouse. Behind the last extract of each interview stands one more, the
 /// mark of the empty row: at the bar's left end, white; its number leads to no extract. An interview of
 /// duration 0 has no bars.
-void DisposerPistes(const Session& session, const VueFrise& vue, Elements& sortie);
+void disposerPistes(const Session& session, const VueFrise& vue, Elements& sortie);
 
 /// "Thématiques  (n/N)" and "Entretiens  (n/N)".
 Texte compteThematiques(const EtatCorpus& corpus);

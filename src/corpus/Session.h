@@ -3,6 +3,7 @@
 #include "formats/FichierRtr.h"
 #include "textfile/fichier.h"
 #include "textfile/reglages.h"
+#include "textfile/tables.h"
 #include "textfile/texte.h"
 #include "window/DatesFichier.h"
 
@@ -140,6 +141,24 @@ struct Session {
     float EtatFondu = 0; ///< the fades' shared counter
     bool operator==(const Session&) const = default;
 };
+
+// Counts and numbers that the system keeps as floats, as the whole numbers that they are.
+inline int nombreThematiques(const EtatCorpus& corpus) {
+    return static_cast<int>(corpus.NbThm);
+}
+inline int nombreVariables(const EtatDonnees& donnees) {
+    return static_cast<int>(donnees.NbVariables);
+}
+inline int extraitCourant(const EtatTranscription& transcription) {
+    return static_cast<int>(transcription.ExtraitCourant);
+}
+/// The interview in `slot`, 1 to NbEntretiens.
+inline Entretien& entretienDe(EtatCorpus& corpus, int slot) {
+    return ligneDe(corpus.Entretiens, slot);
+}
+inline const Entretien& entretienDe(const EtatCorpus& corpus, int slot) {
+    return ligneDe(corpus.Entretiens, slot);
+}
 
 // The corpus-wide tables by interview slot and extract number from 1; empty behind the last extract.
 std::string_view CorpusDebut(const Session& session, int slot, int n);

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/Annonces.h"
 #include "platform/Dialogues.h"
 #include "platform/Ecran.h"
 #include "platform/Emplacements.h"
@@ -17,6 +18,7 @@ struct Plateforme {
     Lanceur& lanceur;
     Ecran& ecran;
     Progression& progression;
+    Annonces& annonces;
     Emplacements emplacements;
 };
 

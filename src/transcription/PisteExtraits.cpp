@@ -104,7 +104,7 @@ class Bulle {
         const Twips pas = metriques.hauteur(taille_.corps);
         const int colonnes = static_cast<int>(cadre.largeur / LARGEUR_COLONNE_MIN);
         const MotsDisposes disposes =
-            DisposerMots(session_.transcription.ExtraitTexte[static_cast<std::size_t>(extrait_)],
+            disposerMots(session_.transcription.ExtraitTexte[static_cast<std::size_t>(extrait_)],
                          {.depart = cadre.gauche,
                           .haut = cadre.haut,
                           .LargeurTexte = cadre.largeur,
@@ -215,7 +215,7 @@ Couleur couleurExtrait(const EtatCorpus& corpus, std::string_view code) {
     return rang == 0 ? 0 : couleur(corpus.ThmCouleur[rang]);
 }
 
-Elements DisposerPiste(Session& session, Twips largeurPicture1, const TaillePiste& taille) {
+Elements disposerPiste(Session& session, Twips largeurPicture1, const TaillePiste& taille) {
     Elements elements;
     const double duree = session.audio.DureeFichier;
     if (duree <= 0) return elements;
@@ -245,7 +245,7 @@ Elements DisposerPiste(Session& session, Twips largeurPicture1, const TaillePist
     return elements;
 }
 
-Elements DisposerBulles(const Session& session, Twips largeurZoom, Twips hauteurZoom,
+Elements disposerBulles(const Session& session, Twips largeurZoom, Twips hauteurZoom,
                         const Metriques& metriques, const TailleBulle& taille) {
     Elements elements;
     const EtatAudio& audio = session.audio;

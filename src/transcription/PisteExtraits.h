@@ -33,14 +33,14 @@ struct TailleBulle {
 
 /// For extract n: ShpXtr[n], ShpXtrInt[n], then LblXtr[n], which takes the mouse. Empty while DureeFichier is
 /// 0. The two bounds of an extract that ends before it starts are swapped in the arrays.
-Elements DisposerPiste(Session& session, Twips largeurPicture1, const TaillePiste& taille = {});
+Elements disposerPiste(Session& session, Twips largeurPicture1, const TaillePiste& taille = {});
 
 /// Bubbles of the extracts that the span DebutZoom..FinZoom shows, touching a bound not counted. Indexes are
 /// bubble numbers from 1, tags the extracts' numbers; bubble k owns the handles ImgBulleInt[2k - 1] (start)
 /// and ImgBulleInt[2k] (end), which take the mouse, as LblXtrZ, LbltitreXtrZ and LbltxtXtrZ do. LblMot carry
 /// one word each, numbered through all bubbles, tag its line; words outside the picture or below their bubble
 /// are left out. LbltxtXtrZ frames the words and has no caption of its own.
-Elements DisposerBulles(const Session& session, Twips largeurZoom, Twips hauteurZoom,
+Elements disposerBulles(const Session& session, Twips largeurZoom, Twips hauteurZoom,
                         const Metriques& metriques, const TailleBulle& taille = {});
 
 /// Colour of the row that an extract's code finds, or, for an unknown code, of the last row searched.

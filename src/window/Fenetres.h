@@ -29,12 +29,12 @@ class Fenetres {
     virtual void NouveauCorpus() = 0;
     virtual void OuvrirCorpus() = 0;      ///< reads OuvertureDirecte and CheminCorpus
     virtual void ImporterEntretien() = 0; ///< asks for the file
-    virtual void OuvrirEntretien(int slot,
+    virtual void ouvrirEntretien(int slot,
                                  Ouverture ouverture) = 0; ///< EntretienCourant = slot, then FrmVisu
-    virtual void RetirerEntretien() = 0; ///< asks, then takes EntretienCourant out of the corpus
+    virtual void retirerEntretien() = 0; ///< asks, then takes EntretienCourant out of the corpus
     virtual void DeplacerEntretien(int source, int cible) = 0; ///< the list is saved and the corpus reopened
-    virtual void BasculerTailleReelle(bool redessiner) = 0;    ///< inverts TailleReelle; redraws when asked
-    virtual void ReglerVolume(int part) = 0; ///< VolumeLecture and the player, 0 to 100; gauges redrawn
+    virtual void basculerTailleReelle(bool redessiner) = 0;    ///< inverts TailleReelle; redraws when asked
+    virtual void reglerVolume(int part) = 0; ///< VolumeLecture and the player, 0 to 100; gauges redrawn
 
     // What one window asks of another.
     virtual void OuvrirMenu(Panneau panneau, Rectangle ancre) = 0; ///< under `ancre`, twips of the screen

@@ -83,7 +83,7 @@ class Composition {
 
 } // namespace
 
-MotsDisposes DisposerMots(std::string_view texte, const ReglagesMots& reglages, const Metriques& metriques) {
+MotsDisposes disposerMots(std::string_view texte, const ReglagesMots& reglages, const Metriques& metriques) {
     MotsDisposes sortie;
     sortie.texte = texte;
     if (texte.size() < 2) return sortie;

@@ -42,6 +42,6 @@ struct MotsDisposes {
 };
 
 /// A text of fewer than two characters has no words.
-MotsDisposes DisposerMots(std::string_view texte, const ReglagesMots& reglages, const Metriques& metriques);
+MotsDisposes disposerMots(std::string_view texte, const ReglagesMots& reglages, const Metriques& metriques);
 
 } // namespace vermo

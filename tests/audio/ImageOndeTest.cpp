@@ -51,7 +51,7 @@ TEST(ImageOnde, SamplesBecomeHeights) {
             points.points[i] = static_cast<std::int16_t>(cas.echantillons[i]);
             points.octets[i] = static_cast<std::uint8_t>(cas.echantillons[i]);
         }
-        ConvertirPoints(points, entete(cas.canaux, cas.bits),
+        convertirPoints(points, entete(cas.canaux, cas.bits),
                         calculerEchelles(entete(cas.canaux, cas.bits), cas.hauteur), 3);
         points.points.resize(cas.attendus.size());
         EXPECT_EQ(points.points, cas.attendus) << cas.canaux << " x " << cas.bits;
@@ -66,14 +66,14 @@ TEST(ImageOnde, StereoHasTwoTracesInTheOverviewAndOneInTheZoom) {
     const Utf8 chemin = dossier.ecrire("a.wav", wav(2, 16, sons));
     PointsOnde points;
     Bitmap8 vue = fondUni(1500, 1500, 1.0 / 15, BLANC);
-    DessinerOnde(vue, 0, demande(Vue::Picture1, chemin, 1500, 1500), points);
+    dessinerOnde(vue, 0, demande(Vue::Picture1, chemin, 1500, 1500), points);
     EXPECT_EQ(noirs(vue, 50), (std::pair{25, 59})); // 375 and 1125 - 20000 / 87
     EXPECT_EQ(vue.pixel(50, 40), 1);
     EXPECT_EQ(vue.pixel(99, 40), 0); // one line joins the rows at the right edge
 
     points.allouer(0);
     Bitmap8 zoom = fondUni(1500, 6000, 1.0 / 15, BLANC);
-    DessinerOnde(zoom, 0, demande(Vue::Pict_zoom, chemin, 1500, 6000), points);
+    dessinerOnde(zoom, 0, demande(Vue::Pict_zoom, chemin, 1500, 6000), points);
     EXPECT_EQ(noirs(zoom, 50), (std::pair{133, 133})); // 6000 / 3 / 4, brought from 1500 to 6000 high
 }
 
@@ -83,7 +83,7 @@ TEST(ImageOnde, APeakFillsItsColumnsAndNothingElse) {
     const Utf8 chemin = dossier.ecrire("a.wav", wav(1, 16, sons));
     PointsOnde points;
     Bitmap8 image = fondUni(3000, 1500, 2.0 / 15, BLANC); // a dense screen: 400 x 200
-    DessinerOnde(image, 0, demande(Vue::Picture1, chemin, 3000, 1500, 2.0 / 15), points);
+    dessinerOnde(image, 0, demande(Vue::Picture1, chemin, 3000, 1500, 2.0 / 15), points);
     std::set<int> hautes;
     for (int x = 0; x < 399; ++x)
         if (noirs(image, x).first < 99) hautes.insert(x);

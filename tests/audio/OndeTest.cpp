@@ -27,7 +27,7 @@ TEST(Onde, TheProbeTellsOfWhatItCannotOpen) {
 TEST(Onde, TheDataTagIsFoundInTheFirst255BytesOnly) {
     const DossierTemporaire dossier;
     const auto lieu = [&](const std::string& octets) {
-        return LocaliserDonnees(FichierOnde(dossier.ecrire("a.wav", octets)));
+        return localiserDonnees(FichierOnde(dossier.ecrire("a.wav", octets)));
     };
     const std::string sons(100, 'x');
     EXPECT_EQ(lieu(wav(1, 8, sons)), (LieuDonnees{100, 41}));
@@ -59,7 +59,7 @@ TEST(Onde, PointsAreReadByPositionAndKeepTheirValueBehindTheEnd) {
     const EnTeteWav entete = avecDefauts(sonderEnteteWav(chemin));
     PointsOnde points;
     points.points.assign(20, 7);
-    LirePoints(FichierOnde(chemin), entete, {}, 10, points); // every fourth sample
+    lirePoints(FichierOnde(chemin), entete, {}, 10, points); // every fourth sample
     for (std::size_t i = 0; i < 20; ++i)                     // the last of each channel is never read
         EXPECT_EQ(points.points[i], i % 10 == 9 ? 7
                                     : i < 10    ? 400 * int(i)
@@ -69,12 +69,12 @@ TEST(Onde, PointsAreReadByPositionAndKeepTheirValueBehindTheEnd) {
     const std::string octets = wav(2, 16, seize);
     const Utf8 coupe = dossier.ecrire("coupe.wav", octets.substr(0, octets.size() - 46));
     points.points.assign(20, 7);
-    LirePoints(FichierOnde(coupe), entete, {}, 10, points);
+    lirePoints(FichierOnde(coupe), entete, {}, 10, points);
     EXPECT_EQ(points.points[4], 1600);
     EXPECT_EQ(points.points[5], 7);
     EXPECT_EQ(points.points[14], 7); // its first byte alone is there
 
     const Utf8 huit = dossier.ecrire("b.wav", wav(1, 8, "abcdefghij"));
-    LirePoints(FichierOnde(huit), avecDefauts(sonderEnteteWav(huit)), {0.5, 0.5}, 5, points);
+    lirePoints(FichierOnde(huit), avecDefauts(sonderEnteteWav(huit)), {0.5, 0.5}, 5, points);
     EXPECT_EQ(std::string(points.octets.begin(), points.octets.begin() + 4), "fghi");
 }

@@ -38,13 +38,13 @@ const VueFrise VUE{.largeur = 3900, .defilement = 0, .hauteur = 2000};
 
 std::string frise(const Session& session, const VueFrise& vue, const std::vector<Utf8>& vues = {}) {
     Elements liste;
-    DisposerFrise(session, vue, vues, liste);
+    disposerFrise(session, vue, vues, liste);
     return decrire(liste);
 }
 
 std::string pistes(const Session& session) {
     Elements liste;
-    DisposerPistes(session, VUE, liste);
+    disposerPistes(session, VUE, liste);
     std::erase_if(liste, [](const Element& e) { return e.controle != Controle::Lblthm; });
     return decrire(liste);
 }
@@ -92,7 +92,7 @@ TEST(Frise, LignesEnVueEtTailleReelle) {
 std::string regle(float duree) {
     Session session = sessionDe({duree});
     session.corpus.TailleReelle = true;
-    const Dessin dessin = DisposerRegle(session, duree);
+    const Dessin dessin = disposerRegle(session, duree);
     std::string texte;
     for (const Trait& trait : dessin.traits)
         texte += std::to_string(std::lround(trait.x1 - 2600)) + (trait.couleur == 0x242424 ? "' " : " ");
@@ -109,7 +109,7 @@ TEST(Frise, Regle) {
     EXPECT_EQ(regle(360), "150' 300 360 300=05:00 ");
     EXPECT_EQ(regle(0.5F), "");
     EXPECT_LT(regle(1e30F).size(), 1000000U);
-    EXPECT_EQ(DisposerRegle(sessionDe({360}), 1000), Dessin{});
+    EXPECT_EQ(disposerRegle(sessionDe({360}), 1000), Dessin{});
 }
 
 TEST(Frise, DefilementEtZoom) {
@@ -169,7 +169,7 @@ TEST(Pistes, MarqueDerriereLeDernier) {
     Session session = sessionDe({100, 100, 0});
     session.corpus.extraits[1].lignes.resize(999, session.corpus.extraits[1].lignes[0]);
     Elements liste;
-    DisposerPistes(session, VUE, liste);
+    disposerPistes(session, VUE, liste);
     ASSERT_EQ(liste.size(), 999U + 1 + 1 + 3); // the interview of duration 0 has its play button only
     EXPECT_EQ(liste[999].tag + " " + liste[1000].tag, "1000 1");
     EXPECT_EQ(decrire({liste.back()}),
@@ -189,7 +189,7 @@ TEST(Panneaux, Thematiques) {
     Session session = sessionDe({1});
     session.corpus.ThmVisible[2] = 0;
     session.corpus.NbThm = 2;
-    Elements liste = DisposerThematiques(session, 900, 6000, Legende::Corpus);
+    Elements liste = disposerThematiques(session, 900, 6000, Legende::Corpus);
     for (Element& element : liste)
         element.bulle.clear();
     EXPECT_EQ(decrire(liste), "ImgCoul[1] 0,127.5 900x240\n"
@@ -198,7 +198,7 @@ TEST(Panneaux, Thematiques) {
                               "ImgCoul[2] 0,622.5 900x240\n"
                               "ShpCoul[2] 0,495 900x495 fond=808080\n"
                               "LblCoul[2] 0,525 900x495 \" Un\" tag=001 encre=000000\n");
-    const Elements saisie = DisposerThematiques(session, 900, 500, Legende::Saisie);
+    const Elements saisie = disposerThematiques(session, 900, 500, Legende::Saisie);
     EXPECT_EQ(decrire({saisie[3], saisie[4]}), "ImgCoul[2] 0,375 900x0 cache\n"
                                                "ShpCoul[2] 0,250 900x250 fond=FF0000\n");
 }
@@ -213,19 +213,19 @@ TEST(Panneaux, Interrupteurs) {
             texte += std::to_string(corpus.ThmVisible[i]);
         return texte;
     };
-    BasculerEntretien(corpus, 2);
+    basculerEntretien(corpus, 2);
     EXPECT_EQ(etat(), "101111");
-    EXPECT_FALSE(BasculerTousEntretiens(corpus));
+    EXPECT_FALSE(basculerTousEntretiens(corpus));
     EXPECT_EQ(etat(), "000111");
-    IsolerEntretien(corpus, 3);
+    isolerEntretien(corpus, 3);
     EXPECT_EQ(etat(), "001111");
-    EXPECT_TRUE(BasculerTousEntretiens(corpus)); // one active counts as none
-    BasculerThematique(corpus, 1);
+    EXPECT_TRUE(basculerTousEntretiens(corpus)); // one active counts as none
+    basculerThematique(corpus, 1);
     EXPECT_EQ(etat(), "111011");
-    EXPECT_TRUE(BasculerToutesThematiques(corpus)); // not all on: all on
-    EXPECT_FALSE(BasculerToutesThematiques(corpus));
+    EXPECT_TRUE(basculerToutesThematiques(corpus)); // not all on: all on
+    EXPECT_FALSE(basculerToutesThematiques(corpus));
     EXPECT_EQ(etat(), "111000");
-    IsolerThematique(corpus, 2);
+    isolerThematique(corpus, 2);
     EXPECT_EQ(etat(), "111010");
 }
 

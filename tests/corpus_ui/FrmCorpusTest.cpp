@@ -59,7 +59,7 @@ TEST_F(FrmCorpusTest, RowControlsLeadWhereTheySay) {
     clic(Controle::ImgPlay, 2);
     QTest::mouseClick(&rangees(), Qt::LeftButton, {}, rangee(Controle::lblfich, 1));
     QTest::mouseDClick(&rangees(), Qt::LeftButton, {}, rangee(Controle::lblfich, 3));
-    EXPECT_EQ(fenetres.journal(), (Lignes{"OuvrirEntretien 2 AvecFondu", "OuvrirEntretien 3 SansFondu"}));
+    EXPECT_EQ(fenetres.journal(), (Lignes{"ouvrirEntretien 2 AvecFondu", "ouvrirEntretien 3 SansFondu"}));
     clic(Controle::ImgEnt, 4);
     EXPECT_EQ(session.corpus.EntretienCourant, 4);
     clic(Controle::Lblthm, 3); // two bars a row, its mark of the empty row included: extract 1 of interview 2
@@ -116,7 +116,7 @@ TEST_F(FrmCorpusTest, KeysOnTheRows) {
     EXPECT_EQ(choix(), 2) << "a moved row stays chosen";
     touche(Qt::Key_Enter);
     EXPECT_EQ(fenetres.journal(),
-              (Lignes{"RedessinerPistes", "DeplacerEntretien 1 2", "OuvrirEntretien 2 AvecFondu"}));
+              (Lignes{"RedessinerPistes", "DeplacerEntretien 1 2", "ouvrirEntretien 2 AvecFondu"}));
 }
 
 TEST_F(GrandCorpusTest, OnlyTheRowsInViewAreLaidOutAndHitWhereverTheScrollStands) {
@@ -173,7 +173,7 @@ TEST_F(FrmCorpusTest, MenusButtonsAndKeysOfTheWindow) {
     EXPECT_TRUE(fenetre.isMinimized());
     QTest::mouseClick(croix, Qt::LeftButton, {}, {croix->width() - 4, 10});
     EXPECT_EQ(fenetres.journal(), (Lignes{"OuvrirMenu 1", "OuvrirMenu 2", "OuvrirMenu 5", "ImporterEntretien",
-                                          "BasculerTailleReelle redessiner", "finir"}));
+                                          "basculerTailleReelle redessiner", "finir"}));
 }
 
 } // namespace

@@ -43,8 +43,8 @@ TEST_F(FrmMenuTest, EachCommandThatIsThereLeadsWhereItSays) {
     for (int index : {3, 9, 10, 12})
         commande(Panneau::Entretiens, index);
     EXPECT_EQ(fenetres.journal(),
-              (Lignes{"NouveauCorpus", "OuvrirCorpus", "ImporterEntretien", "BasculerTailleReelle",
-                      "OuvrirEntretien 2 SansFondu", "RetirerEntretien"}));
+              (Lignes{"NouveauCorpus", "OuvrirCorpus", "ImporterEntretien", "basculerTailleReelle",
+                      "ouvrirEntretien 2 SansFondu", "retirerEntretien"}));
     session.corpus.EntretienCourant = 0;
     ouvrir(Panneau::Entretiens);
     EXPECT_FALSE(membre<QWidget>(fenetre, "lblmenu10")->isEnabled());
@@ -89,7 +89,7 @@ TEST_F(FrmMenuTest, VolumeSlider) {
     QTest::mouseMove(glissiere, prise + QPoint(0, 500));
     QTest::mouseRelease(glissiere, Qt::LeftButton, {}, prise);
     QTest::keyClick(glissiere, Qt::Key_Up);
-    EXPECT_EQ(fenetres.journal(), (Lignes{"ReglerVolume 0", "ReglerVolume 5"}));
+    EXPECT_EQ(fenetres.journal(), (Lignes{"reglerVolume 0", "reglerVolume 5"}));
 }
 
 } // namespace

@@ -117,7 +117,7 @@ TEST_F(Parcours, TrueSizesApplyWithTheNextRedraw) {
         return 0.0;
     };
     const Twips pleine = largeur();
-    app.BasculerTailleReelle(false);
+    app.basculerTailleReelle(false);
     rangees().grab();
     EXPECT_EQ(largeur(), pleine);
     app.RedessinerFrise();
@@ -131,14 +131,14 @@ TEST_F(Parcours, AnInterviewOpenedAfterARestIsAsMuchInUse) {
         return std::any_of(fenetres.begin(), fenetres.end(),
                            [](QWidget* f) { return f->objectName() == QLatin1String("FrmVisu"); });
     }));
-    app.OuvrirEntretien(1, Ouverture::SansFondu);
+    app.ouvrirEntretien(1, Ouverture::SansFondu);
     EXPECT_FALSE(forme("FrmCorpus").isEnabled());
     EXPECT_TRUE(membre<QWidget>(forme("FrmVisu"), "ImgMedia2")->isEnabled());
 }
 
 TEST_F(Parcours, AnExtractMarkedAndTypedIsOnTheTimelineAfterTheClosing) {
     ouvrirCorpus();
-    app.OuvrirEntretien(1, Ouverture::SansFondu);
+    app.ouvrirEntretien(1, Ouverture::SansFondu);
     auto& visu = dynamic_cast<FrmVisu&>(forme("FrmVisu"));
     auto* touches = membre<QWidget>(visu, "TxtCtrl");
     hote.media.currentPosition(2); // within its neighbour: nobody asks
@@ -159,7 +159,7 @@ TEST_F(Parcours, AnExtractMarkedAndTypedIsOnTheTimelineAfterTheClosing) {
 
 TEST_F(Parcours, NothingOpensOverATextThatIsBeingTyped) {
     ouvrirCorpus();
-    app.OuvrirEntretien(1, Ouverture::SansFondu);
+    app.ouvrirEntretien(1, Ouverture::SansFondu);
     auto* touches = membre<QWidget>(forme("FrmVisu"), "TxtCtrl");
     const auto marquer = [&](double debut, double fin) {
         for (const double temps : {debut, fin}) {
@@ -206,7 +206,7 @@ TEST_F(Parcours, FaultsInSingleTranscriptsAreEachToldOnceAndTheCorpusOpens) {
     ouvrirCorpus();
     EXPECT_EQ(noms(), "a b ");
     EXPECT_EQ(extraits(2), 999);
-    app.BasculerTailleReelle(true); // a redraw says nothing anew
+    app.basculerTailleReelle(true); // a redraw says nothing anew
     EXPECT_EQ(hote.dossier.lire("c/b.Rtr"), mille);
 }
 
@@ -219,7 +219,7 @@ TEST_F(Parcours, AnOpeningThatFailsLeavesTheWindowEmptied) {
     EXPECT_EQ(noms(), "");
     QTest::mouseClick(&rangees(), Qt::LeftButton, {}, {200, 60});
     QTest::keyClick(&rangees(), Qt::Key_Down);
-    app.RetirerEntretien();
+    app.retirerEntretien();
     forme("FrmCorpus").grab();
     EXPECT_EQ(hote.dossier.lire("c/E.Crp"), std::string(TETE) + "a.wav\r\nb.wav\r\n>|ENTR|\r\n");
 }
@@ -239,7 +239,7 @@ TEST_F(Parcours, ARecordingThatCantBeReadLeavesTheCorpusWindowInUse) {
     ouvrirCorpus();
     std::filesystem::remove(hote.dossier.chemin("c/a.wav"));
     std::filesystem::create_directory(hote.dossier.chemin("c/a.wav"));
-    EXPECT_THROW(app.OuvrirEntretien(1, Ouverture::SansFondu), FauteExecution);
+    EXPECT_THROW(app.ouvrirEntretien(1, Ouverture::SansFondu), FauteExecution);
     EXPECT_FALSE(app.visible(Fenetre::FrmVisu));
     EXPECT_TRUE(forme("FrmCorpus").isEnabled());
 }
@@ -249,7 +249,7 @@ TEST_F(Parcours, WhatIsBeingTypedHoldsTheInterviewOpenAndItsTranscriptKeepsItsDu
     hote.media.durees["a.wav"] = 60;
     hote.dialogues.repondre(Reponse::Ok, "introuvable").repondre(Reponse::Ok, "Un problème est survenu");
     ouvrirCorpus();
-    app.OuvrirEntretien(1, Ouverture::SansFondu);
+    app.ouvrirEntretien(1, Ouverture::SansFondu);
     session.transcription.SaisieFin = 2;
     session.transcription.NouvelExtrait = true;
     app.PreparerSaisie();

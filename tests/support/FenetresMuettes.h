@@ -8,7 +8,7 @@
 namespace vermo::essai {
 
 /// Notes what windows ask of each other, and does nothing of it but keep what is shown. One line a request:
-/// "montrer FrmVisu", "OuvrirEntretien 3 SansFondu", "OuvrirMenu 5".
+/// "montrer FrmVisu", "ouvrirEntretien 3 SansFondu", "OuvrirMenu 5".
 class FenetresMuettes : public Fenetres {
   public:
     const std::vector<std::string>& journal() const { return journal_; }
@@ -23,18 +23,18 @@ class FenetresMuettes : public Fenetres {
     void NouveauCorpus() override { noter("NouveauCorpus"); }
     void OuvrirCorpus() override { noter("OuvrirCorpus"); }
     void ImporterEntretien() override { noter("ImporterEntretien"); }
-    void OuvrirEntretien(int slot, Ouverture o) override {
-        noter("OuvrirEntretien " + std::to_string(slot) +
+    void ouvrirEntretien(int slot, Ouverture o) override {
+        noter("ouvrirEntretien " + std::to_string(slot) +
               (o == Ouverture::AvecFondu ? " AvecFondu" : " SansFondu"));
     }
-    void RetirerEntretien() override { noter("RetirerEntretien"); }
+    void retirerEntretien() override { noter("retirerEntretien"); }
     void DeplacerEntretien(int source, int cible) override {
         noter("DeplacerEntretien " + std::to_string(source) + " " + std::to_string(cible));
     }
-    void BasculerTailleReelle(bool redessiner) override {
-        noter(redessiner ? "BasculerTailleReelle redessiner" : "BasculerTailleReelle");
+    void basculerTailleReelle(bool redessiner) override {
+        noter(redessiner ? "basculerTailleReelle redessiner" : "basculerTailleReelle");
     }
-    void ReglerVolume(int part) override { noter("ReglerVolume " + std::to_string(part)); }
+    void reglerVolume(int part) override { noter("reglerVolume " + std::to_string(part)); }
     void OuvrirMenu(Panneau p, Rectangle) override {
         noter("OuvrirMenu " + std::to_string(static_cast<int>(p)));
     }

@@ -60,7 +60,9 @@ struct PlateformeDeTest {
     LanceurSimule lanceur;
     EcranFixe ecran;
     ProgressionMuette progression;
-    Plateforme plateforme{dialogues, media, horloge, lanceur, ecran, progression, emplacements(dossier)};
+    Annonces annonces;
+    Plateforme plateforme{dialogues, media,       horloge,  lanceur,
+                          ecran,     progression, annonces, emplacements(dossier)};
 
     operator Plateforme&() { return plateforme; }
 

@@ -39,9 +39,9 @@ std::string cadres(const Elements& elements, std::initializer_list<Controle> con
 TEST(DisposerPiste, PlacesCouleursEtBulles) {
     EntretienOuvert e("100\r\n::10.00::002\r\n::30.00::\r\n::60.00::777\r\n::50.00::\r\n");
     e.thematiques({"001", "002", "003"});
-    EXPECT_TRUE(DisposerPiste(e.session, 15000).empty());
+    EXPECT_TRUE(disposerPiste(e.session, 15000).empty());
     zoom(e.session, 0, 100);
-    const Elements piste = DisposerPiste(e.session, 15000);
+    const Elements piste = disposerPiste(e.session, 15000);
     EXPECT_EQ(cadres(piste, {Controle::ShpXtr, Controle::ShpXtrInt}),
               "ShpXtr[1] 1500,60 3000x210 tag=1\nShpXtrInt[1] 1515,60 3000x210 tag=1\n"
               "ShpXtr[2] 7500,60 1500x210 tag=2\nShpXtrInt[2] 7515,60 1500x210 tag=2\n");
@@ -64,7 +64,7 @@ TEST(DisposerBulles, MontreCeQueLaPlageToucheVraiment) {
         zoom(e.session, 10, 20);
         e.session.transcription.ExtraitDebut[1] = debut;
         e.session.transcription.ExtraitFin[1] = fin;
-        EXPECT_EQ(!DisposerBulles(e.session, 9000, 6000, metriquesFixes).empty(), vu) << debut << " " << fin;
+        EXPECT_EQ(!disposerBulles(e.session, 9000, 6000, metriquesFixes).empty(), vu) << debut << " " << fin;
     }
 }
 
@@ -72,7 +72,7 @@ TEST(DisposerBulles, PiecesDUneBulle) {
     EntretienOuvert e("100\r\n::5.00::001\r\n::6.00::\r\n::20.00::002\r\nun deux\r\n::30.00::\r\n");
     e.thematiques({"001", "002"});
     zoom(e.session, 10, 60);
-    const Elements bulles = DisposerBulles(e.session, 15000, 6000, metriquesFixes);
+    const Elements bulles = disposerBulles(e.session, 15000, 6000, metriquesFixes);
     EXPECT_EQ(cadres(bulles, {Controle::ImgBulleBlanche, Controle::ImgBulleInt, Controle::ImgBulleBas}),
               "ImgBulleBlanche[1] 3000,120 180x180 tag=2\nImgBulleInt[1] 3000,120 105x5880 tag=2\n"
               "ImgBulleBas[1] 3000,4825 180x180 tag=2\nImgBulleBlanche[2] 3170,120 2640x180 tag=2\n"
@@ -97,7 +97,7 @@ TEST(DisposerBulles, BulleEtroiteBulleDebordanteEtCodeInconnu) {
                       [](PlateformeDeTest& hote) { hote.dialogues.repondre(Reponse::Ok, "« fin »"); });
     e.thematiques({"001", "002"});
     zoom(e.session, 10, 20);
-    const Elements bulles = DisposerBulles(e.session, 9000, 6000, metriquesFixes);
+    const Elements bulles = disposerBulles(e.session, 9000, 6000, metriquesFixes);
     const auto blanches = tous(bulles, Controle::ImgBulleBlanche);
     ASSERT_EQ(blanches.size(), 8U);
     EXPECT_EQ(blanches[1]->cadre.largeur, 15);

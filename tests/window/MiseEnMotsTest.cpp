@@ -32,7 +32,7 @@ class DispositionDesMots : public testing::TestWithParam<CasMots> {};
 
 TEST_P(DispositionDesMots, UneColonne) {
     const ReglagesMots reglages{.LargeurTexte = 1740, .PasListe = 195};
-    EXPECT_EQ(decrire(DisposerMots(GetParam().texte, reglages, essai::metriquesFixes)), GetParam().attendu);
+    EXPECT_EQ(decrire(disposerMots(GetParam().texte, reglages, essai::metriquesFixes)), GetParam().attendu);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -62,7 +62,7 @@ TEST(MiseEnMots, ColonnesAPartirDeDixLignes) {
         for (int n = 0; n < cas.lignes; ++n)
             texte += "a\r";
         const ReglagesMots reglages{.LargeurTexte = 40000, .ColonnesTexte = cas.colonnes, .PasListe = 195};
-        const MotsDisposes disposes = DisposerMots(texte, reglages, essai::metriquesFixes);
+        const MotsDisposes disposes = disposerMots(texte, reglages, essai::metriquesFixes);
         EXPECT_EQ(disposes.lignesParColonne, cas.parColonne) << cas.lignes << " lines, " << cas.colonnes;
     }
 }
@@ -73,7 +73,7 @@ TEST(MiseEnMots, LaSecondeColonneCommenceASaLargeur) {
         texte += Texte{c} + " x\r";
     const ReglagesMots reglages{
         .depart = 5000, .haut = 300, .LargeurTexte = 6000, .ColonnesTexte = 2, .PasListe = 195};
-    const MotsDisposes disposes = DisposerMots(texte, reglages, essai::metriquesFixes);
+    const MotsDisposes disposes = disposerMots(texte, reglages, essai::metriquesFixes);
     const Mot &finColonne = disposes.mots[11], &second = disposes.mots[12];
     EXPECT_EQ((std::vector{finColonne.gauche, finColonne.haut}), (std::vector<Twips>{5230, 300 + 5 * 195}));
     EXPECT_EQ((std::vector{second.gauche, second.haut}), (std::vector<Twips>{8000, 300}));

@@ -64,7 +64,7 @@ void FrmVisu::creerControles() {
     Pict_zoom_ = creerToile("Pict_zoom", "Zoom de l'enregistrement", rvb(45, 44, 45), Frm_zoom_);
     Pict_tpsZ_ = creerToile("Pict_tpsZ", "Secondes du zoom", theme::REGLE, this);
     PictVol_ = creerToile("PictVol", "Volume sonore", theme::PANNEAU, this);
-    PictVol_->setToolTip(tr("Volume sonore (F4)"));
+    PictVol_->setToolTip(QStringLiteral("Volume sonore (F4)"));
 
     lblfich_ = creerEtiquette("lblfich", CORPS_FICHIER, false, theme::TEXTE, this);
     LblCompteur_ = creerEtiquette("LblCompteur", 14, true, theme::TEXTE, this);
@@ -78,7 +78,7 @@ void FrmVisu::creerControles() {
 
     TxtCtrl_ = new QLineEdit(this);
     TxtCtrl_->setObjectName(QStringLiteral("TxtCtrl"));
-    TxtCtrl_->setAccessibleName(tr("Commandes de l'entretien"));
+    TxtCtrl_->setAccessibleName(QStringLiteral("Commandes de l'entretien"));
     TxtCtrl_->setAttribute(Qt::WA_InputMethodEnabled, false);
     TxtCtrl_->setFrame(false);
     TxtCtrl_->installEventFilter(this);
@@ -106,7 +106,7 @@ void FrmVisu::creerBoutons() {
     ImgCorpus_ = creerBouton("ImgCorpus", "RetourCorpus", "Revenir au corpus (Alt + Origine)",
                              &FrmVisu::retournerAuCorpus);
     ImgCroix_ = new BoutonImage(QStringLiteral("ImgCroix"), QStringLiteral("Croix"),
-                                tr("Fermer l'entretien (Échap)"), this);
+                                QStringLiteral("Fermer l'entretien (Échap)"), this);
     connect(ImgCroix_, &QAbstractButton::pressed, this, [this] { garder([this] { fermer(); }); });
 
     for (const auto& [bouton, timer] :
@@ -220,7 +220,7 @@ bool FrmVisu::OuvrirEntretienVue(Ouverture ouverture) {
 
     session_.audio.MarqueDebut = 0;
     session_.transcription.signalement.clear();
-    Pict_tps_->dessin(DessinerRegleMinutes(session_.audio.DureeFichier, Picture1_->largeurTwips()));
+    Pict_tps_->dessin(dessinerRegleMinutes(session_.audio.DureeFichier, Picture1_->largeurTwips()));
     remplirVue();
     DessinerZoom();
     if (!media.enLecture()) media.play();

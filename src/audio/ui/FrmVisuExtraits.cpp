@@ -66,13 +66,13 @@ void FrmVisu::AfficherExtraits() {
 
     Elements piste{forme(Controle::Shp_visu, {0, 0, 0, hVue}, theme::ACCENT, true),
                    gardee(*Picture1_, Controle::TotalSelect, CURSEUR, hVue)};
-    Elements barres = DisposerPiste(session_, W);
+    Elements barres = disposerPiste(session_, W);
     piste.insert(piste.end(), barres.begin(), barres.end());
     Element curseur = forme(Controle::Curseur, {0, 0, TWIPS_PAR_PIXEL, hVue}, rvb(220, 40, 40), true);
     if (const Element* avant = Picture1_->modifiable(Controle::Curseur)) curseur.cadre = avant->cadre;
     piste.push_back(curseur);
 
-    Elements bulles = DisposerBulles(session_, Z, hZoom, metriques_, BULLE);
+    Elements bulles = disposerBulles(session_, Z, hZoom, metriques_, BULLE);
     habillerBulles(bulles);
     bulles.push_back(gardee(*Pict_zoom_, Controle::ZoomSelect, CURSEUR, hZoom));
     bulles.push_back(gardee(*Pict_zoom_, Controle::shp_curseur_zoom, theme::ACCENT, hZoom));

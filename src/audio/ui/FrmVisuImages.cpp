@@ -53,7 +53,7 @@ void FrmVisu::DessinerVueEtCache(const Utf8& cache) {
     const Twips largeur = Picture1_->largeurTwips();
     PointsVue_.allouer(static_cast<std::size_t>(2 * largeur) + 1);
     Bitmap8 image = fondUni(largeur, HAUTEUR_PICTURE1, densite(), theme::ONDE);
-    session_.audio.EnteteWav = DessinerOnde(image, 0,
+    session_.audio.EnteteWav = dessinerOnde(image, 0,
                                             {.vue = Vue::Picture1,
                                              .fichier = plateforme_.media.URL(),
                                              .empan = {},
@@ -73,7 +73,7 @@ void FrmVisu::dessinerRegleEnVue(const Utf8& cache) {
     image.fill(couleurQt(theme::ONDE));
     QPainter peintre(&image);
     peindreDessin(peintre,
-                  DessinerRegleMinutes(session_.audio.DureeFichier, Picture1_->largeurTwips(),
+                  dessinerRegleMinutes(session_.audio.DureeFichier, Picture1_->largeurTwips(),
                                        nom.substr(nom.size() - std::min<std::size_t>(nom.size(), 3))));
     peintre.end();
     Picture1_->image(image);
@@ -94,7 +94,7 @@ QImage FrmVisu::ondeZoom() {
     PointsZoom_.allouer(static_cast<std::size_t>(2 * largeur) + 1);
     try {
         session_.audio.EnteteWav =
-            DessinerOnde(image, 0,
+            dessinerOnde(image, 0,
                          {.vue = Vue::Pict_zoom,
                           .fichier = plateforme_.media.URL(),
                           .empan = {.debut = audio.DebutZoom == 0 ? 0 : audio.DebutZoom / audio.DureeFichier,
@@ -116,7 +116,7 @@ void FrmVisu::DessinerZoom() {
     cacherSelections();
     const EtatAudio& audio = session_.audio;
     Pict_zoom_->image(ondeZoom());
-    Pict_tpsZ_->dessin(DessinerRegleSecondes(audio.DebutZoom, audio.DureeZoom, Pict_zoom_->largeurTwips()));
+    Pict_tpsZ_->dessin(dessinerRegleSecondes(audio.DebutZoom, audio.DureeZoom, Pict_zoom_->largeurTwips()));
     garder([this] { LireRetranscription(session_, plateforme_); });
     AfficherExtraits();
     plateforme_.ecran.pointeur(Pointeur::Normal);

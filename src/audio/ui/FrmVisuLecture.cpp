@@ -36,9 +36,10 @@ void FrmVisu::direEtatSon() {
     const QString texte =
         !erreur.empty() ? utf8VersQt(erreur)
         : media.muet()
-            ? tr("Pas de sortie son : la lecture est silencieuse")
-            : tr("Espace : lecture, pause    ← → : déplacer    + - : zoom    Entrée : marquer un extrait    "
-                 "F2 : ouvrir l'extrait    Échap : fermer");
+            ? QStringLiteral("Pas de sortie son : la lecture est silencieuse")
+            : QStringLiteral(
+                  "Espace : lecture, pause    ← → : déplacer    + - : zoom    Entrée : marquer un extrait    "
+                  "F2 : ouvrir l'extrait    Échap : fermer");
     if (texte == lblEtat_->text()) return;
     QPalette palette = lblEtat_->palette();
     palette.setColor(QPalette::WindowText, couleurQt(alerte ? rvb(255, 196, 110) : theme::TEXTE_DISCRET));

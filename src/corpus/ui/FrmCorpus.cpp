@@ -18,7 +18,7 @@ namespace vermo {
 void FrmCorpus::RedessinerFrise() {
     Imgbtn_[3]->icone(session_.corpus.TailleReelle ? QStringLiteral("Taille1") : QStringLiteral("Taille0"));
     lblCaption1_->setText(utf8VersQt(session_.corpus.CheminCorpus));
-    Dessin regle = DisposerRegle(session_, largeurBarre(Frm_entretiens_->vue()));
+    Dessin regle = disposerRegle(session_, largeurBarre(Frm_entretiens_->vue()));
     PictTps_->setVisible(!regle.inscriptions.empty());
     PictTps_->dessin({.traits = {}, .inscriptions = std::move(regle.inscriptions)});
     Frm_entretiens_->dessin({.traits = std::move(regle.traits), .inscriptions = {}});
@@ -83,13 +83,13 @@ void FrmCorpus::montrerInvite() {
 }
 
 void FrmCorpus::basculerEntretiens() {
-    const bool tous = BasculerTousEntretiens(session_.corpus);
+    const bool tous = basculerTousEntretiens(session_.corpus);
     ImgOnOffent_->icone(tous ? QStringLiteral("ImgOn") : QStringLiteral("ImgOff"));
     fenetres_.RedessinerPistes();
 }
 
 void FrmCorpus::basculerThematiques() {
-    const bool toutes = BasculerToutesThematiques(session_.corpus);
+    const bool toutes = basculerToutesThematiques(session_.corpus);
     ImgOnOffthm_->icone(toutes ? QStringLiteral("ImgOn") : QStringLiteral("ImgOff"));
     fenetres_.RedessinerPistes();
 }
@@ -120,7 +120,7 @@ void FrmCorpus::zoomer(float hauteur) {
 void FrmCorpus::tailleReelle() {
     plateforme_.ecran.pointeur(Pointeur::Sablier);
     surface(false);
-    garder([this] { fenetres_.BasculerTailleReelle(true); });
+    garder([this] { fenetres_.basculerTailleReelle(true); });
     surface(true);
     plateforme_.ecran.pointeur(Pointeur::Normal);
 }

@@ -182,7 +182,7 @@ void FrmCorpus::construirePanneaux() {
 }
 
 void FrmCorpus::placerControles() {
-    disposition_ = DisposerFenetreCorpus(enTwips(width()), enTwips(height()), session_.corpus.TriAPlat);
+    disposition_ = disposerFenetreCorpus(enTwips(width()), enTwips(height()), session_.corpus.TriAPlat);
     const DispositionCorpus& d = disposition_;
     poser(ImgTop_, d.ImgTop);
     poser(ImgCroix_, d.ImgCroix);

@@ -27,14 +27,14 @@ void ouvrirParDialogue(Session& session, Fenetres& fenetres) {
 }
 void lire(Session& session, Fenetres& fenetres) {
     if (session.corpus.EntretienCourant != 0)
-        fenetres.OuvrirEntretien(session.corpus.EntretienCourant, Ouverture::SansFondu);
+        fenetres.ouvrirEntretien(session.corpus.EntretienCourant, Ouverture::SansFondu);
 }
 void retirer(Session& session, Fenetres& fenetres) {
-    if (session.corpus.EntretienCourant != 0) fenetres.RetirerEntretien();
+    if (session.corpus.EntretienCourant != 0) fenetres.retirerEntretien();
 }
 
 void basculer(Session& session, Fenetres& fenetres) {
-    BasculerEntretien(session.corpus, session.corpus.EntretienCourant);
+    basculerEntretien(session.corpus, session.corpus.EntretienCourant);
     fenetres.RedessinerPistes();
 }
 
@@ -50,7 +50,7 @@ constexpr Commande COMMANDES[] = {
     {7, "Importer les thématiques d'un autre corpus"},
     {8, "Afficher/Masquer le tri à plat"},
     {9, "Représenter la taille réelle des entretiens",
-     [](Session&, Fenetres& f) { f.BasculerTailleReelle(false); }},
+     [](Session&, Fenetres& f) { f.basculerTailleReelle(false); }},
     {10, "         Lire", lire},
     {11, "         Informations"},
     {12, "         Supprimer", retirer},
@@ -185,7 +185,7 @@ void FrmMenu::ajouterVolume(QVBoxLayout* colonne) {
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->addWidget(LblVol_);
     connect(LblVol_, &QSlider::valueChanged, this,
-            [this](int part) { garder([this, part] { fenetres_.ReglerVolume(part); }); });
+            [this](int part) { garder([this, part] { fenetres_.reglerVolume(part); }); });
 }
 
 /// The recent corpora change with each opening, so the list is read each time the panel shows.

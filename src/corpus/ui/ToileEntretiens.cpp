@@ -76,8 +76,8 @@ void ToileEntretiens::disposerEntre(Elements& liste, Twips haut, Twips bas) cons
     liste.clear();
     if (vide_) return;
     ajouterSurlignage(liste);
-    DisposerFrise(session_, bande, vues_, liste);
-    DisposerPistes(session_, bande, liste);
+    disposerFrise(session_, bande, vues_, liste);
+    disposerPistes(session_, bande, liste);
     ajouterInsertion(liste);
 }
 

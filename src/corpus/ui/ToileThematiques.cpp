@@ -26,7 +26,7 @@ ToileThematiques::ToileThematiques(Session& session, Fenetres& fenetres, QWidget
 }
 
 void ToileThematiques::disposer() {
-    Elements liste = DisposerThematiques(session_, largeurTwips(), hauteurTwips(), Legende::Corpus);
+    Elements liste = disposerThematiques(session_, largeurTwips(), hauteurTwips(), Legende::Corpus);
     const auto choisie = std::find_if(liste.begin(), liste.end(), [this](const Element& e) {
         return e.controle == Controle::LblCoul && e.index == rang_;
     });
@@ -43,7 +43,7 @@ void ToileThematiques::disposer() {
 
 void ToileThematiques::basculer(int rang, bool seule) {
     rang_ = rang;
-    seule ? IsolerThematique(session_.corpus, rang) : BasculerThematique(session_.corpus, rang);
+    seule ? isolerThematique(session_.corpus, rang) : basculerThematique(session_.corpus, rang);
     if (surBascule) surBascule();
     fenetres_.RedessinerPistes();
 }

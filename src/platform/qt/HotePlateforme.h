@@ -15,8 +15,9 @@ class HotePlateforme {
   public:
     /// `sortieAudio` as for LecteurDiffere.
     explicit HotePlateforme(std::string sortieAudio = {})
-        : lecteur_(std::move(sortieAudio)), plateforme_{dialogues_, lecteur_,     horloge_,        lanceur_,
-                                                        ecran_,     progression_, emplacementsQt()} {}
+        : lecteur_(std::move(sortieAudio)), plateforme_{dialogues_, lecteur_,        horloge_,
+                                                        lanceur_,   ecran_,          progression_,
+                                                        annonces_,  emplacementsQt()} {}
     HotePlateforme(const HotePlateforme&) = delete;
     HotePlateforme& operator=(const HotePlateforme&) = delete;
 
@@ -31,6 +32,7 @@ class HotePlateforme {
     LanceurQt lanceur_;
     EcranQt ecran_;
     ProgressionQt progression_;
+    Annonces annonces_;
     Plateforme plateforme_;
 };
 

@@ -54,10 +54,10 @@ QList<Refus> refusDuDocument(const QTextDocument& document) {
 
 EditeurRtr::EditeurRtr(QWidget* parent) : QPlainTextEdit(parent) {
     setObjectName(QStringLiteral("TextRtr"));
-    setAccessibleName(tr("Transcription de l'extrait"));
+    setAccessibleName(QStringLiteral("Transcription de l'extrait"));
     setFont(theme::police(11));
     setTabChangesFocus(true);
-    setPlaceholderText(tr("Saisissez ici ce qui est dit…"));
+    setPlaceholderText(QStringLiteral("Saisissez ici ce qui est dit…"));
     connect(this, &QPlainTextEdit::textChanged, this, &EditeurRtr::marquer);
 }
 
@@ -79,7 +79,7 @@ QStringList EditeurRtr::refuses() const {
     QStringList liste;
     for (const Refus& refus : refusDuDocument(*document())) {
         const QTextBlock bloc = document()->findBlock(refus.position);
-        liste.append(tr("« %1 » (ligne %2, caractère %3)")
+        liste.append(QStringLiteral("« %1 » (ligne %2, caractère %3)")
                          .arg(refus.caractere)
                          .arg(bloc.blockNumber() + 1)
                          .arg(refus.position - bloc.position() + 1));

@@ -19,9 +19,9 @@ namespace t = tailles_saisie;
 
 FrmSaisie::FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent)
     : Forme("FrmSaisie", session, plateforme, fenetres, parent) {
-    setWindowTitle(tr("Vermo - Saisie d'un extrait"));
+    setWindowTitle(QStringLiteral("Vermo - Saisie d'un extrait"));
     Picture1_ = new Toile(QStringLiteral("Picture1"), this);
-    Picture1_->setAccessibleName(tr("Fenêtre de saisie"));
+    Picture1_->setAccessibleName(QStringLiteral("Fenêtre de saisie"));
     Picture1_->fond(theme::PANNEAU);
     poser(Picture1_, {0, 0, t::LARGEUR_NOUVEL_EXTRAIT, t::HAUTEUR});
     deplacerPar(Picture1_);
@@ -50,43 +50,43 @@ void FrmSaisie::creerEntete() {
     etq_fin_sel_ = etiquette("etq_fin_sel", t::ETQ_FIN_SEL, Qt::AlignRight);
     etiquette("lblfich", t::FICHIER, Qt::AlignHCenter);
     etat_ = etiquette("etat", t::ETAT, Qt::AlignHCenter);
-    etat_->setStyleSheet(QStringLiteral("color: rgb(255,150,140)"));
+    theme::habiller(etat_);
     const auto fermer = [this](const char* nom, const QString& icone, const QString& bulle,
                                const Rectangle& cadre) {
         auto* bouton = new BoutonImage(QLatin1String(nom), icone, bulle, this);
         poser(bouton, cadre);
         return bouton;
     };
-    connect(fermer("lbl_fermer0", QStringLiteral("Fermer"), tr("Quitter sans enregistrer (Échap)"),
-                   t::LBL_FERMER_0),
+    connect(fermer("lbl_fermer0", QStringLiteral("Fermer"),
+                   QStringLiteral("Quitter sans enregistrer (Échap)"), t::LBL_FERMER_0),
             &BoutonImage::clicked, this, [this] { garder([this] { FermerSaisie(); }); });
-    connect(fermer("lbl_fermer1", QStringLiteral("Plier"), tr("Replier le volet des thématiques"),
+    connect(fermer("lbl_fermer1", QStringLiteral("Plier"), QStringLiteral("Replier le volet des thématiques"),
                    t::LBL_FERMER_1),
             &BoutonImage::clicked, this, [this] { placerLargeur(false); });
 }
 
 void FrmSaisie::creerTexte() {
     lbl_thm_ = new Lien(QStringLiteral("lbl_thm"), QString(), this, 11);
-    lbl_thm_->setToolTip(tr("Choisir la thématique de l'extrait"));
+    lbl_thm_->setToolTip(QStringLiteral("Choisir la thématique de l'extrait"));
     poser(lbl_thm_, t::LBL_THM);
     connect(lbl_thm_, &Lien::clicked, this, [this] { placerLargeur(true); });
     TextRtr_ = new EditeurRtr(this);
-    TextRtr_->setStyleSheet(
-        QStringLiteral("background: rgb(64,64,64); color: white; border: none; padding: 4px"));
+    theme::habiller(TextRtr_);
     poser(TextRtr_, t::TEXTRTR);
     TextRtr_->installEventFilter(this);
     connect(TextRtr_, &EditeurRtr::refusesChanges, this, [this](int nombre) {
-        etat_->setText(nombre == 0
-                           ? QString()
-                           : tr("Caractères impossibles à enregistrer, marqués en rouge : %1").arg(nombre));
+        etat_->setText(
+            nombre == 0
+                ? QString()
+                : QStringLiteral("Caractères impossibles à enregistrer, marqués en rouge : %1").arg(nombre));
     });
     Imgsuppr_ = new BoutonImage(QStringLiteral("Imgsuppr"), QStringLiteral("Supprimer"),
-                                tr("Supprimer l'extrait"), this);
+                                QStringLiteral("Supprimer l'extrait"), this);
     Imgsuppr_->iconePressee(QStringLiteral("SupprimerPresse"));
     poser(Imgsuppr_, t::IMGSUPPR);
     connect(Imgsuppr_, &BoutonImage::clicked, this, [this] { garder([this] { supprimer(); }); });
     Imgbtn0_ = new BoutonImage(QStringLiteral("Imgbtn0"), QStringLiteral("Valider"),
-                               tr("Valider l'extrait (Ctrl + Entrée)"), this);
+                               QStringLiteral("Valider l'extrait (Ctrl + Entrée)"), this);
     Imgbtn0_->iconePressee(QStringLiteral("ValiderPresse"));
     poser(Imgbtn0_, t::IMGBTN_0);
     connect(Imgbtn0_, &BoutonImage::clicked, this, [this] { garder([this] { valider(); }); });
@@ -279,8 +279,8 @@ bool FrmSaisie::texteValide(Texte& texte) {
     const QString liste = refuses.mid(0, 10).join(QStringLiteral("\n")) +
                           (refuses.size() > 10 ? QStringLiteral("\n…") : QString());
     plateforme_.dialogues.demander(
-        {.texte = utf8DepuisQt(tr("Ces caractères ne peuvent pas être enregistrés :\n%1\n"
-                                  "Rien n'est perdu : remplacez-les, puis validez.")
+        {.texte = utf8DepuisQt(QStringLiteral("Ces caractères ne peuvent pas être enregistrés :\n%1\n"
+                                              "Rien n'est perdu : remplacez-les, puis validez.")
                                    .arg(liste)),
          .icone = Icone::Exclamation});
     return false;

@@ -15,7 +15,7 @@ namespace t = tailles_saisie;
 
 void FrmSaisie::creerEcoute() {
     Pict_saisie_ = new Toile(QStringLiteral("Pict_saisie"), this);
-    Pict_saisie_->setAccessibleName(tr("Forme d'onde de l'extrait"));
+    Pict_saisie_->setAccessibleName(QStringLiteral("Forme d'onde de l'extrait"));
     Pict_saisie_->fond(theme::ONDE);
     poser(Pict_saisie_, t::PICT_SAISIE);
     Pict_saisie_->surPression = [this](const Souris& souris) { ondePressee(souris); };
@@ -23,7 +23,7 @@ void FrmSaisie::creerEcoute() {
     Pict_saisie_->surRelachement = [this](const Souris& souris) { ondeRelachee(souris); };
 
     ImgMedia_ = new BoutonImage(QStringLiteral("ImgMedia1"), QStringLiteral("Pause"),
-                                tr("Lire ou arrêter (Alt + Espace)"), this);
+                                QStringLiteral("Lire ou arrêter (Alt + Espace)"), this);
     poser(ImgMedia_, t::IMGMEDIA);
     connect(ImgMedia_, &BoutonImage::clicked, this, [this] { garder([this] { basculerLecture(); }); });
     LblTip_ = new QLabel(QStringLiteral("[Alt + Espace]"), this);
@@ -37,7 +37,7 @@ void FrmSaisie::creerEcoute() {
     const char* const icones[] = {"Allonger", "ArreterAllonger"};
     for (std::size_t i = 0; i < 2; ++i) {
         ImgPlus_[i] = new BoutonImage(QStringLiteral("ImgPlus%1").arg(i), QLatin1String(icones[i]),
-                                      tr(bulles[i]), this);
+                                      QString::fromUtf8(bulles[i]), this);
         poser(ImgPlus_[i], t::IMGPLUS);
         connect(ImgPlus_[i], &BoutonImage::clicked, this,
                 [this, i] { garder([this, i] { i == 0 ? allonger() : finirAllongement(); }); });
@@ -127,15 +127,15 @@ void FrmSaisie::dessinerOnde() {
     try {
         if (estWav(fichier) && duree > 0)
             session_.audio.EnteteWav =
-                DessinerOnde(image, 0,
-                             {.vue = Vue::Pict_saisie,
-                              .fichier = fichier,
-                              .empan = {etat.SaisieDebut / duree, etat.SaisieDuree / duree},
-                              .largeur = largeur,
-                              .hauteur = hauteur,
-                              .hauteurVue = HAUTEUR_PICTURE1,
-                              .densite = densite},
-                             PointsSaisie_);
+                vermo::dessinerOnde(image, 0,
+                                    {.vue = Vue::Pict_saisie,
+                                     .fichier = fichier,
+                                     .empan = {etat.SaisieDebut / duree, etat.SaisieDuree / duree},
+                                     .largeur = largeur,
+                                     .hauteur = hauteur,
+                                     .hauteurVue = HAUTEUR_PICTURE1,
+                                     .densite = densite},
+                                    PointsSaisie_);
     } catch (const FauteExecution&) {
         // A recording that has gone leaves an empty wave; its extracts stay open to correction.
     }

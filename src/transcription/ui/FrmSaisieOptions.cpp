@@ -25,8 +25,8 @@ void FrmSaisie::creerBoutonsDictee() {
         "Dictée automatique : la suite vient trois secondes après la dernière touche"};
     const Rectangle cadres[] = {t::BTNOPT_0, t::BTNOPT_1, t::BTNOPT_2};
     for (std::size_t i = 0; i < 3; ++i) {
-        BtnOpt_[i] =
-            new BoutonImage(QStringLiteral("BtnOpt%1").arg(i), QLatin1String(icones[i]), tr(bulles[i]), this);
+        BtnOpt_[i] = new BoutonImage(QStringLiteral("BtnOpt%1").arg(i), QLatin1String(icones[i]),
+                                     QString::fromUtf8(bulles[i]), this);
         BtnOpt_[i]->setCheckable(true);
         poser(BtnOpt_[i], cadres[i]);
     }
@@ -39,15 +39,14 @@ void FrmSaisie::creerBoutonsDictee() {
     LblTimer_ = new QLabel(this);
     LblTimer_->setObjectName(QStringLiteral("LblTimer"));
     LblTimer_->setAlignment(Qt::AlignCenter);
-    LblTimer_->setStyleSheet(
-        QStringLiteral("background: rgb(110,178,255); color: black; border-radius: 8px"));
+    theme::habiller(LblTimer_);
     poser(LblTimer_, t::LBLTIMER);
     LblTimer_->hide();
 }
 
 void FrmSaisie::creerSecondes() {
     LblSec_ = new Toile(QStringLiteral("LblSec"), BtnOpt_[1]);
-    LblSec_->setAccessibleName(tr("Secondes d'une portion : glisser vers le haut ou le bas"));
+    LblSec_->setAccessibleName(QStringLiteral("Secondes d'une portion : glisser vers le haut ou le bas"));
     LblSec_->setToolTip(LblSec_->accessibleName());
     LblSec_->setCursor(Qt::SizeVerCursor);
     LblSec_->fond(theme::CHAMP);
@@ -68,8 +67,8 @@ void FrmSaisie::creerSecondes() {
 
 void FrmSaisie::creerVitesse() {
     Picture2_ = new Toile(QStringLiteral("Picture2"), this);
-    Picture2_->setAccessibleName(tr("Vitesse de lecture"));
-    Picture2_->setToolTip(tr("Vitesse de lecture, de 0,75 à 1,25"));
+    Picture2_->setAccessibleName(QStringLiteral("Vitesse de lecture"));
+    Picture2_->setToolTip(QStringLiteral("Vitesse de lecture, de 0,75 à 1,25"));
     Picture2_->fond(theme::PANNEAU);
     poser(Picture2_, t::PICTURE2);
     Picture2_->surPression = [this](const Souris& souris) {

@@ -19,8 +19,9 @@ namespace t = tailles_saisie;
 
 void FrmSaisie::creerPanneau() {
     const auto titre = [this](int index, const Rectangle& cadre) {
-        const QString textes[] = {tr("Choisissez une thématique"), tr("Ajoutez une thématique"),
-                                  tr("Nom de  la thématique :"), tr(" Code :")};
+        const QString textes[] = {QStringLiteral("Choisissez une thématique"),
+                                  QStringLiteral("Ajoutez une thématique"),
+                                  QStringLiteral("Nom de  la thématique :"), QStringLiteral(" Code :")};
         auto* label = new QLabel(textes[index], this);
         label->setObjectName(QStringLiteral("Label3%1").arg(index));
         label->setFont(theme::police(index < 2 ? 10 : 8, index < 2));
@@ -32,7 +33,8 @@ void FrmSaisie::creerPanneau() {
     titre(2, t::LABEL3_2);
     titre(3, t::LABEL3_3);
     FrmThms_ = new Toile(QStringLiteral("FrmThms"), this);
-    FrmThms_->setAccessibleName(tr("Thématiques : flèches pour choisir, Entrée pour coder l'extrait"));
+    FrmThms_->setAccessibleName(
+        QStringLiteral("Thématiques : flèches pour choisir, Entrée pour coder l'extrait"));
     FrmThms_->setFocusPolicy(Qt::StrongFocus);
     FrmThms_->fond(theme::FENETRE);
     poser(FrmThms_, t::FRMTHMS);
@@ -47,12 +49,12 @@ void FrmSaisie::creerPanneau() {
 void FrmSaisie::creerAjout() {
     TXTcodethem_ = new QLineEdit(this);
     TXTcodethem_->setObjectName(QStringLiteral("TXTcodethem"));
-    TXTcodethem_->setAccessibleName(tr("Code de la nouvelle thématique"));
+    TXTcodethem_->setAccessibleName(QStringLiteral("Code de la nouvelle thématique"));
     TXTcodethem_->setMaxLength(3);
     poser(TXTcodethem_, t::TXTCODETHEM);
     TxtThema_ = new QLineEdit(this);
     TxtThema_->setObjectName(QStringLiteral("TxtThema"));
-    TxtThema_->setAccessibleName(tr("Nom de la nouvelle thématique"));
+    TxtThema_->setAccessibleName(QStringLiteral("Nom de la nouvelle thématique"));
     poser(TxtThema_, t::TXTTHEMA);
     for (int i = 0; i < int(saisie::COULEURS.size()); ++i) {
         auto* pastille = new Pastille(i, saisie::COULEURS[std::size_t(i)], this);
@@ -62,7 +64,7 @@ void FrmSaisie::creerAjout() {
         connect(pastille, &Pastille::clicked, this, [this, i] { choisirCouleur(i); });
     }
     auto* ajouter = new BoutonImage(QStringLiteral("Imgbtn2"), QStringLiteral("AjouterThm"),
-                                    tr("Ajouter la thématique"), this);
+                                    QStringLiteral("Ajouter la thématique"), this);
     ajouter->iconePressee(QStringLiteral("AjouterThmPresse"));
     poser(ajouter, t::IMGBTN_2);
     connect(ajouter, &BoutonImage::clicked, this, [this] { garder([this] { ajouterThematique(); }); });
@@ -73,7 +75,7 @@ void FrmSaisie::creerAjout() {
 
 void FrmSaisie::ConstruireThematiques() {
     rangSurvole_ = std::clamp(rangSurvole_, 1, std::max(1, int(session_.corpus.NbThm)));
-    Elements liste = DisposerThematiques(session_, t::FRMTHMS.largeur,
+    Elements liste = disposerThematiques(session_, t::FRMTHMS.largeur,
                                          plateforme_.ecran.zoneTravail().hauteur, Legende::Saisie);
     for (Element& element : liste)
         if (element.controle == Controle::LblCoul && element.index == rangSurvole_) {

@@ -9,12 +9,12 @@ namespace vermo {
 Pastille::Pastille(int index, Couleur couleur, QWidget* parent) : QAbstractButton(parent), couleur_(couleur) {
     setObjectName(QStringLiteral("LblCoulThm%1").arg(index));
     const QColor qt = couleurQt(couleur);
-    setAccessibleName(tr("Couleur %1 (rouge %2, vert %3, bleu %4)")
+    setAccessibleName(QStringLiteral("Couleur %1 (rouge %2, vert %3, bleu %4)")
                           .arg(index + 1)
                           .arg(qt.red())
                           .arg(qt.green())
                           .arg(qt.blue()));
-    setToolTip(tr("Couleur de la nouvelle thématique"));
+    setToolTip(QStringLiteral("Couleur de la nouvelle thématique"));
     setCursor(Qt::PointingHandCursor);
 }
 

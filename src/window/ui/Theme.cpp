@@ -7,6 +7,7 @@
 #include <QPalette>
 #include <QStyleFactory>
 #include <QToolTip>
+#include <QWidget>
 #include <array>
 #include <map>
 
@@ -56,6 +57,13 @@ void appliquer(QApplication& application) {
     application.setFont(police(9));
     QToolTip::setPalette(palette());
     QToolTip::setFont(police(8));
+}
+
+void habiller(QWidget* controle) {
+    controle->setStyleSheet(
+        QStringLiteral("#TextRtr { background: rgb(64,64,64); color: white; border: none; padding: 4px }"
+                       "#etat { color: rgb(255,150,140) }"
+                       "#LblTimer { background: rgb(110,178,255); color: black; border-radius: 8px }"));
 }
 
 QFont police(int corps, bool gras) {

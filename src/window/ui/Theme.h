@@ -5,6 +5,7 @@
 #include <QFont>
 
 class QApplication;
+class QWidget;
 
 namespace vermo::theme {
 
@@ -24,6 +25,9 @@ void appliquer(QApplication& application);
 
 /// The program's font at a size in points of 1/72 inch on a screen of 96 pixels an inch, without kerning.
 QFont police(int corps, bool gras = false);
+
+/// Gives a control what the palette can't say, by its object name: the program's one style sheet.
+void habiller(QWidget* controle);
 
 } // namespace vermo::theme
 

@@ -1,0 +1,13 @@
+#pragma once
+#include <cstddef>
+
+namespace vermo {
+
+/// Row `n` of a table that is numbered by whole numbers, as slots, extracts and thematics are. Not tested:
+/// numbers are checked where they come in.
+template <class Table>
+constexpr auto& ligneDe(Table& table, int n) {
+    return table[static_cast<std::size_t>(n)];
+}
+
+} // namespace vermo
