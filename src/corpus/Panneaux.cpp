@@ -39,10 +39,6 @@ Element labelDe(const EtatCorpus& corpus, int rang, Rectangle cadre, Legende leg
     return LblCoul;
 }
 
-int nombreThematiques(const EtatCorpus& corpus) {
-    return static_cast<int>(corpus.NbThm);
-}
-
 void allumerThematiques(EtatCorpus& corpus, std::int16_t etat) {
     corpus.ThmVisible.assign(static_cast<std::size_t>(nombreThematiques(corpus)) + 1, etat);
 }
