@@ -36,6 +36,7 @@ TEST(Ecritures, AncienOuNouveauPourChaqueSorteDeFichier) {
                     e.hote.lanceur,
                     e.hote.ecran,
                     e.hote.progression,
+                    e.hote.annonces,
                     {.programme = dossier.chemin(), .donneesProgramme = {}, .donneesPersonne = {}}};
     const std::string corpus = "Projet\r\n<|THEM|\r\n000,0,Pas\r\n>|THEM|\r\n<|ENTR|\r\n>|ENTR|\r\n";
     const Utf8 source = dossier.ecrire("ailleurs/son.wav", std::string(5000, 's'));
