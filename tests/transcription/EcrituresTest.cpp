@@ -30,14 +30,11 @@ TEST(Ecritures, AncienOuNouveauPourChaqueSorteDeFichier) {
     Accord accord;
     accord.fichier = dossier.chemin("Neuf.Crp");
     e.hote.progression.patience = 1'000'000;
-    Plateforme hote{accord,
-                    e.hote.media,
-                    e.hote.horloge,
-                    e.hote.lanceur,
-                    e.hote.ecran,
-                    e.hote.progression,
-                    e.hote.annonces,
-                    {.programme = dossier.chemin(), .donneesProgramme = {}, .donneesPersonne = {}}};
+    Plateforme hote{
+        accord,          e.hote.media,
+        e.hote.horloge,  e.hote.lanceur,
+        e.hote.ecran,    e.hote.progression,
+        e.hote.annonces, {.programme = dossier.chemin(), .donneesProgramme = {}, .donneesPersonne = {}}};
     const std::string corpus = "Projet\r\n<|THEM|\r\n000,0,Pas\r\n>|THEM|\r\n<|ENTR|\r\n>|ENTR|\r\n";
     const Utf8 source = dossier.ecrire("ailleurs/son.wav", std::string(5000, 's'));
     const auto ajouter = [&] {
