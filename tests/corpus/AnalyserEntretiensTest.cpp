@@ -1,4 +1,4 @@
-#include "CorpusDEssai.h"
+#include "support/CorpusDEssai.h"
 #include "textfile/fichier.h"
 
 #include <chrono>

@@ -1,6 +1,6 @@
-#include "CorpusDEssai.h"
 #include "corpus/Panneaux.h"
 #include "corpus/Pistes.h"
+#include "support/CorpusDEssai.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "CorpusDEssai.h"
 #include "corpus/EcritureCorpus.h"
 #include "corpus/Ordre.h"
 #include "formats/FichierCorpus.h"
+#include "support/CorpusDEssai.h"
 #include "textfile/faute.h"
 
 #include <filesystem>
