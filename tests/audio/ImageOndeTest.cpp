@@ -32,7 +32,7 @@ DemandeOnde demande(Vue vue, const Utf8& fichier, Twips largeur, Twips hauteur, 
 
 } // namespace
 
-TEST(ImageOnde, SamplesBecomeHeights) {
+TEST(WavePicture, SamplesBecomeHeights) {
     struct Cas {
         int canaux, bits;
         long hauteur;
@@ -59,7 +59,7 @@ TEST(ImageOnde, SamplesBecomeHeights) {
     EXPECT_THROW(calculerEchelles(entete(1, 16), 1), FauteExecution) << "no division by zero";
 }
 
-TEST(ImageOnde, StereoHasTwoTracesInTheOverviewAndOneInTheZoom) {
+TEST(WavePicture, StereoHasTwoTracesInTheOverviewAndOneInTheZoom) {
     const DossierTemporaire dossier;
     // Silence left, a level right.
     const auto sons = echantillons(6000, 16, [](int i) { return i % 2 ? 20000 : 0; });
@@ -77,7 +77,7 @@ TEST(ImageOnde, StereoHasTwoTracesInTheOverviewAndOneInTheZoom) {
     EXPECT_EQ(noirs(zoom, 50), (std::pair{133, 133})); // 6000 / 3 / 4, brought from 1500 to 6000 high
 }
 
-TEST(ImageOnde, APeakFillsItsColumnsAndNothingElse) {
+TEST(WavePicture, APeakFillsItsColumnsAndNothingElse) {
     const DossierTemporaire dossier;
     const auto sons = echantillons(3000, 16, [](int i) { return i == 1507 ? 32767 : 0; });
     const Utf8 chemin = dossier.ecrire("a.wav", wav(1, 16, sons));
