@@ -36,14 +36,14 @@ std::string contenu(std::size_t taille) {
 const std::string ancien = contenu(5000) + "ancien";
 const std::string nouveau = contenu(70000) + "nouveau";
 
-TEST(Lecture, RendTousLesOctets) {
+TEST(FileReading, GivesAllBytes) {
     const DossierTemporaire dossier;
     for (const std::size_t taille : {0u, 1u, 4096u, 3000001u})
         EXPECT_EQ(lireFichier(dossier.ecrire("a", contenu(taille))), contenu(taille)) << taille;
     EXPECT_FALSE(lireFichier("/proc/self/status").empty()) << "says 0 bytes, has some";
 }
 
-TEST(Lecture, RefuseAvecLaCause) {
+TEST(FileReading, RefusesWithTheCause) {
     const DossierTemporaire dossier;
     ASSERT_EQ(mkfifo(dossier.chemin("tube").c_str(), 0600), 0);
     dossier.ecrire("a", "x");
@@ -62,7 +62,7 @@ TEST(Lecture, RefuseAvecLaCause) {
     EXPECT_EQ(descripteursOuverts(), avant);
 }
 
-TEST(Remplacement, ChaqueAppelQuiEchoueEstDit) {
+TEST(FileReplacement, TellsEachCallThatFails) {
     const DossierTemporaire dossier;
     const Utf8 chemin = dossier.chemin("a.Rtr");
     const std::string es = "Écriture impossible : ";
@@ -98,7 +98,7 @@ TEST(Remplacement, ChaqueAppelQuiEchoueEstDit) {
     EXPECT_EQ(descripteursOuverts(), avant);
 }
 
-TEST(Remplacement, FichierQuiManqueEtFichierVide) {
+TEST(FileReplacement, MissingAndEmptyFiles) {
     const DossierTemporaire dossier;
     remplacerFichier(dossier.chemin("neuf"), nouveau);
     EXPECT_TRUE(dossier.lire("neuf") == nouveau);
@@ -109,7 +109,7 @@ TEST(Remplacement, FichierQuiManqueEtFichierVide) {
               "Écriture impossible : c'est un répertoire\n" + dossier.chemin());
 }
 
-TEST(Remplacement, GardeLiensEtMode) {
+TEST(FileReplacement, KeepsLinksAndMode) {
     const DossierTemporaire dossier;
     dossier.ecrire("loin/vrai", ancien);
     ASSERT_EQ(chmod(dossier.chemin("loin/vrai").c_str(), 0640), 0);
@@ -126,7 +126,7 @@ TEST(Remplacement, GardeLiensEtMode) {
               "Écriture impossible : trop de liens symboliques\n" + dossier.chemin("boucle"));
 }
 
-TEST(Copie, DitOuElleEnEstEtSeLaisseArreter) {
+TEST(FileCopy, TellsItsProgressAndCanBeStopped) {
     const DossierTemporaire dossier;
     const std::string octets = contenu(2'500'000);
     const Utf8 source = dossier.ecrire("source.wav", octets);
@@ -147,7 +147,7 @@ TEST(Copie, DitOuElleEnEstEtSeLaisseArreter) {
     EXPECT_TRUE(dossier.lire("cible.wav") == octets);
 }
 
-TEST(Identite, ChangeAvecLeFichier) {
+TEST(FileIdentity, ChangesWithTheFile) {
     const DossierTemporaire dossier;
     const Utf8 chemin = dossier.ecrire("a", "un");
     const IdentiteFichier un = identiteFichier(chemin);
