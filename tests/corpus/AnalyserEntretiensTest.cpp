@@ -117,7 +117,7 @@ TEST_F(Scan, TellsAFaultOnceAndGoesOn) {
 }
 
 TEST_F(Scan, FilesThatMissOrCannotBeRead) {
-    ouvrir(ENTETE);
+    ouvrir(ENTETE + std::string("::1::001\r\n::3::\r\n"));
     essai.analyser();
     std::filesystem::remove(essai.dossier().chemin("c/b.wav"));
     std::filesystem::remove(essai.dossier().chemin("c/b.Rtr"));
@@ -132,6 +132,7 @@ TEST_F(Scan, FilesThatMissOrCannotBeRead) {
     essai.dossier().ecrire("c/b.wav", "");
     std::filesystem::create_directory(essai.dossier().chemin("c/b.Rtr"));
     essai.analyser();
+    EXPECT_EQ(decrireExtraits(essai.session, 2), "");
     EXPECT_FLOAT_EQ(entretien(3).NbExtraits, 1);
 }
 
@@ -149,6 +150,7 @@ TEST_F(Scan, AnUnchangedFileIsNotReadAgain) {
     ASSERT_TRUE(essai.ouvrir());
     essai.analyser();
     EXPECT_EQ(essai.corpus().extraits[3].tampon.data(), place);
+    EXPECT_TRUE(essai.corpus().anciensExtraits.empty());
     EXPECT_EQ(decrireExtraits(essai.session, 3), "1;2;001;un texte assez long/;");
     EXPECT_FLOAT_EQ(entretien(3).Duree, 100);
     std::filesystem::last_write_time(rtr, date + std::chrono::nanoseconds(1000));

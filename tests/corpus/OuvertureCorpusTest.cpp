@@ -19,10 +19,14 @@ constexpr const char* PAS = "000,&H0, Pas de thematique\r\n";
 TEST(Opening, AsksForACorpus) {
     CorpusDEssai essai;
     essai.corpus().CheminCorpus = "/x/a.Crp";
+    essai.corpus().HauteurEntretien = 500;
     essai.dialogues().choisir("").choisir("/x/a.Crp").repondre(Reponse::Ok).choisir("/y z/b.Crp");
     EXPECT_FALSE(demanderCorpus(essai.session, essai.hote));
     EXPECT_FALSE(demanderCorpus(essai.session, essai.hote));
+    EXPECT_EQ(essai.corpus().CheminCorpus, "/x/a.Crp");
+    EXPECT_EQ(essai.corpus().HauteurEntretien, 500);
     EXPECT_TRUE(demanderCorpus(essai.session, essai.hote));
+    EXPECT_EQ(essai.corpus().HauteurEntretien, 0) << "to be reckoned for the corpus that opens";
     nommerCorpus(essai.session);
     EXPECT_EQ(essai.corpus().RepCorpus + "|" + essai.corpus().NomCorpus, "/y z/|b.Crp");
     EXPECT_EQ(essai.dialogues().journal()[2], "|Ce corpus est déjà ouvert!|Ok|Exclamation -> Ok");

@@ -29,7 +29,7 @@ std::ptrdiff_t descripteursOuverts() {
 std::string contenu(std::size_t taille) {
     std::string octets(taille, '\0');
     for (std::size_t i = 0; i < taille; ++i)
-        octets[i] = static_cast<char>(i * 7 + i / 256);
+        octets[i] = static_cast<char>((i + 1) * 2654435761U >> 16); // no two blocks alike
     return octets;
 }
 
@@ -109,10 +109,12 @@ TEST(FileReplacement, MissingAndEmptyFiles) {
               "Écriture impossible : c'est un répertoire\n" + dossier.chemin());
 }
 
-TEST(FileReplacement, KeepsLinksAndMode) {
+TEST(FileReplacement, KeepsLinksOwnerAndMode) {
     const DossierTemporaire dossier;
-    dossier.ecrire("loin/vrai", ancien);
-    ASSERT_EQ(chmod(dossier.chemin("loin/vrai").c_str(), 0640), 0);
+    const Utf8 vrai = dossier.ecrire("loin/vrai", ancien);
+    ASSERT_EQ(chmod(vrai.c_str(), 0604), 0);
+    const bool donne = chown(vrai.c_str(), 1234, 4321) == 0; // where the test may
+    const mode_t masque = umask(0027);
     fs::create_symlink("loin/vrai", dossier.chemin("relatif"));
     fs::create_symlink(dossier.chemin("relatif"), dossier.chemin("absolu"));
     fs::create_symlink("loin/futur", dossier.chemin("pendant"));
@@ -121,7 +123,12 @@ TEST(FileReplacement, KeepsLinksAndMode) {
     remplacerFichier(dossier.chemin("pendant"), nouveau);
     for (const char* lien : {"absolu", "relatif", "pendant"})
         EXPECT_TRUE(fs::is_symlink(dossier.chemin(lien)) && dossier.lire(lien) == nouveau) << lien;
-    EXPECT_EQ(fs::status(dossier.chemin("loin/vrai")).permissions(), fs::perms(0640));
+    umask(masque);
+    struct stat etat {};
+    ASSERT_EQ(stat(vrai.c_str(), &etat), 0);
+    EXPECT_EQ(etat.st_mode & 07777, 0604U);
+    EXPECT_TRUE(!donne || (etat.st_uid == 1234 && etat.st_gid == 4321));
+    EXPECT_EQ(fs::status(dossier.chemin("loin/futur")).permissions(), fs::perms(0640));
     EXPECT_EQ(faute([&] { remplacerFichier(dossier.chemin("boucle"), "x"); }),
               "Écriture impossible : trop de liens symboliques\n" + dossier.chemin("boucle"));
 }
@@ -144,7 +151,13 @@ TEST(FileCopy, TellsItsProgressAndCanBeStopped) {
     EXPECT_EQ(avance, (std::vector<std::int64_t>{0, 0, 1 << 20, 2 << 20, 2'500'000}));
     EXPECT_TRUE(dossier.lire("cible.wav") == octets);
     EXPECT_THROW(copierFichier(dossier.chemin("absent"), cible), FauteExecution);
+    const auto raccourcir = [&](std::int64_t, std::int64_t) {
+        return truncate(source.c_str(), 1 << 20) == 0;
+    };
+    EXPECT_EQ(faute([&] { copierFichier(source, cible, raccourcir); }),
+              "Copie impossible : le fichier a été raccourci pendant la lecture\n" + source);
     EXPECT_TRUE(dossier.lire("cible.wav") == octets);
+    EXPECT_EQ(essai::temporairesRestants(dossier), 0);
 }
 
 TEST(FileIdentity, ChangesWithTheFile) {
