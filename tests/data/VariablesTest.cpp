@@ -43,11 +43,19 @@ TEST_F(Variables, AttributesWithoutALineStay) {
     session.corpus.Entretiens.resize(2);
     session.corpus.Entretiens[1].Fichier = "a.mp3";
     rtr::Attributs& attributs = session.corpus.Entretiens[1].Attributs;
-    attributs[4] = 6;
-    hote.dossier.ecrire("a.Rtr", "60\r\n<|ATTR|\r\n1,2\r\n\r\n99,41\r\n>|ATTR|\r\n7,7\r\n");
-    LireAttributs(session, 1);
-    EXPECT_EQ((std::array{attributs[0], attributs[4], attributs[6], attributs[98]}),
-              (std::array{2.F, 6.F, 0.F, 41.F}));
+    for (const std::size_t note :
+         {0, 8000, 8160, 8180, 20000}) { // the section across and behind the first read
+        attributs = {};
+        attributs[4] = 6;
+        hote.dossier.ecrire("a.Rtr", "60\r\n<|OBS|\r\n" + std::string(note, 'n') +
+                                         "\r\n>|OBS|\r\n<|ATTR|\r\n1,2\r\n\r\n"
+                                         "99,41\r\n>|ATTR|\r\n7,7\r\n" +
+                                         std::string(9000, 't'));
+        LireAttributs(session, 1);
+        EXPECT_EQ((std::array{attributs[0], attributs[4], attributs[6], attributs[98]}),
+                  (std::array{2.F, 6.F, 0.F, 41.F}))
+            << note;
+    }
 }
 
 } // namespace

@@ -62,15 +62,12 @@ TEST(Bubbles, ShowWhatTheSpanReallyTouches) {
 
 TEST(Bubbles, HoldTheirTitleAndTheirWords) {
     const Vue vue(10, 60, "::5.00::001\r\n::6.00::\r\n::20.00::002\r\nun deux\r\n::30.00::\r\n");
-    EXPECT_EQ(decrire(vue.bulles()), R"(ShpXtrZ[1] 3120,0 2760x6000 tag=2 bord=020000
-ShpXtrIntZ[1] 3120,0 2760x6000 tag=2 fond=020000 fusion
-ImgBulleBlanche[1] 3000,120 180x180 tag=2 fond=F4F4F6
+    EXPECT_EQ(seuls(vue.bulles(), {C::ShpXtrIntZ, C::ImgBulleInt, C::ImgBulleBas, C::LblXtrZ, C::LbltitreXtrZ,
+                                   C::LbltxtXtrZ, C::LblMot}),
+              R"(ShpXtrIntZ[1] 3120,0 2760x6000 tag=2 fond=020000 fusion
 ImgBulleInt[1] 3000,120 105x5880 tag=2 fond=F4F4F6
 ImgBulleBas[1] 3000,4825 180x180 tag=2 fond=F4F4F6
-ImgBulleBlanche[2] 3170,120 2640x180 tag=2 fond=F4F4F6
-ImgBulleBlanche[3] 3170,299 2640x4525 tag=2 fond=F4F4F6
 ImgBulleBas[2] 3170,4825 2640x180 tag=2 fond=F4F4F6
-ImgBulleBlanche[4] 5800,120 180x180 tag=2 fond=F4F4F6
 ImgBulleInt[2] 5860,120 105x5880 tag=2 fond=F4F4F6
 ImgBulleBas[3] 5800,4825 180x180 tag=2 fond=F4F4F6
 LblXtrZ[1] 3120,120 2760x4885 tag=2 bulle=002
@@ -88,16 +85,14 @@ TEST(Bubbles, NarrowOnesAndThoseBeyondTheEdge) {
             "::12.00::777\r\nmot\r\n::12.10::\r\n::15.00::001\r\nmot encore \r\n::95.00::\r\n"
             "::14.00::000\r\n::19.00::\r\n");
     vue.session.transcription.ExtraitFin[3] = Texte("fin"); // no number: not shown
-    EXPECT_EQ(seuls(vue.bulles(9000), {C::ImgBulleBlanche, C::LbltitreXtrZ, C::LblMot}),
-              R"(ImgBulleBlanche[1] 1800,120 180x180 tag=1 fond=F4F4F6
-ImgBulleBlanche[2] 1970,120 15x180 tag=1 fond=F4F4F6
-ImgBulleBlanche[3] 1970,299 15x4525 tag=1 fond=F4F4F6
-ImgBulleBlanche[4] 1975,120 180x180 tag=1 fond=F4F4F6
+    EXPECT_EQ(seuls(vue.bulles(9000), {C::ImgBulleBas, C::LbltitreXtrZ, C::LblMot}),
+              R"(ImgBulleBas[1] 1800,4825 180x180 tag=1 fond=F4F4F6
+ImgBulleBas[2] 1970,4825 15x180 tag=1 fond=F4F4F6
+ImgBulleBas[3] 1975,4825 180x180 tag=1 fond=F4F4F6
 LbltitreXtrZ[1] 2040,210 0x255 "Nom 003" tag=1 encre=030000 gras
-ImgBulleBlanche[5] 4500,120 180x180 tag=2 fond=F4F4F6
-ImgBulleBlanche[6] 4670,120 71640x180 tag=2 fond=F4F4F6
-ImgBulleBlanche[7] 4670,299 71640x4525 tag=2 fond=F4F4F6
-ImgBulleBlanche[8] 76300,120 180x180 tag=2 fond=F4F4F6
+ImgBulleBas[4] 4500,4825 180x180 tag=2 fond=F4F4F6
+ImgBulleBas[5] 4670,4825 71640x180 tag=2 fond=F4F4F6
+ImgBulleBas[6] 76300,4825 180x180 tag=2 fond=F4F4F6
 LbltitreXtrZ[2] 4740,210 71600x255 "Nom 001" tag=2 encre=010000 gras
 LblMot[1] 4740,495 400x200 "mot " tag=1 encre=202024
 LblMot[2] 5170,495 700x200 "encore " tag=1 encre=202024

@@ -113,23 +113,24 @@ TEST(Thematics, WhatAnExtractShows) {
         EXPECT_EQ(encreThematique(tag) == 0, noir) << tag;
 }
 
-TEST(Thematics, AreRefusedInTheOrderOfTheQuestions) {
+TEST(Thematics, AreAddedUnlessAQuestionStands) {
     EntretienOuvert e("100\r\n");
     e.thematiques({"007"});
     EtatCorpus& corpus = e.session.corpus;
     EXPECT_EQ(codePropose(corpus), "002");
-    const std::pair<NouvelleThematique, std::string> cas[] = {
-        {{"7", "", ""}, "Le code '7' existe déjà (nom :'Nom 007').\nChoisissez un code inutilisé. Merci."},
+    const std::tuple<NouvelleThematique, std::string, bool> cas[] = {
+        {{"7", "", ""},
+         "Le code '7' existe déjà (nom :'Nom 007').\nChoisissez un code inutilisé. Merci.",
+         true},
         {{"a", "n", "1"},
-         "Le code 'a' existe déjà (nom :' Pas de thématique').\nChoisissez un code inutilisé. Merci."},
-        {{"8", "", ""}, "Vous n'avez pas choisi de couleur..."},
-        {{"8", "", "255"}, "La thématique que vous souhaitez ajouter n'a pas de nom..."},
-    };
-    for (const auto& [nouvelle, texte] : cas) {
-        const auto refus = verifierThematique(corpus, nouvelle);
-        ASSERT_TRUE(refus) << texte;
-        EXPECT_EQ(refus->message.texte, texte);
-        EXPECT_EQ(refus->codeFautif, refus->message.icone == Icone::Exclamation);
+         "Le code 'a' existe déjà (nom :' Pas de thématique').\nChoisissez un code inutilisé. Merci.",
+         true},
+        {{"8", "", ""}, "Vous n'avez pas choisi de couleur...", false},
+        {{"8", "", "255"}, "La thématique que vous souhaitez ajouter n'a pas de nom...", false}};
+    for (const auto& [nouvelle, texte, fautif] : cas) {
+        const Refus refus = verifierThematique(corpus, nouvelle).value_or(Refus{});
+        EXPECT_EQ(refus.message.texte, texte);
+        EXPECT_EQ(refus.codeFautif, fautif) << texte;
     }
     const NouvelleThematique bonne{"8", "Vie, travail", "255"};
     EXPECT_FALSE(verifierThematique(corpus, bonne));
