@@ -71,7 +71,7 @@ std::vector<std::string> fautesDe(const char* chemin, const char* source) {
     return fautes(chemin, lecture);
 }
 
-TEST(Inclusions, everySourceKeepsItsLevel) {
+TEST(Includes, EverySourceKeepsItsLevel) {
     const fs::path racine = fs::path(VERMO_RACINE) / "src";
     std::size_t lus = 0;
     for (const auto& entree : fs::recursive_directory_iterator(racine)) {
@@ -85,7 +85,7 @@ TEST(Inclusions, everySourceKeepsItsLevel) {
     EXPECT_GT(lus, 50u);
 }
 
-TEST(Inclusions, badOnesAreSeen) {
+TEST(Includes, BadOnesAreSeen) {
     const std::pair<const char*, const char*> mauvaises[] = {
         {"textfile/a.h", "#include \"formats/Projets.h\""},
         {"audio/a.cpp", "#include \"transcription/Retranscription.h\""},

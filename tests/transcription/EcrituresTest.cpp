@@ -21,7 +21,7 @@ struct Accord : Dialogues {
 
 /// Each file that the program writes, under every fault of every system call on the way and under a kill at
 /// each: the old file or the new one.
-TEST(Ecritures, AncienOuNouveauPourChaqueSorteDeFichier) {
+TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
     EntretienOuvert e(" 125.5 \r\n::10.00::001\r\nBonjour.\r\r\n::12.50::\r\n");
     e.thematiques({"001"});
     const DossierTemporaire& dossier = e.hote.dossier;
