@@ -47,7 +47,7 @@ TEST(WavePicture, LevelsStandAtTheirRows) {
         const Utf8 chemin = dossier.ecrire("a.wav", wav(c.canaux, c.bits, sons));
         PointsOnde points;
         Bitmap8 image = fondUni(1500, c.hauteur, 1, BLANC);
-        DessinerOnde(image, 0, demande(c.vue, chemin, 1500, c.hauteur, 1), points);
+        dessinerOnde(image, 0, demande(c.vue, chemin, 1500, c.hauteur, 1), points);
         EXPECT_EQ(noirs(image, 300), c.aGauche) << c.canaux << " x " << c.bits << ", " << c.un;
         EXPECT_EQ(noirs(image, 1200), c.aDroite) << c.canaux << " x " << c.bits << ", " << c.deux;
     }

@@ -71,7 +71,7 @@ TEST(Wave, EveryPointIsTheSampleAtItsPlace) {
         PointsOnde points;
         points.points.assign(2 * largeur, absent);
         points.octets.assign(2 * largeur, 0);
-        LirePoints(FichierOnde(chemin), avecDefauts(sonderEnteteWav(chemin)), {}, largeur, points);
+        lirePoints(FichierOnde(chemin), avecDefauts(sonderEnteteWav(chemin)), {}, largeur, points);
         for (std::size_t i = 0; i < 2 * largeur; ++i) {
             const std::size_t colonne = i % largeur;
             const bool lu = colonne != largeur - 1;
@@ -89,7 +89,7 @@ TEST(Wave, PointsBehindTheEndKeepTheirValue) {
     const Utf8 coupe = dossier.ecrire("coupe.wav", octets.substr(0, octets.size() - 46));
     PointsOnde points;
     points.points.assign(20, 7);
-    LirePoints(FichierOnde(coupe), avecDefauts(sonderEnteteWav(coupe)), {}, 10, points);
+    lirePoints(FichierOnde(coupe), avecDefauts(sonderEnteteWav(coupe)), {}, 10, points);
     EXPECT_EQ(points.points[4], 1600);
     EXPECT_EQ(points.points[5], 7);
     EXPECT_EQ(points.points[14], 7); // its first byte alone is there

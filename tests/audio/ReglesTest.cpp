@@ -23,17 +23,17 @@ TEST(Rulers, MinutesAreNumberedByTheLengthOfTheRecording) {
                                                                 {1860, 32, "10 20 30 "},
                                                                 {0, 0, ""}};
     for (const auto& [duree, marques, numeros] : cas) {
-        EXPECT_EQ(DessinerRegleMinutes(duree, 25000).traits.size(), marques) << duree;
-        EXPECT_EQ(textes(DessinerRegleMinutes(duree, 25000)), numeros) << duree;
+        EXPECT_EQ(dessinerRegleMinutes(duree, 25000).traits.size(), marques) << duree;
+        EXPECT_EQ(textes(dessinerRegleMinutes(duree, 25000)), numeros) << duree;
     }
-    EXPECT_EQ(textes(DessinerRegleMinutes(119, 25000, "Mp3")), "Mp3 Mp3 ");
-    const Dessin courte = DessinerRegleMinutes(300, 3000);
+    EXPECT_EQ(textes(dessinerRegleMinutes(119, 25000, "Mp3")), "Mp3 Mp3 ");
+    const Dessin courte = dessinerRegleMinutes(300, 3000);
     EXPECT_EQ(courte.traits[0], (Trait{600, 200, 600, 1140, rvb(64, 64, 64)}));
     EXPECT_EQ(courte.inscriptions[1], (Inscription{1080, -10, "2", rvb(64, 64, 64), 7}));
 }
 
 TEST(Rulers, SecondsAreLabelledByTheSpan) {
-    const Dessin dessin = DessinerRegleSecondes(3595, 20, 2000);
+    const Dessin dessin = dessinerRegleSecondes(3595, 20, 2000);
     EXPECT_EQ(dessin.traits.size(), 21U);
     EXPECT_EQ(dessin.traits[1], (Trait{200, 0, 200, 120, rvb(64, 64, 64)}));
     ASSERT_EQ(textes(dessin), "1:00:05 1:00:15 ");

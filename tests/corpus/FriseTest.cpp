@@ -172,7 +172,7 @@ TEST(Panels, Thematics) {
                               "ImgCoul[2] 0,622.5 900x240\n"
                               "ShpCoul[2] 0,495 900x495 fond=808080\n"
                               "LblCoul[2] 0,525 900x495 \" Travail\" tag=001 encre=000000\n");
-    const Elements saisie = DisposerThematiques(session, 900, 500, Legende::Saisie);
+    const Elements saisie = disposerThematiques(session, 900, 500, Legende::Saisie);
     EXPECT_EQ(decrire({saisie[3], saisie[4]}), "ImgCoul[2] 0,375 900x0 cache\n"
                                                "ShpCoul[2] 0,250 900x250 fond=FF0000\n");
 }
@@ -180,14 +180,14 @@ TEST(Panels, Thematics) {
 TEST(Panels, SwitchesAndCounts) {
     EtatCorpus corpus = corpusDEssai(3).corpus;
     const std::pair<std::function<void()>, std::string> cas[] = {
-        {[&] { BasculerEntretien(corpus, 2); }, "2/3 3/3"},
-        {[&] { BasculerTousEntretiens(corpus); }, "0/3 3/3"},
-        {[&] { IsolerEntretien(corpus, 3); }, "1/3 3/3"},
-        {[&] { BasculerTousEntretiens(corpus); }, "3/3 3/3"}, // one active counts as none
-        {[&] { BasculerThematique(corpus, 1); }, "3/3 2/3"},
-        {[&] { BasculerToutesThematiques(corpus); }, "3/3 3/3"}, // not all on: all on
-        {[&] { BasculerToutesThematiques(corpus); }, "3/3 0/3"},
-        {[&] { IsolerThematique(corpus, 2); }, "3/3 1/3"}};
+        {[&] { basculerEntretien(corpus, 2); }, "2/3 3/3"},
+        {[&] { basculerTousEntretiens(corpus); }, "0/3 3/3"},
+        {[&] { isolerEntretien(corpus, 3); }, "1/3 3/3"},
+        {[&] { basculerTousEntretiens(corpus); }, "3/3 3/3"}, // one active counts as none
+        {[&] { basculerThematique(corpus, 1); }, "3/3 2/3"},
+        {[&] { basculerToutesThematiques(corpus); }, "3/3 3/3"}, // not all on: all on
+        {[&] { basculerToutesThematiques(corpus); }, "3/3 0/3"},
+        {[&] { isolerThematique(corpus, 2); }, "3/3 1/3"}};
     for (const auto& [action, comptes] : cas) {
         action();
         const std::string entretiens = compteEntretiens(corpus), thematiques = compteThematiques(corpus);

@@ -27,10 +27,11 @@ struct Sequences : testing::Test {
         essai.corpus().OuvertureDirecte = true;
     }
     IssueOuverture ouvrir() {
-        return ouvrirCorpus(essai.session, essai.hote, {3000, [this](Etape etape) {
-                                constexpr const char* NOMS[] = {"vide", "thematiques", "frise", "pistes"};
-                                etapes.push_back(NOMS[static_cast<int>(etape)]);
-                            }});
+        return ouvrirCorpus(essai.session, essai.hote,
+                            {3000, [this](Etape etape) {
+                                 constexpr const char* NOMS[] = {"vide", "thematiques", "frise", "pistes"};
+                                 etapes.push_back(NOMS[static_cast<int>(etape)]);
+                             }});
     }
     std::string crp() const { return lireFichier(essai.dossier().chemin("c/Essai.Crp")); }
 };
@@ -70,7 +71,8 @@ TEST_F(Sequences, AnOpeningShowsItsStepsAsFarAsItComes) {
     }
     essai.corpus().OuvertureDirecte = false;
     etapes.clear();
-    EXPECT_EQ(ouvrir(), IssueOuverture::Renoncee); // the dialog is given up
+    essai.dialogues().choisir({}); // given up
+    EXPECT_EQ(ouvrir(), IssueOuverture::Renoncee);
     EXPECT_EQ(etapes, Lignes{"pistes"});
 }
 

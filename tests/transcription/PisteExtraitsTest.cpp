@@ -21,7 +21,7 @@ struct Vue : EntretienOuvert {
         session.audio.DureeZoom = fin - debut;
     }
     Elements bulles(Twips largeur = 15000) const {
-        return DisposerBulles(session, largeur, 6000, metriquesFixes);
+        return disposerBulles(session, largeur, 6000, metriquesFixes);
     }
 };
 
@@ -33,7 +33,7 @@ std::string seuls(Elements elements, const std::set<Controle>& controles) {
 
 TEST(ExtractTrack, BarsStandWhereTheirTimesDoInTheirColours) {
     Vue vue(0, 100, "::10.00::002\r\n::30.00::\r\n::60.00::777\r\n::50.00::\r\n");
-    const Elements piste = DisposerPiste(vue.session, 15000);
+    const Elements piste = disposerPiste(vue.session, 15000);
     EXPECT_EQ(decrire(piste), R"(ShpXtr[1] 1500,60 3000x210 tag=1 fond=020000 bord=787878
 ShpXtrInt[1] 1515,60 3000x210 tag=1 fond=020000 bord=787878
 LblXtr[1] 1500,75 3000x180 tag=1 bulle=002 fond=020000
@@ -45,7 +45,7 @@ LblXtr[2] 7500,75 1500x180 tag=2 bulle=777 fond=636363
     EXPECT_EQ(secondesFin(vue.session, 2), 60);
     EXPECT_EQ(sous(piste, 1600, 100)->index, 1);
     vue.session.audio.DureeFichier = 0;
-    EXPECT_TRUE(DisposerPiste(vue.session, 15000).empty());
+    EXPECT_TRUE(disposerPiste(vue.session, 15000).empty());
 }
 
 TEST(Bubbles, ShowWhatTheSpanReallyTouches) {

@@ -36,7 +36,7 @@ TEST(WordLayout, OneColumn) {
         {"aaa bbb", "(aaa )|(bbb )|"}, // no line end shows nothing
         {"aaa\rb c", "1 0,0 aaa\\|(b )|"}};
     for (const auto& [texte, attendu] : cas)
-        EXPECT_EQ(decrire(DisposerMots(texte, reglages, essai::metriquesFixes)), attendu) << texte;
+        EXPECT_EQ(decrire(disposerMots(texte, reglages, essai::metriquesFixes)), attendu) << texte;
 }
 
 TEST(WordLayout, ColumnsFromTenLinesOn) {
