@@ -180,7 +180,7 @@ TEST(Panels, Thematics) {
 
 TEST(CorpusLayout, ControlsLieInsideTheWindowAndApart) {
     for (const auto& [largeur, hauteur] : {std::pair(1280 * 15, 720 * 15), {1920 * 15, 1080 * 15}}) {
-        DispositionCorpus d = DisposerFenetreCorpus(largeur, hauteur, false);
+        DispositionCorpus d = disposerFenetreCorpus(largeur, hauteur, false);
         d.ImgCroix.largeur -= 30; // two pixels lie outside
         EXPECT_EQ(d.Imgbtn[2], d.Imgbtn[4]) << "one shows at a time";
         std::vector<Rectangle> cadres{d.ImgCroix,     d.PictVol,     d.etq[0],     d.etq[1],
