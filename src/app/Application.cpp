@@ -6,6 +6,7 @@
 #include "corpus/ui/FrmCorpus.h"
 #include "corpus/ui/FrmIntro.h"
 #include "corpus/ui/FrmMenu.h"
+#include "platform/Sablier.h"
 #include "transcription/ui/FrmSaisie.h"
 
 #include <QTimer>
@@ -27,7 +28,8 @@ Application::Application(Session& session, Plateforme& plateforme,
                          std::function<void(QProgressBar*)> brancherProgression)
     : session_(session), plateforme_(plateforme), brancherProgression_(std::move(brancherProgression)) {
     constexpr int reposMs = 300;
-    plateforme_.media.surChangementEtat = [this](EtatLecture etat) { suivreEtat(etat); };
+    ecoute_ =
+        plateforme_.media.ecouter([this](EtatLecture) { suivreVolume(session_.audio, plateforme_.media); });
     repos_.setSingleShot(true);
     repos_.setInterval(reposMs);
     connect(&repos_, &QTimer::timeout, this, [this] {
@@ -36,7 +38,6 @@ Application::Application(Session& session, Plateforme& plateforme,
 }
 
 Application::~Application() {
-    plateforme_.media.surChangementEtat = nullptr;
     for (Forme* forme : {ouverte(Fenetre::FrmSaisie), ouverte(Fenetre::FrmVisu), ouverte(Fenetre::FrmMenu),
                          ouverte(Fenetre::FrmCorpus), ouverte(Fenetre::FrmIntro)})
         delete forme;
@@ -141,8 +142,10 @@ void Application::decharger(Fenetre fenetre) {
     if (fenetre == Fenetre::FrmVisu) {
         decharger(Fenetre::FrmSaisie);
         visu_.clear();
-        plateforme_.media.stop();
-        plateforme_.media.URL(Utf8());
+        if (plateforme_.media.proprietaire() == Fenetre::FrmVisu) {
+            plateforme_.media.stop();
+            plateforme_.media.URL(Utf8());
+        }
         corpus().setEnabled(true);
         repos_.start();
     }
@@ -165,17 +168,11 @@ void Application::finir() {
 void Application::ouvrirEntretien(int slot, Ouverture ouverture) {
     auto& etat = session_.corpus;
     if (slot < 1 || slot > etat.NbEntretiens) return;
-    plateforme_.ecran.pointeur(Pointeur::Sablier);
+    const Sablier sablier(plateforme_.ecran);
     etat.EntretienCourant = std::int16_t(slot);
     decharger(Fenetre::FrmVisu);
-    plateforme_.media.URL(cheminEnregistrement(session_, slot));
-    try {
-        montrerEntretien(ouverture);
-    } catch (...) {
-        plateforme_.ecran.pointeur(Pointeur::Normal);
-        throw;
-    }
-    plateforme_.ecran.pointeur(Pointeur::Normal);
+    plateforme_.media.URL(cheminEnregistrement(session_, slot), Fenetre::FrmVisu);
+    montrerEntretien(ouverture);
 }
 
 /// The corpus window takes no input from now on; it is painted as such only once the interview stands over
@@ -192,7 +189,7 @@ void Application::desactiverCorpus() {
 }
 
 void Application::montrerEntretien(Ouverture ouverture) {
-    session_.transcription.signalement.clear();
+    session_.transcription.signalement.oublier();
     desactiverCorpus();
     try {
         if (visu().OuvrirEntretienVue(ouverture)) return;
@@ -209,14 +206,6 @@ void Application::reglerVolume(int part) {
     plateforme_.media.volume(part);
     if (corpus_) corpus_->DessinerVolume();
     if (visu_) visu_->DessinerVolume();
-}
-
-void Application::suivreEtat(EtatLecture etat) {
-    if (visu_)
-        visu_->Media_PlayStateChange(etat);
-    else
-        suivreVolume(session_.audio, plateforme_.media);
-    if (saisie_) saisie_->suivreEtat(etat >= EtatLecture::Lecture && etat <= EtatLecture::RetourRapide);
 }
 
 void Application::OuvrirMenu(Panneau panneau, Rectangle ancre) {

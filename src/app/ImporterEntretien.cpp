@@ -2,6 +2,7 @@
 #include "app/Application.h"
 #include "audio/Onde.h"
 #include "corpus/Import.h"
+#include "platform/Sablier.h"
 #include "textfile/chemins.h"
 #include "textfile/faute.h"
 
@@ -31,13 +32,8 @@ bool formatAccepte(Plateforme& plateforme, const Utf8& chemin) {
 void Application::ImporterEntretien() {
     if (importEnCours_) return;
     const QScopedValueRollback enCours(importEnCours_, true);
-    try {
-        importer();
-    } catch (...) {
-        plateforme_.ecran.pointeur(Pointeur::Normal);
-        throw;
-    }
-    plateforme_.ecran.pointeur(Pointeur::Normal);
+    const Sablier sablier(plateforme_.ecran, std::nullopt);
+    importer();
 }
 
 void Application::importer() {
@@ -58,7 +54,6 @@ void Application::importer() {
     if (!apporterDansCorpus(session_, plateforme_, chemin) || etat.CheminCorpus != vise) return;
     if (dejaDansCorpus(session_, plateforme_, nom)) return;
 
-    plateforme_.ecran.pointeur(Pointeur::Sablier);
     const double duree = mesurerDuree(plateforme_, cheminReel(etat.RepCorpus + versUtf8(nom)));
     session_.audio.DureeFichier = duree;
     if (duree == 0 || etat.CheminCorpus != vise) return;

@@ -9,8 +9,7 @@
 #include "corpus/Pistes.h"
 #include "corpus/ui/FrmCorpus.h"
 #include "data/Variables.h"
-
-#include <utility>
+#include "platform/Sablier.h"
 
 namespace vermo {
 
@@ -23,18 +22,11 @@ void Application::NouveauCorpus() {
 
 void Application::OuvrirCorpus() {
     session_.corpus.EntretienCourant = 0;
-    plateforme_.ecran.pointeur(Pointeur::Sablier);
-    try {
-        if (!demanderCorpus(session_, plateforme_)) {
-            corpus().RedessinerPistes(); // no interview is chosen any more
-            plateforme_.ecran.pointeur(Pointeur::Normal);
-        } else if (lireCorpus()) {
-            plateforme_.ecran.pointeur(Pointeur::Normal);
-        }
-    } catch (...) {
-        plateforme_.ecran.pointeur(Pointeur::Normal);
-        throw;
-    }
+    Sablier sablier(plateforme_.ecran);
+    if (!demanderCorpus(session_, plateforme_))
+        corpus().RedessinerPistes(); // no interview is chosen any more
+    else if (!lireCorpus())
+        sablier.laisser();
 }
 
 /// False when the corpus could not be opened: the window stays emptied and its pointer the hourglass.
@@ -63,8 +55,8 @@ void Application::lireAttributs(int slot) {
     try {
         LireAttributs(session_, slot);
     } catch (const FauteExecution& faute) {
-        bool& dite = session_.corpus.extraits[std::size_t(slot)].fauteDite;
-        if (!std::exchange(dite, true)) direFaute(plateforme_.dialogues, faute);
+        if (ligneDe(session_.corpus.extraits, slot).fauteDite.nouveau())
+            direFaute(plateforme_.dialogues, faute);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "corpus/ui/CroixDouble.h"
 #include "corpus/ui/ToileEntretiens.h"
 #include "corpus/ui/ToileThematiques.h"
+#include "platform/Sablier.h"
 #include "window/ui/Glace.h"
 
 #include <QCloseEvent>
@@ -105,7 +106,7 @@ void FrmCorpus::zoomMoins() {
 void FrmCorpus::zoomer(float hauteur) {
     if (nombreLignes(session_.corpus) == 0) return;
     const Twips rangs = Frm_entretiens_->vue().defilement / session_.corpus.HauteurEntretien;
-    plateforme_.ecran.pointeur(Pointeur::FlecheSablier);
+    const Sablier sablier(plateforme_.ecran, Pointeur::FlecheSablier);
     surface(false);
     session_.corpus.HauteurEntretien = hauteur;
     garder([this] {
@@ -114,15 +115,13 @@ void FrmCorpus::zoomer(float hauteur) {
     });
     surface(true);
     Frm_entretiens_->defiler(rangs * hauteur);
-    plateforme_.ecran.pointeur(Pointeur::Normal);
 }
 
 void FrmCorpus::tailleReelle() {
-    plateforme_.ecran.pointeur(Pointeur::Sablier);
+    const Sablier sablier(plateforme_.ecran);
     surface(false);
     garder([this] { fenetres_.basculerTailleReelle(true); });
     surface(true);
-    plateforme_.ecran.pointeur(Pointeur::Normal);
 }
 
 void FrmCorpus::croix() {
