@@ -5,7 +5,7 @@
 
 using namespace vermo;
 
-TEST(Marquage, ANewSpanMeetsItsNeighbours) {
+TEST(Marking, ANewSpanMeetsItsNeighbours) {
     const std::vector<Bornes> extraits{{10, 20}, {30, 40}, {35, 50}};
     const struct {
         Bornes voulues;
@@ -24,7 +24,7 @@ TEST(Marquage, ANewSpanMeetsItsNeighbours) {
         EXPECT_EQ(bornerNouvelExtrait(voulues, extraits), attendu) << voulues.debut << ".." << voulues.fin;
 }
 
-TEST(Marquage, AMovedBoundStopsAtTheFirstHit) {
+TEST(Marking, AMovedBoundStopsAtTheFirstHit) {
     const std::vector<Bornes> autres{{10, 20}, {18, 40}};
     EXPECT_EQ(bornerExtraitDeplace({5, 12}, autres), (Marquage{{5, 10}, false}));
     EXPECT_EQ(bornerExtraitDeplace({15, 30}, autres), (Marquage{{20, 30}, false})); // the second would refuse

@@ -206,7 +206,7 @@ void FrmVisu::poserBorne(int k, bool debut, double v) {
     EtatTranscription& etat = session_.transcription;
     const bool ouvert = fenetres_.visible(Fenetre::FrmSaisie) && !etat.NouvelExtrait &&
                         static_cast<int>(etat.ExtraitCourant) == k;
-    if (ouvert && ramenerSaisie(fenetres_.saisieEntamee())) return AfficherExtraits();
+    if (ouvert && ramenerSaisie(fenetres_.entamee(Fenetre::FrmSaisie))) return AfficherExtraits();
 
     const auto place = static_cast<std::size_t>(k);
     const double f0 = secondesFin(session_, k);
