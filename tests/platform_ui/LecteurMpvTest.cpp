@@ -21,13 +21,6 @@ constexpr double CINQ_MS = 0.005;
 
 class LecteurReel : public testing::Test {
   protected:
-    LecteurReel() {
-        lecteur.surChangementEtat = [this](EtatLecture etat) {
-            EXPECT_FALSE(dansUnAppel) << "told from inside a call";
-            etats.push_back(etat);
-        };
-    }
-
     static bool attendre(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 10000); }
     bool attendre(EtatLecture etat) {
         return attendre([&] { return lecteur.playState() == etat; });
@@ -53,6 +46,10 @@ class LecteurReel : public testing::Test {
     LecteurDiffere lecteur{"null"};
     std::vector<EtatLecture> etats;
     bool dansUnAppel = false;
+    Ecoute ecoute = lecteur.ecouter([this](EtatLecture etat) {
+        EXPECT_FALSE(dansUnAppel) << "told from inside a call";
+        etats.push_back(etat);
+    });
 };
 
 TEST_F(LecteurReel, DurationsAreThoseOfTheSoundInTheFile) {
