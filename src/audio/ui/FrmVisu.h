@@ -3,6 +3,7 @@
 #include "audio/Marquage.h"
 #include "audio/Suivi.h"
 #include "window/Fenetres.h"
+#include "window/ui/CapteurTouches.h"
 #include "window/ui/Forme.h"
 #include "window/ui/Theme.h"
 #include "window/ui/Toile.h"
@@ -13,7 +14,6 @@
 #include <vector>
 
 class QKeyEvent;
-class QLineEdit;
 
 namespace vermo {
 
@@ -53,7 +53,6 @@ class FrmVisu : public Forme {
     void Timtrait_Tick(); ///< unrolls the extract's text
 
   protected:
-    bool eventFilter(QObject* objet, QEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
     void closeEvent(QCloseEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
@@ -149,7 +148,7 @@ class FrmVisu : public Forme {
     std::array<BoutonImage*, 7> ImgMedia_{}; ///< members 1 to 6
     BoutonImage *ImgCroix_, *ImgCorpus_;
     QLabel *LblCompteur_, *lblfich_, *LblXtrBulle_, *lblEtat_;
-    QLineEdit* TxtCtrl_;
+    CapteurTouches* TxtCtrl_;
     QTimer Timer1_, Timer3_, TimerPlus_, TimerMoins_, Timtrait_;
 
     MetriquesQt metriques_;

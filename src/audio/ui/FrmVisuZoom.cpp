@@ -4,7 +4,6 @@
 #include "textfile/nombres.h"
 #include "transcription/Retranscription.h"
 
-#include <QLineEdit>
 #include <limits>
 
 namespace vermo {
