@@ -2,6 +2,7 @@
 
 #include "support/MetriquesFixes.h"
 #include "transcription/Entretien.h"
+#include "transcription/Marquage.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -41,6 +42,7 @@ TEST(DisposerPiste, PlacesCouleursEtBulles) {
     e.thematiques({"001", "002", "003"});
     EXPECT_TRUE(disposerPiste(e.session, 15000).empty());
     zoom(e.session, 0, 100);
+    redresserBornes(e.session);
     const Elements piste = disposerPiste(e.session, 15000);
     EXPECT_EQ(cadres(piste, {Controle::ShpXtr, Controle::ShpXtrInt}),
               "ShpXtr[1] 1500,60 3000x210 tag=1\nShpXtrInt[1] 1515,60 3000x210 tag=1\n"

@@ -1,6 +1,6 @@
 #pragma once
 #include "audio/ImageOnde.h"
-#include "audio/Marquage.h"
+#include "transcription/Marquage.h"
 #include "audio/Suivi.h"
 #include "window/Fenetres.h"
 #include "window/ui/CapteurTouches.h"
@@ -113,8 +113,6 @@ class FrmVisu : public Forme {
     void relacherPoignee(bool debut, Twips x);
     void poserBorne(int k, bool debut, double v);
     void refuserEnglobement();
-    std::vector<Bornes> bornesExtraits() const;
-    std::vector<Bornes> autresBornes(int k) const;
     void ouvrirExtrait(int k);
 
     // FrmVisuLecture.cpp: the player, commands, closing.
