@@ -2,6 +2,7 @@
 
 #include "support/MetriquesFixes.h"
 #include "transcription/Entretien.h"
+#include "transcription/Marquage.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -33,6 +34,7 @@ std::string seuls(Elements elements, const std::set<Controle>& controles) {
 
 TEST(ExtractTrack, BarsStandWhereTheirTimesDoInTheirColours) {
     Vue vue(0, 100, "::10.00::002\r\n::30.00::\r\n::60.00::777\r\n::50.00::\r\n");
+    redresserBornes(vue.session);
     const Elements piste = disposerPiste(vue.session, 15000);
     EXPECT_EQ(decrire(piste), R"(ShpXtr[1] 1500,60 3000x210 tag=1 fond=020000 bord=787878
 ShpXtrInt[1] 1515,60 3000x210 tag=1 fond=020000 bord=787878

@@ -9,7 +9,6 @@
 #include "window/JaugeVolume.h"
 #include "window/ui/Glace.h"
 
-#include <QLineEdit>
 #include <QPainter>
 #include <QScopedValueRollback>
 

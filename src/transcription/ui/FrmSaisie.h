@@ -137,7 +137,7 @@ class FrmSaisie : public Forme {
     bool pressionSecondes_ = false, pressionVitesse_ = false;
     int tagSecondes_ = 5; ///< tag of LblSec
     int secondes_ = 5;    ///< caption of LblSec
-    int fondu_ = 0;       ///< tag of Timer2
+    float fondu_ = 0;     ///< counter of the fade
     int rangSurvole_ = 1; ///< row of the panel that the keyboard stands on
     Twips defilementPanneau_ = 0, hauteurPanneau_ = 0;
 };
