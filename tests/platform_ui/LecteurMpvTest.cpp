@@ -19,9 +19,9 @@ namespace {
 
 constexpr double CINQ_MS = 0.005;
 
-class LecteurReel : public testing::Test {
+class LecteurMpvTest : public testing::Test {
   protected:
-    LecteurReel() {
+    LecteurMpvTest() {
         lecteur.surChangementEtat = [this](EtatLecture etat) {
             EXPECT_FALSE(dansUnAppel) << "told from inside a call";
             etats.push_back(etat);
@@ -55,7 +55,7 @@ class LecteurReel : public testing::Test {
     bool dansUnAppel = false;
 };
 
-TEST_F(LecteurReel, durationsAreThoseOfTheSoundInTheFile) {
+TEST_F(LecteurMpvTest, DurationsAreThoseOfTheSoundInTheFile) {
     constexpr double TRAME = 1152.0 / 44100;
     const FormatWav stereo{16, 2, 44100};
     const struct {
@@ -75,7 +75,7 @@ TEST_F(LecteurReel, durationsAreThoseOfTheSoundInTheFile) {
     }
 }
 
-TEST_F(LecteurReel, whatCantBePlayedSaysWhyAndTheNextFilePlays) {
+TEST_F(LecteurMpvTest, WhatCantBePlayedSaysWhyAndTheNextFilePlays) {
     fs::create_directory(dossier.chemin("dossier.wav"));
     ASSERT_EQ(mkfifo(dossier.chemin("tube.wav").c_str(), 0600), 0);
     enregistrement(1, "bon.wav");
@@ -99,7 +99,7 @@ TEST_F(LecteurReel, whatCantBePlayedSaysWhyAndTheNextFilePlays) {
     }
 }
 
-TEST_F(LecteurReel, playsPausesAndHoldsItsPlace) {
+TEST_F(LecteurMpvTest, PlaysPausesAndHoldsItsPlace) {
     ASSERT_TRUE(charger(enregistrement(5)));
     jouer();
     ASSERT_TRUE(attendrePosition(0.3));
@@ -117,7 +117,7 @@ TEST_F(LecteurReel, playsPausesAndHoldsItsPlace) {
     EXPECT_TRUE(attendre([&] { return etats.back() == EtatLecture::Arrete; }));
 }
 
-TEST_F(LecteurReel, stopsAtTheTrueEndAndStartsAgainFromThere) {
+TEST_F(LecteurMpvTest, StopsAtTheTrueEndAndStartsAgainFromThere) {
     ASSERT_TRUE(charger(enregistrement(3)));
     lecteur.currentPosition(2.2);
     jouer();
@@ -133,7 +133,7 @@ TEST_F(LecteurReel, stopsAtTheTrueEndAndStartsAgainFromThere) {
     ASSERT_TRUE(attendrePosition(0.1));
 }
 
-TEST_F(LecteurReel, aChangeOfRateKeepsThePosition) {
+TEST_F(LecteurMpvTest, AChangeOfRateKeepsThePosition) {
     ASSERT_TRUE(charger(enregistrement(8)));
     jouer();
     ASSERT_TRUE(attendrePosition(0.4));
@@ -146,7 +146,7 @@ TEST_F(LecteurReel, aChangeOfRateKeepsThePosition) {
     EXPECT_LT(lecteur.currentPosition() - avant, 0.1 + 1.25e-3 * static_cast<double>(montre.elapsed()));
 }
 
-TEST_F(LecteurReel, whatIsAskedWhileLoadingIsDoneOnceReady) {
+TEST_F(LecteurMpvTest, WhatIsAskedWhileLoadingIsDoneOnceReady) {
     lecteur.URL(enregistrement(4));
     lecteur.currentPosition(3);
     lecteur.play();
@@ -155,7 +155,7 @@ TEST_F(LecteurReel, whatIsAskedWhileLoadingIsDoneOnceReady) {
     EXPECT_TRUE(attendrePosition(3.1));
 }
 
-TEST_F(LecteurReel, aFileCutAndGoneWhileItPlaysComesToAnEnd) {
+TEST_F(LecteurMpvTest, AFileCutAndGoneWhileItPlaysComesToAnEnd) {
     const Utf8 chemin = enregistrement(600);
     ASSERT_TRUE(charger(chemin));
     jouer();
@@ -167,7 +167,7 @@ TEST_F(LecteurReel, aFileCutAndGoneWhileItPlaysComesToAnEnd) {
     EXPECT_FALSE(charger(chemin));
 }
 
-TEST_F(LecteurReel, startsUnderADecimalCommaAndKeepsTheVolumeAskedBefore) {
+TEST_F(LecteurMpvTest, StartsUnderADecimalCommaAndKeepsTheVolumeAskedBefore) {
     std::setlocale(LC_NUMERIC, "fr_FR.UTF-8"); // where it is installed
     lecteur.volume(40);                        // before the library is there
     ASSERT_TRUE(charger(enregistrement(1)));
@@ -175,10 +175,10 @@ TEST_F(LecteurReel, startsUnderADecimalCommaAndKeepsTheVolumeAskedBefore) {
 }
 
 /// Plays into the file "audiodump.wav" of the current directory.
-class LecteurVersFichier : public testing::Test {
+class LecteurMpvToFileTest : public testing::Test {
   protected:
-    LecteurVersFichier() { fs::current_path(dossier.chemin()); }
-    ~LecteurVersFichier() override { fs::current_path(avant); }
+    LecteurMpvToFileTest() { fs::current_path(dossier.chemin()); }
+    ~LecteurMpvToFileTest() override { fs::current_path(avant); }
 
     /// The 32-bit samples that `lecteur` sent out.
     std::vector<float> echantillons() {
@@ -192,7 +192,7 @@ class LecteurVersFichier : public testing::Test {
     DossierTemporaire dossier;
 };
 
-TEST_F(LecteurVersFichier, whatIsHeardBeginsExactlyWhereAskedAtALinearVolume) {
+TEST_F(LecteurMpvToFileTest, WhatIsHeardBeginsExactlyWhereAskedAtALinearVolume) {
     constexpr FormatWav format{16, 1, 8000};
     std::string rampe; // each sample tells its own place
     for (std::uint32_t i = 0; i < 32000; ++i)
@@ -215,7 +215,7 @@ TEST_F(LecteurVersFichier, whatIsHeardBeginsExactlyWhereAskedAtALinearVolume) {
     }
 }
 
-TEST_F(LecteurVersFichier, withoutAnOutputItPlaysSilentlyAndSaysSo) {
+TEST_F(LecteurMpvToFileTest, WithoutAnOutputItPlaysSilentlyAndSaysSo) {
     const DossierTemporaire ailleurs;
     const Utf8 son1 = ailleurs.ecrire("a.wav", wav(son(2), {}));
     fs::remove_all(dossier.chemin()); // no output can be made here
