@@ -61,8 +61,7 @@ TEST_F(JourneysTest, TheLateAnswerOfThePlayerIsShownWhereItBelongs) {
     hote.media.lent = true;
     ouvrirCorpus();
     session.audio.VolumeLecture = 40;
-    touche("FrmCorpus", "Frm_entretiens", Qt::Key_End)();
-    touche("FrmCorpus", "Frm_entretiens", Qt::Key_Return)();
+    QTest::mouseDClick(&rangees(), Qt::LeftButton, {}, place(rangees(), Controle::lblfich, 2));
     const auto lecture = [] { return membre<QWidget>(forme("FrmVisu"), "ImgMedia4")->isVisible(); };
     EXPECT_FALSE(lecture());
     hote.media.pret();
@@ -76,7 +75,8 @@ TEST_F(JourneysTest, TheLateAnswerOfThePlayerIsShownWhereItBelongs) {
 TEST_F(JourneysTest, AReopeningReadsWhatWasWrittenMeanwhile) {
     ouvrirCorpus();
     hote.dossier.ecrire("c/b.Rtr", std::string(RTR) + EXTRAIT + "::5.00::000\r\nautre\r\n::7.00::\r\n");
-    menu("lblmenu0", "lblcorpus1")();
+    cliquer(forme("FrmCorpus"), "lblmenu0");
+    cliquer(forme("FrmMenu"), "lblcorpus1");
     EXPECT_EQ(extraits(1), 1);
     EXPECT_EQ(extraits(2), 2);
     EXPECT_EQ(CorpusTexte(session, 2, 2), "autre\r");
@@ -217,6 +217,7 @@ TEST_F(JourneysTest, ARecordingThatCantBeReadLeavesTheCorpusWindowInUse) {
     EXPECT_THROW(app.OuvrirEntretien(1, Ouverture::SansFondu), FauteExecution);
     EXPECT_FALSE(app.visible(Fenetre::FrmVisu));
     EXPECT_TRUE(forme("FrmCorpus").isEnabled());
+    EXPECT_EQ(hote.ecran.pointeurCourant, Pointeur::Normal);
 }
 
 TEST_F(JourneysTest, WhatIsBeingTypedHoldsTheInterviewOpenAndItsTranscriptKeepsItsDuration) {

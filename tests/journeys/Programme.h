@@ -9,9 +9,8 @@
 #include <QLabel>
 #include <QTimer>
 #include <filesystem>
-#include <functional>
 #include <map>
-#include <memory>
+#include <string>
 
 namespace vermo::essai {
 
@@ -20,6 +19,9 @@ inline constexpr const char* TETE =
     ">|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\n";
 inline constexpr const char* RTR = " 60 \r\n<|OBS|\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n";
 inline constexpr const char* EXTRAIT = "::1.00::001\r\nmot\r\n::3.00::\r\n";
+
+inline const std::string MONO = wav(1, 8, std::string(12000, '\x80')),
+                         STEREO = wav(2, 16, std::string(40000, '\0'));
 
 /// The window of this name on the screen, its timers stopped.
 inline Forme& forme(const char* nom) {
@@ -45,7 +47,7 @@ class Programme {
         std::string liste;
         for (const char lettre : lettres) {
             const std::string nom(1, lettre);
-            hote.dossier.ecrire("c/" + nom + ".wav", wav(1, 8, std::string(12000, '\x80')));
+            hote.dossier.ecrire("c/" + nom + ".wav", MONO);
             hote.dossier.ecrire("c/" + nom + ".Rtr", std::string(RTR) + EXTRAIT);
             liste += nom + ".wav\r\n";
         }
@@ -175,95 +177,6 @@ inline QPoint place(const Toile& toile, Controle controle, int index) {
         if (e.controle == controle && e.index == index)
             decalage = e.cadre.haut - toile.dansLaToile(e.cadre).haut;
     return lieu(toile, controle, index, decalage);
-}
-
-using Geste = std::function<void()>;
-
-/// What the person answers: a button of a box whose text holds `extrait`, or a file of the test's directory.
-struct Dit {
-    Reponse reponse;
-    std::string extrait;
-    bool fichier = false;
-};
-inline Dit fichier(const char* nom) {
-    return {Reponse::Ok, nom, true};
-}
-
-/// One row: a gesture, and what it changes.
-struct Ligne {
-    const char* id; ///< the control or the key, and what is done with it
-    Geste geste;
-    std::string effet;
-    std::vector<Dit> dits = {};
-    std::function<void(Programme&)> avant = {};
-};
-
-inline void repondre(Programme& programme, const std::vector<Dit>& dits) {
-    for (const Dit& dit : dits)
-        if (dit.fichier)
-            programme.hote.dialogues.choisir(
-                dit.extrait.empty() ? "" : programme.hote.dossier.chemin(dit.extrait));
-        else
-            programme.hote.dialogues.repondre(dit.reponse, dit.extrait);
-}
-
-/// Each row on a program of its own, whose corpus window was reached by the line `par` of the start window;
-/// or that stands at its start, by none. A question that is refused leaves the whole Session as it was.
-inline void verifier(const std::vector<Ligne>& table, const std::string& lettres,
-                     const char* par = "lblcorpus3") {
-    for (const Ligne& ligne : table) {
-        SCOPED_TRACE(ligne.id);
-        Programme programme(lettres);
-        programme.session.corpus.HauteurEntretien = 2000;
-        par ? programme.ouvrirCorpus(par) : programme.app.demarrer();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&forme(par ? "FrmCorpus" : "FrmIntro")));
-        if (ligne.avant) ligne.avant(programme);
-        programme.noter();
-        repondre(programme, ligne.dits);
-        ligne.geste();
-        EXPECT_EQ(programme.bilan(), ligne.effet);
-        EXPECT_TRUE(ligne.dits.empty() || !ligne.effet.empty() || programme.sessionIntacte());
-    }
-}
-
-/// Every control that answers has its row, and every button that shows draws something.
-inline void verifierTable(const QWidget& fenetre, const std::vector<Ligne>& table) {
-    for (QWidget* controle : fenetre.findChildren<QWidget*>()) {
-        const std::string nom = controle->objectName().toStdString() + " ";
-        const bool repond = controle->focusPolicy() != Qt::NoFocus && controle->isEnabled();
-        const auto sienne = [&](const Ligne& ligne) { return std::string(ligne.id).starts_with(nom); };
-        EXPECT_TRUE(!repond || std::ranges::any_of(table, sienne)) << "no row for " << nom;
-        if (!qobject_cast<BoutonImage*>(controle) || !controle->isVisible()) continue;
-        const QImage image = controle->grab().toImage().convertToFormat(QImage::Format_Indexed8);
-        EXPECT_GT(image.colorCount(), 1) << nom << "is blank";
-    }
-}
-
-inline Geste clic(const char* fenetre, const char* nom, QPoint ou = {}) {
-    return [=] { QTest::mouseClick(membre<QWidget>(forme(fenetre), nom), Qt::LeftButton, {}, ou); };
-}
-/// As the mouse does: the first click acts, the second press is the double click.
-inline Geste doubleClic(const char* fenetre, const char* nom) {
-    return [=] {
-        clic(fenetre, nom)();
-        QTest::mouseDClick(membre<QWidget>(forme(fenetre), nom), Qt::LeftButton);
-    };
-}
-/// A command of the menu with this title.
-inline Geste menu(const char* titre, const char* commande) {
-    return [=] {
-        clic("FrmCorpus", titre)();
-        clic("FrmMenu", commande)();
-    };
-}
-inline Geste touche(const char* fenetre, const char* nom, Qt::Key touche, Qt::KeyboardModifiers avec = {}) {
-    return [=] { QTest::keyClick(membre<QWidget>(forme(fenetre), nom), touche, avec); };
-}
-inline Geste suite(std::vector<Geste> gestes) {
-    return [gestes] {
-        for (const Geste& geste : gestes)
-            geste();
-    };
 }
 
 } // namespace vermo::essai
