@@ -126,10 +126,7 @@ void FrmCorpus::zoomer(float hauteur) {
     const Sablier sablier(plateforme_.ecran, Pointeur::FlecheSablier);
     surface(false);
     session_.corpus.HauteurEntretien = hauteur;
-    garder([this] {
-        RedessinerFrise();
-        RedessinerPistes();
-    });
+    garder([this] { fenetres_.annoncer({Sujet::Entretiens}); });
     surface(true);
     Frm_entretiens_->defiler(rangs * hauteur);
 }
@@ -138,10 +135,7 @@ void FrmCorpus::tailleReelle() {
     const Sablier sablier(plateforme_.ecran);
     surface(false);
     session_.corpus.TailleReelle = !session_.corpus.TailleReelle;
-    garder([this] {
-        RedessinerFrise();
-        RedessinerPistes();
-    });
+    garder([this] { fenetres_.annoncer({Sujet::Entretiens}); });
     surface(true);
 }
 
