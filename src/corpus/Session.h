@@ -19,6 +19,7 @@
 namespace vermo {
 
 constexpr int ENTRETIENS_MAX = 999;
+constexpr int THEMATIQUES_MAX = 999;
 constexpr int EXTRAITS_CORPUS_MAX = 999; ///< extracts of one interview in the corpus-wide tables
 
 /// One interview. Filled at each opening of a corpus.
