@@ -2,11 +2,11 @@
 
 #include "corpus/Panneaux.h"
 #include "corpus/Pistes.h"
-#include "corpus/ui/BarreDefilement.h"
 #include "corpus/ui/CroixDouble.h"
 #include "corpus/ui/ToileEntretiens.h"
 #include "corpus/ui/ToileThematiques.h"
 #include "platform/Sablier.h"
+#include "window/ui/BarreDefilement.h"
 #include "window/ui/Glace.h"
 
 #include <QCloseEvent>
@@ -47,19 +47,19 @@ void FrmCorpus::montrerFrise() {
 
 void FrmCorpus::montrerPistes() {
     Frm_entretiens_->disposer();
-    Frm_thm_->disposer();
+    Frm_thm_->redessiner();
     montrerComptes();
 }
 
 void FrmCorpus::ConstruireThematiques() {
-    Frm_thm_->disposer();
+    Frm_thm_->redessiner();
     montrerComptes();
 }
 
 void FrmCorpus::viderAffichage() {
     lblCaption1_->setText(utf8VersQt(session_.corpus.CheminCorpus));
     Frm_entretiens_->vider();
-    Frm_thm_->elements({});
+    Frm_thm_->redessiner();
     PictTps_->hide();
     LblScroll_->hide();
     LblVide_->hide();
