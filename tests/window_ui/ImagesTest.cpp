@@ -7,7 +7,7 @@
 namespace vermo {
 namespace {
 
-TEST(Images, EachIconDrawsSomethingAtAnySize) {
+TEST(ImagesTest, EachIconDrawsSomethingAtAnySize) {
     int nombre = 0;
     for (const auto& fichier : std::filesystem::directory_iterator(VERMO_RACINE "/resources/icones"))
         for (const int cote : {16, 32}) {
