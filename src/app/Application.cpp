@@ -28,6 +28,9 @@ Application::Application(Session& session, Plateforme& plateforme,
     : session_(session), plateforme_(plateforme), brancherProgression_(std::move(brancherProgression)) {
     constexpr int reposMs = 300;
     plateforme_.media.surChangementEtat = [this](EtatLecture etat) { suivreEtat(etat); };
+    plateforme_.media.surDeplacement = [this] {
+        if (saisie_) saisie_->suivreLecteur();
+    };
     repos_.setSingleShot(true);
     repos_.setInterval(reposMs);
     connect(&repos_, &QTimer::timeout, this, [this] {
@@ -37,6 +40,7 @@ Application::Application(Session& session, Plateforme& plateforme,
 
 Application::~Application() {
     plateforme_.media.surChangementEtat = nullptr;
+    plateforme_.media.surDeplacement = nullptr;
     for (Forme* forme : {ouverte(Fenetre::FrmSaisie), ouverte(Fenetre::FrmVisu), ouverte(Fenetre::FrmMenu),
                          ouverte(Fenetre::FrmCorpus), ouverte(Fenetre::FrmIntro)})
         delete forme;

@@ -57,6 +57,8 @@ class LecteurMedia {
 
     /// Called after each change of `playState`, on the interface thread.
     std::function<void(EtatLecture)> surChangementEtat;
+    /// Called after each position that is asked for: who follows a player that stands still looks then.
+    std::function<void()> surDeplacement;
 
     bool enLecture() const { return playState() == EtatLecture::Lecture; }
 };

@@ -56,6 +56,7 @@ void LecteurDiffere::stop() {
 
 void LecteurDiffere::currentPosition(double secondes) {
     if (lecteur_) lecteur_->currentPosition(secondes);
+    if (surDeplacement) surDeplacement();
 }
 
 void LecteurDiffere::volume(int part) {

@@ -47,6 +47,8 @@ class FrmSaisie : public Forme {
 
     /// The player changed its state: the play button shows it.
     void suivreEtat(bool joue);
+    /// The play loop looks at the player, and goes on as long as it plays.
+    void suivreLecteur();
 
   protected:
     bool event(QEvent* evenement) override;

@@ -54,6 +54,12 @@ void FrmSaisie::creerEcoute() {
 
 void FrmSaisie::suivreEtat(bool joue) {
     ImgMedia_->icone(joue ? QStringLiteral("Pause") : QStringLiteral("Lecture"));
+    suivreLecteur();
+}
+
+/// Lengthening follows the player by a timer of its own.
+void FrmSaisie::suivreLecteur() {
+    if (!Timer4_.isActive()) Timer1_.start();
 }
 
 void FrmSaisie::positionner(double secondes) {
@@ -74,8 +80,9 @@ void FrmSaisie::basculerLecture() {
 
 void FrmSaisie::Timer1_Tick() {
     LblTimer_->hide();
-    if (!isVisible()) return;
     LecteurMedia& media = plateforme_.media;
+    if (!media.enLecture()) Timer1_.stop(); // until it plays again or is sent elsewhere
+    if (!isVisible()) return;
     const bool arrete = media.playState() == EtatLecture::Arrete;
     const auto boucle =
         saisie::suivreBoucle(session_, media.currentPosition(), Pict_saisie_->largeurTwips(), arrete);
@@ -95,6 +102,7 @@ void FrmSaisie::Timer3_Tick() {
     const auto decompte = saisie::compter(session_, isVisible(), secondes_);
     LblTimer_->setVisible(decompte.montrer);
     LblTimer_->setText(versQt(decompte.LblTimer));
+    suivreLecteur(); // the next tick hides the count again
     if (decompte.arreter) Timer3_.stop();
     if (!decompte.position) return;
     positionner(*decompte.position);
@@ -114,6 +122,7 @@ void FrmSaisie::portionSuivante() {
 
 void FrmSaisie::MontrerPortion(double debut, double fin) {
     portion_ = saisie::MontrerPortion(session_, debut, fin, Pict_saisie_->largeurTwips());
+    suivreLecteur();
     rafraichirOnde();
 }
 
