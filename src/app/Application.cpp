@@ -34,7 +34,10 @@ Application::Application(Session& session, Plateforme& plateforme,
     repos_.setSingleShot(true);
     repos_.setInterval(reposMs);
     connect(&repos_, &QTimer::timeout, this, [this] {
-        if (corpus_) corpus_->garder([this] { preparerVisu(); });
+        if (corpus_)
+            corpus_->garder([this] { preparerVisu(); });
+        else if (intro_)
+            intro_->garder([this] { corpus().preparer(); });
     });
 }
 
@@ -48,6 +51,7 @@ Application::~Application() {
 
 void Application::demarrer() {
     montrer(Fenetre::FrmIntro);
+    repos_.start();
 }
 
 FrmIntro& Application::intro() {

@@ -73,6 +73,7 @@ class Application final : public QObject, public Fenetres {
     Forme* ouverte(Fenetre fenetre) const; ///< nullptr where it isn't loaded
 
     bool lireCorpus(); ///< the steps of an opening behind the choice of the file
+    void montrerCorpusVide();
     void lireAttributs(int slot);
     void enregistrerEntretiens();
     void importer();
@@ -91,7 +92,7 @@ class Application final : public QObject, public Fenetres {
     QPointer<FrmVisu> reserve_; ///< made while the corpus window idled, for the next interview
     QPointer<FrmSaisie> saisie_;
     bool importEnCours_ = false;
-    QTimer repos_; ///< runs out when an interview may be opened next
+    QTimer repos_; ///< runs out when a corpus or an interview may be opened next
 };
 
 } // namespace vermo

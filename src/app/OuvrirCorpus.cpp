@@ -10,6 +10,10 @@
 #include "corpus/ui/FrmCorpus.h"
 #include "data/Variables.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QScopeGuard>
+#include <QWindow>
 #include <utility>
 
 namespace vermo {
@@ -39,6 +43,8 @@ void Application::OuvrirCorpus() {
 
 /// False when the corpus could not be opened: the window stays emptied and its pointer the hourglass.
 bool Application::lireCorpus() {
+    const auto progression = qScopeGuard([this] { plateforme_.progression.fin(); });
+    if (!visible(Fenetre::FrmCorpus)) montrerCorpusVide();
     nommerCorpus(session_);
     MettreAJourProjets(session_, plateforme_);
     viderCorpus(session_);
@@ -56,6 +62,17 @@ bool Application::lireCorpus() {
         lireAttributs(slot);
     repos_.start();
     return true;
+}
+
+/// The window on the screen before the files are read: empty, and its bar says that there is more to come.
+void Application::montrerCorpusVide() {
+    constexpr int attenteMs = 200;
+    montrer(Fenetre::FrmCorpus);
+    plateforme_.progression.montrer();
+    const QDeadlineTimer limite(attenteMs);
+    QTimer::singleShot(attenteMs, &corpus(), [] {}); // wakes the loop when the system doesn't show the window
+    while (!corpus().windowHandle()->isExposed() && !limite.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
 }
 
 /// A fault in one interview's attributes is told once for this file, and the opening goes on.
