@@ -81,6 +81,8 @@ void FrmVisu::creerControles() {
     TxtCtrl_->setAccessibleName(tr("Commandes de l'entretien"));
     TxtCtrl_->setAttribute(Qt::WA_InputMethodEnabled, false);
     TxtCtrl_->setFrame(false);
+    TxtCtrl_->setReadOnly(
+        true); // keys are taken before it sees them, and its cursor has nothing to blink for
     TxtCtrl_->installEventFilter(this);
 }
 
