@@ -12,6 +12,7 @@ namespace vermo {
 void FrmVisu::Timer1_Tick() {
     direEtatSon();
     LecteurMedia& media = plateforme_.media;
+    if (!media.enLecture()) Timer1_.stop(); // until its state changes
     if (ferme_ || !media.enLecture() || fenetres_.visible(Fenetre::FrmSaisie)) return;
     EtatAudio& audio = session_.audio;
     const double p = media.currentPosition();
@@ -67,6 +68,7 @@ void FrmVisu::TimerMoins_Tick() {
 
 void FrmVisu::Media_PlayStateChange(EtatLecture etat) {
     suivreVolume(session_.audio, plateforme_.media);
+    Timer1_.start();
     const bool joue = enMouvement(etat);
     ImgMedia_[4]->setVisible(joue);
     ImgMedia_[1]->setVisible(!joue);
