@@ -1,10 +1,10 @@
 #pragma once
+#include "app/Formes.h"
 #include "corpus/Session.h"
 #include "platform/Plateforme.h"
 #include "window/Fenetres.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QTimer>
 #include <functional>
 
@@ -12,17 +12,12 @@ class QProgressBar;
 
 namespace vermo {
 
-class Forme;
 class FrmCorpus;
-class FrmIntro;
-class FrmMenu;
-class FrmSaisie;
-class FrmVisu;
+enum class Etape;
+struct SuiteListe;
 
-/// The program: makes each window at its first reference, unloads it, and runs the sequences that go through
-/// several windows. All that windows say to each other passes here.
-///
-/// A window that is unloaded is hidden at once and deleted once its own events have returned.
+/// The program: shows the windows, runs the sequences that go through several of them, and hands each notice
+/// of what changed to every window that is loaded. All that windows say to each other passes here.
 class Application final : public QObject, public Fenetres {
     Q_OBJECT
   public:
@@ -34,48 +29,34 @@ class Application final : public QObject, public Fenetres {
     /// Shows the start window.
     void demarrer();
 
-    void montrer(Fenetre fenetre) override;
+    void montrer(Fenetre fenetre, const Contenu& contenu = {}) override;
     void cacher(Fenetre fenetre) override;
     void decharger(Fenetre fenetre) override;
     bool visible(Fenetre fenetre) const override;
-    bool saisieEntamee() const override;
+    bool entamee(Fenetre fenetre) const override;
     void finir() override;
+    void annoncer(const Avis& avis) override;
 
     void NouveauCorpus() override;
     void OuvrirCorpus() override;
     void ImporterEntretien() override;
-    void ouvrirEntretien(int slot, Ouverture ouverture) override;
     void retirerEntretien() override;
     void DeplacerEntretien(int source, int cible) override;
-    void basculerTailleReelle(bool redessiner) override;
-    void reglerVolume(int part) override;
-
-    void OuvrirMenu(Panneau panneau, Rectangle ancre) override;
-    void RedessinerFrise() override;
-    void RedessinerPistes() override;
-    void ConstruireThematiques() override;
-    void rafraichirExtraits() override;
-    void quitterVisu() override;
-    void PreparerSaisie() override;
-    void OuvrirExtrait(int n) override;
 
   signals:
     /// The last window is to go: the event loop ends.
     void fini();
 
   private:
-    FrmIntro& intro();
     FrmCorpus& corpus();
-    FrmMenu& menu();
-    FrmVisu& visu();
-    FrmSaisie& saisie();
-    Forme& forme(Fenetre fenetre);         ///< made if need be
-    Forme* ouverte(Fenetre fenetre) const; ///< nullptr where it isn't loaded
 
-    bool lireCorpus(); ///< the steps of an opening behind the choice of the file
-    void lireAttributs(int slot);
-    void enregistrerEntretiens();
+    void brancher(Forme& forme);
+    void transmettre(const Avis& avis);
+    void montrerEtape(Etape etape);
+    void rouvrirCorpus();
+    void suivreListe(const SuiteListe& suite);
     void importer();
+    void ouvrirEntretien(const EntretienVoulu& voulu);
     void montrerEntretien(Ouverture ouverture);
     void desactiverCorpus();
     void preparerVisu();
@@ -84,12 +65,7 @@ class Application final : public QObject, public Fenetres {
     Session& session_;
     Plateforme& plateforme_;
     std::function<void(QProgressBar*)> brancherProgression_;
-    QPointer<FrmIntro> intro_;
-    QPointer<FrmCorpus> corpus_;
-    QPointer<FrmMenu> menu_;
-    QPointer<FrmVisu> visu_;
-    QPointer<FrmVisu> reserve_; ///< made while the corpus window idled, for the next interview
-    QPointer<FrmSaisie> saisie_;
+    Formes formes_;
     bool importEnCours_ = false;
     QTimer repos_; ///< runs out when an interview may be opened next
 };

@@ -187,4 +187,11 @@ void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
     prendreTable(corpus.Entretiens[indice(slot)], table);
 }
 
+void quitterEntretien(Session& session, Plateforme& plateforme) {
+    const int slot = session.corpus.EntretienCourant;
+    if (slot == 0) return;
+    RelireEntretien(session, plateforme, slot);
+    plateforme.annonces.annoncer({Sujet::Entretiens, slot});
+}
+
 } // namespace vermo

@@ -43,4 +43,7 @@ void AnalyserEntretiens(Session& session, Plateforme& plateforme, int premier, i
 /// the file has them. Without a file the rows stay empty, without a message.
 void RelireEntretien(Session& session, Plateforme& plateforme, int slot);
 
+/// EntretienCourant is left: its extracts are read again, and what its row shows is announced.
+void quitterEntretien(Session& session, Plateforme& plateforme);
+
 } // namespace vermo

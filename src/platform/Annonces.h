@@ -12,7 +12,6 @@ enum class Sujet {
     Extraits,    ///< the extracts of one interview
     Attributs,   ///< the attributes of one interview
     Volume,
-    Echelle, ///< height and scale of the rows
 };
 
 /// One notice: something has changed, and stands.

@@ -6,39 +6,29 @@
 
 using namespace vermo;
 
-namespace {
-
-EtatAudio etat() {
-    return {.DureeFichier = 200, .DebutZoom = 50, .FinZoom = 70, .DureeZoom = 20, .EnteteWav = {}};
-}
-
-} // namespace
-
-TEST(Suivi, FollowsThePosition) {
-    SuiviLecture suivi = suivreLecture(etat(), 60.4, 4000, 2000);
+TEST(Following, FollowsThePositionAndTheMark) {
+    EtatAudio audio{.DureeFichier = 200, .DebutZoom = 50, .FinZoom = 70, .DureeZoom = 20, .EnteteWav = {}};
+    const SuiviLecture suivi = suivreLecture(audio, 60.4, 4000, 2000);
     EXPECT_EQ(suivi.LblCompteur, "01:00");
     EXPECT_NEAR(suivi.largeurCurseurZoom, 10.4 / 20 * 2120, 1e-6);
     EXPECT_NEAR(suivi.gaucheCurseur, 1208 + 30, 1e-6);
     EXPECT_EQ(suivi.Reprise, 60);
-    EXPECT_FALSE(suivreLecture(etat(), 68.867, 4000, 2000).pageFinie); // 20 x 2000 / 2120
-    EXPECT_TRUE(suivreLecture(etat(), 68.868, 4000, 2000).pageFinie);
-}
-
-TEST(Suivi, ShowsTheSpanMarkedByTheKeyboard) {
-    EtatAudio audio = etat();
+    EXPECT_FALSE(suivi.TotalSelect);
+    EXPECT_FALSE(suivreLecture(audio, 68.867, 4000, 2000).pageFinie); // 20 x 2000 / 2120
+    EXPECT_TRUE(suivreLecture(audio, 68.868, 4000, 2000).pageFinie);
     audio.MarqueDebut = 55;
-    const SuiviLecture suivi = suivreLecture(audio, 60, 4000, 2000);
-    EXPECT_EQ(suivi.TotalSelect, (Etendue{1100, 100}));
-    EXPECT_EQ(suivi.ZoomSelect, (Etendue{500, 1060 - 500}));
+    const SuiviLecture marquee = suivreLecture(audio, 60, 4000, 2000);
+    EXPECT_EQ(marquee.TotalSelect, (Etendue{1100, 100}));
+    EXPECT_EQ(marquee.ZoomSelect, (Etendue{500, 1060 - 500}));
 }
 
-TEST(Suivi, TheSoundFadesFromTheVolumeThatWasSet) {
+TEST(Following, TheSoundFadesFromTheVolumeThatWasSet) {
     EXPECT_EQ(volumeFondu(0.8F, 80), std::nullopt);
     EXPECT_EQ(volumeFondu(0.5F, 80), 50);
     EXPECT_EQ(volumeFondu(0.5F, 0), std::nullopt); // not known yet
 }
 
-TEST(Suivi, TheVolumeIsLearntOnceAndThenGiven) {
+TEST(Following, TheVolumeIsLearntOnceAndThenGiven) {
     EtatAudio audio;
     essai::LecteurSimule media;
     media.volume(70);

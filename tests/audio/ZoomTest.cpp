@@ -20,7 +20,7 @@ std::pair<double, double> empan(const EtatAudio& audio) {
 
 } // namespace
 
-TEST(Zoom, DoublesAndHalvesWithinItsBounds) {
+TEST(ZoomSpan, DoublesAndHalvesWithinItsBounds) {
     EtatAudio audio = place(10000, 50, 50 + 10000.0 / 256);
     EXPECT_TRUE(zoomer(audio));
     EXPECT_EQ(audio.FacteurZoom, 512);
@@ -31,7 +31,7 @@ TEST(Zoom, DoublesAndHalvesWithinItsBounds) {
     EXPECT_FALSE(dezoomer(audio));
 }
 
-TEST(Zoom, MovesByATwentieth) {
+TEST(ZoomSpan, MovesByATwentieth) {
     EtatAudio audio = place(100, 1, 41);
     reculerEmpan(audio);
     EXPECT_EQ(empan(audio), (std::pair(0.0, 40.0)));
@@ -42,7 +42,7 @@ TEST(Zoom, MovesByATwentieth) {
     EXPECT_EQ(empan(audio), (std::pair(60.0, 100.0)));
 }
 
-TEST(Zoom, TheOverviewLandsOnAGridOf15Seconds) {
+TEST(ZoomSpan, TheOverviewLandsOnAGridOf15Seconds) {
     EtatAudio audio = place(100, 10, 30);
     EXPECT_EQ(choisirSurVue(audio, 3700, 3700, 10000), 30); // 37 s
     EXPECT_EQ(empan(audio), (std::pair(30.0, 50.0)));
@@ -59,7 +59,7 @@ TEST(Zoom, TheOverviewLandsOnAGridOf15Seconds) {
     EXPECT_EQ(audio.FinZoom, 35);
 }
 
-TEST(Zoom, DragsPanAndScroll) {
+TEST(ZoomSpan, DragsPanAndScroll) {
     EtatAudio audio = place(100, 10, 30);
     deplacerEmpan(audio, 800, 300, 1000);
     EXPECT_EQ(audio.DebutZoom, 20);

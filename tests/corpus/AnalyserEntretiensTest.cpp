@@ -1,4 +1,4 @@
-#include "CorpusDEssai.h"
+#include "support/CorpusDEssai.h"
 #include "textfile/fichier.h"
 
 #include <chrono>
@@ -25,7 +25,7 @@ struct Analyse {
     }
 };
 
-TEST(Analyser, LignesEtFautes) {
+TEST(Analysis, RowsAndFaults) {
     const std::string ok = "::1::001\r\nt\r\n::2::\r\n",
                       coupee = "9: Ligne de repère coupée : le second « :: » manque.";
     const std::tuple<std::string, std::string, std::string> cas[] = {
@@ -61,7 +61,7 @@ TEST(Analyser, LignesEtFautes) {
     }
 }
 
-TEST(Analyser, LimiteEtLigneLongue) {
+TEST(Analysis, TheLimitAndALongLine) {
     std::string octets = ENTETE;
     for (int n = 0; n < 999; ++n)
         octets += "::1,00::000\r\nt\r\n::2,00::\r\n";
@@ -77,7 +77,7 @@ TEST(Analyser, LimiteEtLigneLongue) {
 }
 
 /// Three interviews: a good one, one under test, a good one.
-struct Balayage : testing::Test {
+struct Scan : testing::Test {
     CorpusDEssai essai;
     void ouvrir(const std::string& rtr) {
         essai.ajouterEntretien("a", ENTETE + std::string("::1::001\r\n::3::\r\n"));
@@ -89,7 +89,7 @@ struct Balayage : testing::Test {
     const Entretien& entretien(std::size_t slot) { return essai.corpus().Entretiens[slot]; }
 };
 
-TEST_F(Balayage, RemplitLesEntretiens) {
+TEST_F(Scan, FillsTheInterviews) {
     ouvrir(" 50,0 \r\nx\r\n <|OBS| \r\nun\r\n\r\ndeux\r\n>|OBS|\r\n<|ATTR|\r\n1,2\r\n>|ATTR|\r\n"
            "::10,00::001\r\nt\r\n::17,50::\r\n::20::002\r\n::17,5::\r\n");
     essai.analyser();
@@ -101,7 +101,7 @@ TEST_F(Balayage, RemplitLesEntretiens) {
     EXPECT_EQ(decrireExtraits(essai.session, 2), "10,00;17,50;001;t/;|20;17,5;002;;");
 }
 
-TEST_F(Balayage, UneFauteEstDiteUneFoisEtLeRestePasse) {
+TEST_F(Scan, TellsAFaultOnceAndGoesOn) {
     ouvrir(ENTETE + std::string("::1::001\r\nt\r\n::2::\r\n::lone\r\n"));
     const Utf8 rtr = essai.dossier().chemin("c/b.Rtr");
     essai.dialogues().repondre(Reponse::Ok, "le second « :: » manque.\n" + rtr + ", ligne 9");
@@ -116,8 +116,8 @@ TEST_F(Balayage, UneFauteEstDiteUneFoisEtLeRestePasse) {
     EXPECT_EQ(decrireExtraits(essai.session, 2), "");
 }
 
-TEST_F(Balayage, FichiersQuiManquentOuNeSeLisentPas) {
-    ouvrir(ENTETE);
+TEST_F(Scan, FilesThatMissOrCannotBeRead) {
+    ouvrir(ENTETE + std::string("::1::001\r\n::3::\r\n"));
     essai.analyser();
     std::filesystem::remove(essai.dossier().chemin("c/b.wav"));
     std::filesystem::remove(essai.dossier().chemin("c/b.Rtr"));
@@ -132,10 +132,11 @@ TEST_F(Balayage, FichiersQuiManquentOuNeSeLisentPas) {
     essai.dossier().ecrire("c/b.wav", "");
     std::filesystem::create_directory(essai.dossier().chemin("c/b.Rtr"));
     essai.analyser();
+    EXPECT_EQ(decrireExtraits(essai.session, 2), "");
     EXPECT_FLOAT_EQ(entretien(3).NbExtraits, 1);
 }
 
-TEST_F(Balayage, UnFichierInchangeNEstPasRelu) {
+TEST_F(Scan, AnUnchangedFileIsNotReadAgain) {
     ouvrir(ENTETE + std::string("::1::001\r\nun texte assez long\r\n::2::\r\n"));
     essai.analyser();
     const std::filesystem::path rtr = essai.dossier().chemin("c/b.Rtr");
@@ -149,6 +150,7 @@ TEST_F(Balayage, UnFichierInchangeNEstPasRelu) {
     ASSERT_TRUE(essai.ouvrir());
     essai.analyser();
     EXPECT_EQ(essai.corpus().extraits[3].tampon.data(), place);
+    EXPECT_TRUE(essai.corpus().anciensExtraits.empty());
     EXPECT_EQ(decrireExtraits(essai.session, 3), "1;2;001;un texte assez long/;");
     EXPECT_FLOAT_EQ(entretien(3).Duree, 100);
     std::filesystem::last_write_time(rtr, date + std::chrono::nanoseconds(1000));
@@ -156,7 +158,7 @@ TEST_F(Balayage, UnFichierInchangeNEstPasRelu) {
     EXPECT_EQ(decrireExtraits(essai.session, 3), "1;2;001;UN TEXTE ASSEZ LONG/;");
 }
 
-TEST_F(Balayage, RelireEntretien) {
+TEST_F(Scan, ReadsOneInterviewAgain) {
     ouvrir(ENTETE + std::string("::1::001\r\n::2::\r\n::3::001\r\n::4::\r\n"));
     essai.analyser();
     essai.dossier().ecrire("c/b.Rtr", ENTETE + std::string("::5::002\r\n::10::\r\n"));

@@ -20,7 +20,7 @@ struct Import : testing::Test {
     std::string dernier() const { return hote.dialogues.dernier(); }
 };
 
-TEST_F(Import, QuestionDuFormat) {
+TEST_F(Import, AsksAboutTheFormat) {
     // Bits, channels, and the format's name in the question; empty: nothing is asked.
     const std::tuple<std::int16_t, std::int16_t, std::string> cas[] = {
         {8, 1, ""}, {24, 1, ""}, {16, 1, "Mono - 16 bits"}, {8, 2, "Stereo - 8 bits"}};
@@ -28,21 +28,16 @@ TEST_F(Import, QuestionDuFormat) {
         EnTeteWav enTete;
         enTete.BitsParEchantillon = bits;
         enTete.NbCanaux = canaux;
-        if (!nom.empty()) hote.dialogues.repondre(Reponse::Non, nom);
-        EXPECT_EQ(demanderFormat(enTete, hote), ChoixFormat::Garder) << nom;
-        if (nom.empty()) continue;
-        hote.dialogues.repondre(Reponse::Oui).repondre(Reponse::Annuler);
-        EXPECT_EQ(demanderFormat(enTete, hote), ChoixFormat::Convertir);
-        EXPECT_EQ(demanderFormat(enTete, hote), ChoixFormat::Annuler);
+        for (const auto& [reponse, choix] : {std::pair(Reponse::Non, ChoixFormat::Garder),
+                                             {Reponse::Oui, ChoixFormat::Convertir},
+                                             {Reponse::Annuler, ChoixFormat::Annuler}}) {
+            if (!nom.empty()) hote.dialogues.repondre(reponse, " est au format : \n" + nom + " \n\nPour ");
+            EXPECT_EQ(demanderFormat(enTete, hote), nom.empty() ? ChoixFormat::Garder : choix) << nom;
+        }
     }
-    EXPECT_EQ(dernier(),
-              "Vermo - Conversion de fichier?|Le fichier que vous souhaitez importer est au format : \\n"
-              "Stereo - 8 bits \\n\\nPour travailler dans Vermo, le Format 8 bits mono est "
-              "préférable...\\nSouhaitez-vous utiliser le convertisseur?|OuiNonAnnuler|Question "
-              "-> Annuler");
 }
 
-TEST_F(Import, Convertisseur) {
+TEST_F(Import, StartsTheConverter) {
     hote.dialogues.repondre(Reponse::Ok);
     lancerConvertisseur(hote);
     EXPECT_EQ(dernier(), "Vermo|Impossible de lancer le convertisseur!\\nLe fichier " +
@@ -53,7 +48,7 @@ TEST_F(Import, Convertisseur) {
     EXPECT_EQ(hote.lanceur.lances, std::vector<Utf8>{chemin});
 }
 
-TEST_F(Import, Copie) {
+TEST_F(Import, CopiesAfterAYes) {
     const Utf8 ailleurs = hote.dossier.ecrire("ailleurs/LA.wav", "neuf");
     EXPECT_TRUE(apporterDansCorpus(session, hote, hote.dossier.chemin("c/../c/la.wav")));
     EXPECT_TRUE(hote.dialogues.journal().empty());
@@ -75,7 +70,7 @@ TEST_F(Import, Copie) {
                              "\\nIl va maintenant être ajouté au projet.|Ok|Information -> Ok");
 }
 
-TEST_F(Import, CopieImpossibleOuAbandonnee) {
+TEST_F(Import, TellsACopyThatFailsAndTakesBackOneGivenUp) {
     const Utf8 source = hote.dossier.ecrire("ailleurs/x.wav", "neuf");
     hote.dialogues.repondre(Reponse::Ok)
         .repondre(Reponse::Ok,
@@ -89,7 +84,7 @@ TEST_F(Import, CopieImpossibleOuAbandonnee) {
     EXPECT_EQ(hote.ecran.pointeurCourant, Pointeur::Normal);
 }
 
-TEST_F(Import, Duree) {
+TEST_F(Import, MeasuresTheDuration) {
     hote.media.durees["la.wav"] = 12.5;
     EXPECT_EQ(mesurerDuree(hote, hote.dossier.chemin("c/la.wav")), 12.5);
     hote.media.durees["la.wav"] = 0;
@@ -101,7 +96,7 @@ TEST_F(Import, Duree) {
     EXPECT_LE(hote.progression.patience, 0);
 }
 
-TEST_F(Import, EntretienEtRetranscription) {
+TEST_F(Import, AddsTheInterviewAndItsTranscript) {
     ajouterEntretien(session, "la.wav", 12.5);
     creerRetranscription(session, 1);
     EXPECT_EQ(hote.dossier.lire("c/la.Rtr"), " 12,5 \r\n<|OBS|\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n");

@@ -1,7 +1,7 @@
-#include "CorpusDEssai.h"
 #include "corpus/EcritureCorpus.h"
 #include "corpus/Ordre.h"
 #include "formats/FichierCorpus.h"
+#include "support/CorpusDEssai.h"
 #include "textfile/faute.h"
 
 #include <filesystem>
@@ -16,19 +16,23 @@ using essai::ordre;
 
 constexpr const char* PAS = "000,&H0, Pas de thematique\r\n";
 
-TEST(OuvertureCorpus, Dialogue) {
+TEST(Opening, AsksForACorpus) {
     CorpusDEssai essai;
     essai.corpus().CheminCorpus = "/x/a.Crp";
+    essai.corpus().HauteurEntretien = 500;
     essai.dialogues().choisir("").choisir("/x/a.Crp").repondre(Reponse::Ok).choisir("/y z/b.Crp");
     EXPECT_FALSE(demanderCorpus(essai.session, essai.hote));
     EXPECT_FALSE(demanderCorpus(essai.session, essai.hote));
+    EXPECT_EQ(essai.corpus().CheminCorpus, "/x/a.Crp");
+    EXPECT_EQ(essai.corpus().HauteurEntretien, 500);
     EXPECT_TRUE(demanderCorpus(essai.session, essai.hote));
+    EXPECT_EQ(essai.corpus().HauteurEntretien, 0) << "to be reckoned for the corpus that opens";
     nommerCorpus(essai.session);
     EXPECT_EQ(essai.corpus().RepCorpus + "|" + essai.corpus().NomCorpus, "/y z/|b.Crp");
     EXPECT_EQ(essai.dialogues().journal()[2], "|Ce corpus est déjà ouvert!|Ok|Exclamation -> Ok");
 }
 
-TEST(OuvertureCorpus, LitTout) {
+TEST(Opening, ReadsWhatIsThere) {
     CorpusDEssai essai;
     essai.ajouterEntretien("a", ENTETE);
     essai.ajouterEntretien("b", ENTETE);
@@ -42,7 +46,7 @@ TEST(OuvertureCorpus, LitTout) {
     EXPECT_EQ(essai.corpus().ThmNom[2], " Ecole, travail");
 }
 
-TEST(OuvertureCorpus, HauteurDesLignes) {
+TEST(Opening, RowHeight) {
     const std::tuple<std::int16_t, float, Twips, float> cas[] = {
         {0, 0.F, 9000, 335.F}, {2, 0.F, 3000.6, 880.F}, {40, 0.F, 9000, 335.F}, {3, 500.F, 9000, 500.F}};
     for (const auto& [nombre, avant, cadre, attendue] : cas) {
@@ -54,7 +58,7 @@ TEST(OuvertureCorpus, HauteurDesLignes) {
     }
 }
 
-TEST(OuvertureCorpus, CorpusRefuses) {
+TEST(Opening, RefusesWhatItCannotRead) {
     const std::pair<std::string, std::string> cas[] = {
         {"<|ENTR|\r\n>|ENTR|\r\n",
          "Erreur lors de la recherche des thématiques|"
@@ -78,7 +82,7 @@ TEST(OuvertureCorpus, CorpusRefuses) {
     }
 }
 
-TEST(OuvertureCorpus, TropDEntretiens) {
+TEST(Opening, RefusesTooManyInterviews) {
     CorpusDEssai essai;
     std::string lignes;
     for (int i = 0; i < 1000; ++i)
@@ -88,7 +92,7 @@ TEST(OuvertureCorpus, TropDEntretiens) {
     EXPECT_THROW(EcrireEntretiens(essai.session, essai.hote), FauteExecution);
 }
 
-TEST(OuvertureCorpus, NouveauCorpus) {
+TEST(Opening, MakesACorpus) {
     CorpusDEssai essai;
     const Utf8 chemin = essai.dossier().ecrire("neuf/N.Crp", "ancien");
     essai.dialogues().choisir("").choisir(chemin);
@@ -100,7 +104,7 @@ TEST(OuvertureCorpus, NouveauCorpus) {
     EXPECT_EQ(essai.corpus().CheminCorpus, chemin);
 }
 
-TEST(Projets, ListeEtMiseAJour) {
+TEST(RecentList, IsShownAndUpdated) {
     CorpusDEssai essai;
     const Emplacements& lieux = essai.hote.plateforme.emplacements;
     EXPECT_TRUE(listeProjets(lieux).empty());
@@ -118,7 +122,7 @@ TEST(Projets, ListeEtMiseAJour) {
     EXPECT_EQ(listeProjets(lieux)[0], "/d.Crp");
 }
 
-struct Ecriture : testing::Test {
+struct CorpusRewriting : testing::Test {
     CorpusDEssai essai;
     void SetUp() override {
         essai.ajouterEntretien("a", ENTETE);
@@ -130,7 +134,7 @@ struct Ecriture : testing::Test {
     }
 };
 
-TEST_F(Ecriture, ThematiquesPuisEntretiens) {
+TEST_F(CorpusRewriting, ThematicsThenInterviews) {
     essai.corpus().ThmCode[2].clear();
     essai.corpus().ThmNom[3] = " Deux, \"trois\"";
     essai.dossier().ecrire("c/Essai.Crp.$$$", "reste");
@@ -149,7 +153,7 @@ TEST_F(Ecriture, ThematiquesPuisEntretiens) {
         EXPECT_EQ(essai.dossier().lire(nom), attendu + "a.wav\r\n>|ENTR|\r\n");
 }
 
-TEST_F(Ecriture, SansBaliseLeCorpusResteTelQuel) {
+TEST_F(CorpusRewriting, WithoutATagTheFileStays) {
     essai.dossier().ecrire("c/Essai.Crp", "rien\r\n");
     essai.dialogues().repondre(Reponse::Ok, "des thématiques").repondre(Reponse::Ok, "des entretiens");
     EcrireThematiques(essai.session, essai.hote);
@@ -157,18 +161,14 @@ TEST_F(Ecriture, SansBaliseLeCorpusResteTelQuel) {
     EXPECT_EQ(essai.dossier().lire("c/Essai.Crp"), "rien\r\n");
 }
 
-TEST(Ordre, DeplacerEntretien) {
-    const std::tuple<int, int, std::string> cas[] = {{3, 1, "c a b d "}, {1, 3, "b c a d "},
-                                                     {2, 2, "a b c d "}, {4, 3, "a b d c "},
-                                                     {0, 2, "a b c d "}, {1, 5, "a b c d "}};
+TEST(Order, MovesInterviewsWithTheirExtracts) {
+    const std::tuple<int, int, std::string> cas[] = {{3, 1, "3 1 2 4 "}, {1, 3, "2 3 1 4 "},
+                                                     {2, 2, "1 2 3 4 "}, {4, 3, "1 2 4 3 "},
+                                                     {0, 2, "1 2 3 4 "}, {1, 5, "1 2 3 4 "}};
     for (const auto& [source, cible, attendu] : cas) {
-        Session session;
-        session.corpus.Entretiens.resize(5);
-        session.corpus.extraits.resize(5);
-        session.corpus.NbEntretiens = 4;
+        Session session = essai::corpusDEssai(4);
         for (std::size_t i = 1; i <= 4; ++i)
-            session.corpus.Entretiens[i].Fichier = session.corpus.extraits[i].chemin =
-                std::string(1, static_cast<char>('a' + i - 1));
+            session.corpus.Entretiens[i].Fichier = session.corpus.extraits[i].chemin = std::to_string(i);
         DeplacerEntretien(session, source, cible);
         EXPECT_EQ(ordre(session.corpus), attendu);
         for (std::size_t i = 1; i <= 4; ++i)

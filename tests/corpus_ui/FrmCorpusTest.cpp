@@ -1,7 +1,7 @@
 #include "corpus/ui/FrmCorpus.h"
 
 #include "corpus/ui/ToileEntretiens.h"
-#include "corpus_ui/CorpusDEssai.h"
+#include "corpus_ui/Gestes.h"
 
 #include <QPainter>
 #include <algorithm>

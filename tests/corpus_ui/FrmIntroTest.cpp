@@ -1,6 +1,6 @@
 #include "corpus/ui/FrmIntro.h"
 
-#include "corpus_ui/CorpusDEssai.h"
+#include "corpus_ui/Gestes.h"
 #include "window/ui/Lien.h"
 
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "corpus/ui/FrmMenu.h"
 
 #include "corpus/ui/LblVol.h"
-#include "corpus_ui/CorpusDEssai.h"
+#include "corpus_ui/Gestes.h"
 
 namespace vermo {
 namespace {

@@ -12,7 +12,7 @@ const std::string CORPUS =
     "001,255,Famille, enfance\r\n>|THEM|\r\n<|POS|\r\n4,Profession\r\n>|POS|\r\n<|DIC|\r\n"
     "4,1,Enseignant, chercheur\r\n>|DIC|\r\n<|ENTR|\r\na.wav\r\n>|ENTR|\r\n";
 
-TEST(FichierCorpus, LitLesQuatreSections) {
+TEST(CorpusFile, ReadsItsFourSections) {
     using Textes = std::vector<Texte>;
     EXPECT_EQ(lireThematiques(CORPUS, "c.Crp"),
               (std::vector<Thematique>{{"000", "&H0", " Pas de th\xE9matique"},
@@ -29,7 +29,7 @@ TEST(FichierCorpus, LitLesQuatreSections) {
         EXPECT_EQ(lireEntretiens(octets), entretiens) << octets;
 }
 
-TEST(FichierCorpus, RefuseEnNommantLaLigne) {
+TEST(CorpusFile, RefusesWithTheLine) {
     const auto plein = [](const char* ligne, int fois) {
         std::string texte;
         while (fois-- > 0)
@@ -65,7 +65,7 @@ TEST(FichierCorpus, RefuseEnNommantLaLigne) {
     }
 }
 
-TEST(FichierCorpus, LaReecritureDesThematiquesGardeLesNomsEtTombeLesCodesVides) {
+TEST(CorpusFile, RewritingThematicsKeepsNamesAndDropsEmptyCodes) {
     const std::vector<Thematique> rangs = {{"000", "&H0", " Pas de th\xE9matique"},
                                            {"", "255", "perdue"},
                                            {"002", "16711680", " \"La\", vie \"dite\"\" bonne\""},
@@ -79,7 +79,7 @@ TEST(FichierCorpus, LaReecritureDesThematiquesGardeLesNomsEtTombeLesCodesVides) 
     EXPECT_EQ(ecrireThematiques(*ecrit, {rangs[0], rangs[2], rangs[3]}), *ecrit);
 }
 
-TEST(FichierCorpus, LaReecritureDesThematiquesCoupeLaTeteEtElleSeule) {
+TEST(CorpusFile, RewritingThematicsSplitsTheHeadAlone) {
     EXPECT_EQ(ecrireThematiques(
                   "Projet, dit  test\r \"entre, guillemets\"\rx <|THEM|\rvieux\r>|THEM|\r a, \"b\"\r\rfin",
                   {{"000", "0", "n"}}),
@@ -89,7 +89,7 @@ TEST(FichierCorpus, LaReecritureDesThematiquesCoupeLaTeteEtElleSeule) {
     EXPECT_EQ(ecrireThematiques("sans balise\r\n", {}), std::nullopt);
 }
 
-TEST(FichierCorpus, LaReecritureDesEntretiensMetLaSuiteEntreGuillemets) {
+TEST(CorpusFile, RewritingInterviewsQuotesWhatFollows) {
     const auto ecrit =
         ecrireEntretiens("Projet, le 3\r<|THEM|\r>|THEM|\r<|ENTR|\rvieux.wav\r>|ENTR|\rune, note\r\r",
                          {"a, b.wav", "", "\"c\".mp3"});

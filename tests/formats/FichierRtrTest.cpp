@@ -16,7 +16,7 @@ const std::string EXEMPLE = TETE +
                             "::10.00::001\r\nBonjour.\r\n::12.50::\r\n::20.25::004 Famille\r\nMes parents\r\n"
                             "habitaient ici.\r\n::31.00::\r\n";
 
-TEST(FichierRtr, LitEtAbsorbeLesLignesVides) {
+TEST(TranscriptFile, AbsorbsEmptyLines) {
     const Lecture lecture = lire(EXEMPLE, "a.Rtr");
     ASSERT_EQ(lecture.extraits.size(), 3U);
     EXPECT_EQ(lecture.extraits[2], (Extrait{"20.25", "31.00", "004", "Mes parents\rhabitaient ici.\r"}));
@@ -35,7 +35,7 @@ TEST(FichierRtr, LitEtAbsorbeLesLignesVides) {
     EXPECT_EQ(marque.extraits[2], (Extrait{"2", "3", "", "c\r"}));
 }
 
-TEST(FichierRtr, ReecritOctetPourOctet) {
+TEST(TranscriptFile, IsRewrittenByteForByte) {
     const std::string attendu = TETE + "::10.00::001\r\nBonjour.\r\r\n::12.50::\r\n"
                                        "::20.25::004\r\nMes parents\rhabitaient ici.\r\r\n::31.00::\r\n";
     for (const std::string& octets : {EXEMPLE, attendu}) {
@@ -45,12 +45,15 @@ TEST(FichierRtr, ReecritOctetPourOctet) {
     }
 }
 
-TEST(FichierRtr, EcritLesTempsArrondisEtLesExtraitsChoisis) {
-    const std::vector<Extrait> extraits = {
-        {}, {"-0.5", "1", "000", ""}, {"1.005", "12", "004 Vie", "t"}, {"2e1", "3", "", "\r"}};
+TEST(TranscriptFile, WritesRoundedTimesAndTheChosenExtracts) {
+    const std::vector<Extrait> extraits = {{},
+                                           {"-0.5", "1", "000", ""},
+                                           {"1.005", "12", "004 Vie", "t"},
+                                           {"2e1", "3", "", "\r"},
+                                           {"0", "4", "000", "z"}};
     const std::string tete = " .5 \r\n<|OBS|\r\n\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n";
     const std::string un = "::-0.50::000\r\n\r\n::1.00::\r\n", deux = "::1.01::004 Vie\r\nt\r\n::12.00::\r\n",
-                      trois = "::20.00::\r\n\r\r\n::3.00::\r\n";
+                      trois = "::20.00::\r\n\r\r\n::3.00::\r\n::0.00::000\r\nz\r\n::4.00::\r\n";
     EXPECT_EQ(ecrire({.duree = 0.5F}, extraits, {}, POINT), tete + un + deux + trois);
     EXPECT_EQ(ecrire({.duree = 0.5F}, extraits, {.sauterNegatifs = true}, POINT), tete + deux + trois);
     EXPECT_EQ(ecrire({.duree = 0.5F}, extraits, {.exclu = 2}, POINT), tete + un + trois);
@@ -58,7 +61,7 @@ TEST(FichierRtr, EcritLesTempsArrondisEtLesExtraitsChoisis) {
     EXPECT_EQ(nouveau(62.25F, VIRGULE), " 62,25 \r\n<|OBS|\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n");
 }
 
-TEST(FichierRtr, InsereAvantLePremierDebutPlusGrand) {
+TEST(TranscriptFile, InsertsBeforeTheFirstGreaterStart) {
     const Extrait nouvel{"20.25", "25.00", "002", "un\rdeux\r"};
     const std::string bloc = "::20.25::002\r\nun\r\ndeux\r\n\r\n::25.00::\r\n";
     // The start, and what the extract is to stand before; empty: the end.
@@ -74,7 +77,7 @@ TEST(FichierRtr, InsereAvantLePremierDebutPlusGrand) {
     EXPECT_EQ(creerAvec(60, nouvel, POINT), " 60 \r\n::20.25::002\run\rdeux\r\r::25.00::\r\n");
 }
 
-TEST(FichierRtr, RefuseALaLigneFautiveEnGardantCeQuiEstLu) {
+TEST(TranscriptFile, RefusesWithTheLineAndKeepsWhatIsRead) {
     std::string dixMille = "1\r\n";
     for (int n = 0; n < 10000; ++n)
         dixMille += "::1.00::000\r\n::2.00::\r\n";
@@ -112,7 +115,7 @@ TEST(FichierRtr, RefuseALaLigneFautiveEnGardantCeQuiEstLu) {
     }
 }
 
-TEST(FichierRtr, ReconnaitLAutreSeparateur) {
+TEST(TranscriptFile, KnowsTheOtherSeparator) {
     const std::pair<std::string, std::string> cas[] = {// what is foreign where the comma is used
                                                        {EXEMPLE, " 125.5 "},
                                                        {"60\r\n::1::000\r\n::2.50::\r\n", "2.50"},
@@ -122,7 +125,7 @@ TEST(FichierRtr, ReconnaitLAutreSeparateur) {
     EXPECT_EQ(tempsEtranger(EXEMPLE, lire(EXEMPLE, ""), POINT), "");
 }
 
-TEST(FichierRtr, LesAttributsSansLigneRestent) {
+TEST(TranscriptFile, AttributesWithoutALineStay) {
     Attributs attributs{};
     attributs[1] = 7;
     EXPECT_TRUE(lireAttributs(EXEMPLE, attributs, ""));
@@ -135,7 +138,7 @@ TEST(FichierRtr, LesAttributsSansLigneRestent) {
     EXPECT_EQ(attributs, avant);
 }
 
-TEST(FichierRtr, UnTexteEnormeNeTrainePas) {
+TEST(TranscriptFile, AHugeTextIsReadInTime) {
     std::string lignes(10'000'000, 'a'), ligne(10'000'000, 'b');
     for (std::size_t p = 99; p < lignes.size(); p += 100) {
         lignes[p] = CR;

@@ -7,7 +7,7 @@
 namespace vermo {
 namespace {
 
-TEST(Projets, LitParElementsEtGardeLesAutres) {
+TEST(RecentFile, IsReadByItemsAndKeepsTheOthers) {
     const auto lus = projets::lire("/a/\xE9t\xE9.Crp\r\n\r\n\"/b, c.Crp\"\r\n/d,/e\r/a/\xE9t\xE9.Crp");
     EXPECT_EQ(lus, (std::vector<Utf8>{"/a/été.Crp", "/b, c.Crp", "/d", "/e", "/a/été.Crp"}));
     EXPECT_EQ(projets::ecrire("/a/été.Crp", lus), "/a/\xE9t\xE9.Crp\r\n/b, c.Crp\r\n/d\r\n/e\r\n");
@@ -16,7 +16,7 @@ TEST(Projets, LitParElementsEtGardeLesAutres) {
     EXPECT_THROW(projets::ecrire("/中.Crp", {}), FauteExecution);
 }
 
-TEST(EnTeteWav, ChampsAPlacesFixesEtZeroAuDelaDeLaFin) {
+TEST(WaveHeader, FieldsStandAtTheirPlacesAndAreZeroBehindTheEnd) {
     const std::string octets("RIFF\x24\x01\x00\x00WAVEfmt \x10\x00\x00\x00\x01\x00\x02\x00\x44\xAC\x00\x00"
                              "\x10\xB1\x02\x00\x04\x00\x10\x00"
                              "data\xFE\xFF\xFF\xFFsuite",

@@ -2,7 +2,7 @@
 #include "app/Application.h"
 #include "audio/OndeDEssai.h"
 #include "audio/ui/FrmVisu.h"
-#include "corpus_ui/CorpusDEssai.h"
+#include "corpus_ui/Gestes.h"
 #include "support/Pannes.h"
 #include "textfile/faute.h"
 

@@ -13,10 +13,10 @@ namespace fs = std::filesystem;
 namespace {
 
 const std::map<std::string, int> NIVEAUX = {
-    {"textfile", 0},  {"platform", 0},  {"formats", 1},     {"window", 1},           {"corpus", 2},
-    {"audio", 3},     {"data", 3},      {"synthesis", 4},   {"transcription", 3},    {"reader", 4},
-    {"window/ui", 5}, {"corpus/ui", 5}, {"audio/ui", 5},    {"transcription/ui", 5}, {"platform/qt", 6},
-    {"app", 7},       {"app/main", 7},  {"platform/mpv", 6}};
+    {"textfile", 0},    {"platform", 0},  {"formats", 1},   {"window", 1},        {"corpus", 2},
+    {"audio", 3},       {"data", 3},      {"synthesis", 4}, {"transcription", 3}, {"reader", 4},
+    {"sequences", 4},   {"window/ui", 5}, {"corpus/ui", 5}, {"audio/ui", 5},      {"transcription/ui", 5},
+    {"platform/qt", 6}, {"app", 7},       {"app/main", 7},  {"platform/mpv", 6}};
 
 const std::set<std::pair<std::string, std::string>> VOISINS = {{"platform", "textfile"},
                                                                {"corpus/ui", "window/ui"},
@@ -24,10 +24,26 @@ const std::set<std::pair<std::string, std::string>> VOISINS = {{"platform", "tex
                                                                {"transcription/ui", "window/ui"},
                                                                {"app/main", "app"}};
 
+/// The forms, by file name: what has both a header and a source of its own.
+std::set<std::string> formes() {
+    std::set<std::string> noms;
+    for (const auto& entree : fs::recursive_directory_iterator(fs::path(VERMO_RACINE) / "src")) {
+        fs::path chemin = entree.path();
+        const std::string nom = chemin.stem().string();
+        if (nom.starts_with("Frm") && chemin.extension() == ".h" &&
+            fs::exists(chemin.replace_extension(".cpp")))
+            noms.insert(nom);
+    }
+    return noms;
+}
+
+/// The form that a file is a part of: the longest name that it begins with; none for what is no form's.
 std::string formeDe(const std::string& nom) {
-    static const std::regex forme("(Frm(Intro|Corpus|Menu|Visu|Saisie)).*");
-    std::smatch prise;
-    return std::regex_match(nom, prise, forme) ? prise[1].str() : std::string();
+    static const std::set<std::string> connues = formes();
+    std::string trouvee;
+    for (const std::string& forme : connues)
+        if (nom.starts_with(forme) && forme.size() > trouvee.size()) trouvee = forme;
+    return trouvee;
 }
 
 bool permise(const std::string& dossier, const std::string& inclus) {
@@ -71,7 +87,7 @@ std::vector<std::string> fautesDe(const char* chemin, const char* source) {
     return fautes(chemin, lecture);
 }
 
-TEST(Inclusions, everySourceKeepsItsLevel) {
+TEST(Includes, EverySourceKeepsItsLevel) {
     const fs::path racine = fs::path(VERMO_RACINE) / "src";
     std::size_t lus = 0;
     for (const auto& entree : fs::recursive_directory_iterator(racine)) {
@@ -85,7 +101,7 @@ TEST(Inclusions, everySourceKeepsItsLevel) {
     EXPECT_GT(lus, 50u);
 }
 
-TEST(Inclusions, badOnesAreSeen) {
+TEST(Includes, BadOnesAreSeen) {
     const std::pair<const char*, const char*> mauvaises[] = {
         {"textfile/a.h", "#include \"formats/Projets.h\""},
         {"audio/a.cpp", "#include \"transcription/Retranscription.h\""},

@@ -7,50 +7,47 @@
 
 namespace vermo::essai {
 
-/// Notes what windows ask of each other, and does nothing of it but keep what is shown. One line a request:
-/// "montrer FrmVisu", "ouvrirEntretien 3 SansFondu", "OuvrirMenu 5".
+/// Notes what windows ask of each other and announce, and does nothing of it but keep what is shown. One line
+/// a request: "montrer FrmVisu", "montrer FrmVisu 3 SansFondu", "montrer FrmMenu 5", "annoncer Bascules".
 class FenetresMuettes : public Fenetres {
   public:
     const std::vector<std::string>& journal() const { return journal_; }
     void effacerJournal() { journal_.clear(); }
 
-    void montrer(Fenetre f) override { noter("montrer " + nom(f)), visibles_[f] = true; }
+    void montrer(Fenetre f, const Contenu& contenu = {}) override {
+        noter("montrer " + nom(f) + std::visit([](const auto& voulu) { return dit(voulu); }, contenu));
+        visibles_[f] = contenu.index() == 0;
+    }
     void cacher(Fenetre f) override { noter("cacher " + nom(f)), visibles_[f] = false; }
     void decharger(Fenetre f) override { noter("decharger " + nom(f)), visibles_[f] = false; }
     bool visible(Fenetre f) const override { return visibles_.contains(f) && visibles_.at(f); }
-    bool saisieEntamee() const override { return false; }
+    bool entamee(Fenetre) const override { return false; }
     void finir() override { noter("finir"); }
+    void annoncer(const Avis& avis) override {
+        constexpr const char* SUJETS[] = {"Thematiques", "Bascules",  "Entretiens",
+                                          "Extraits",    "Attributs", "Volume"};
+        noter(std::string("annoncer ") + SUJETS[static_cast<int>(avis.sujet)]);
+    }
     void NouveauCorpus() override { noter("NouveauCorpus"); }
     void OuvrirCorpus() override { noter("OuvrirCorpus"); }
     void ImporterEntretien() override { noter("ImporterEntretien"); }
-    void ouvrirEntretien(int slot, Ouverture o) override {
-        noter("ouvrirEntretien " + std::to_string(slot) +
-              (o == Ouverture::AvecFondu ? " AvecFondu" : " SansFondu"));
-    }
     void retirerEntretien() override { noter("retirerEntretien"); }
     void DeplacerEntretien(int source, int cible) override {
         noter("DeplacerEntretien " + std::to_string(source) + " " + std::to_string(cible));
     }
-    void basculerTailleReelle(bool redessiner) override {
-        noter(redessiner ? "basculerTailleReelle redessiner" : "basculerTailleReelle");
-    }
-    void reglerVolume(int part) override { noter("reglerVolume " + std::to_string(part)); }
-    void OuvrirMenu(Panneau p, Rectangle) override {
-        noter("OuvrirMenu " + std::to_string(static_cast<int>(p)));
-    }
-    void RedessinerFrise() override { noter("RedessinerFrise"); }
-    void RedessinerPistes() override { noter("RedessinerPistes"); }
-    void ConstruireThematiques() override { noter("ConstruireThematiques"); }
-    void rafraichirExtraits() override { noter("rafraichirExtraits"); }
-    void quitterVisu() override { noter("quitterVisu"); }
-    void PreparerSaisie() override { noter("PreparerSaisie"); }
-    void OuvrirExtrait(int n) override { noter("OuvrirExtrait " + std::to_string(n)); }
 
   private:
-    static std::string nom(Fenetre f) {
-        constexpr const char* noms[] = {"FrmIntro", "FrmCorpus", "FrmMenu", "FrmVisu", "FrmSaisie"};
-        return noms[static_cast<int>(f)];
+    static std::string nom(Fenetre f) { return std::string(nomFenetre(f)); }
+    static std::string dit(std::monostate) { return {}; }
+    static std::string dit(const PanneauVoulu& v) {
+        return " " + std::to_string(static_cast<int>(v.panneau));
     }
+    static std::string dit(const EntretienVoulu& v) {
+        return " " + std::to_string(v.slot) +
+               (v.ouverture == Ouverture::AvecFondu ? " AvecFondu" : " SansFondu");
+    }
+    static std::string dit(NouvelExtraitVoulu) { return " nouvel extrait"; }
+    static std::string dit(const ExtraitVoulu& v) { return " extrait " + std::to_string(v.numero); }
     void noter(std::string ligne) { journal_.push_back(std::move(ligne)); }
 
     std::vector<std::string> journal_;

@@ -29,21 +29,21 @@ std::ptrdiff_t descripteursOuverts() {
 std::string contenu(std::size_t taille) {
     std::string octets(taille, '\0');
     for (std::size_t i = 0; i < taille; ++i)
-        octets[i] = static_cast<char>(i * 7 + i / 256);
+        octets[i] = static_cast<char>((i + 1) * 2654435761U >> 16); // no two blocks alike
     return octets;
 }
 
 const std::string ancien = contenu(5000) + "ancien";
 const std::string nouveau = contenu(70000) + "nouveau";
 
-TEST(Lecture, RendTousLesOctets) {
+TEST(FileReading, GivesAllBytes) {
     const DossierTemporaire dossier;
     for (const std::size_t taille : {0u, 1u, 4096u, 3000001u})
         EXPECT_EQ(lireFichier(dossier.ecrire("a", contenu(taille))), contenu(taille)) << taille;
     EXPECT_FALSE(lireFichier("/proc/self/status").empty()) << "says 0 bytes, has some";
 }
 
-TEST(Lecture, RefuseAvecLaCause) {
+TEST(FileReading, RefusesWithTheCause) {
     const DossierTemporaire dossier;
     ASSERT_EQ(mkfifo(dossier.chemin("tube").c_str(), 0600), 0);
     dossier.ecrire("a", "x");
@@ -62,7 +62,7 @@ TEST(Lecture, RefuseAvecLaCause) {
     EXPECT_EQ(descripteursOuverts(), avant);
 }
 
-TEST(Remplacement, ChaqueAppelQuiEchoueEstDit) {
+TEST(FileReplacement, TellsEachCallThatFails) {
     const DossierTemporaire dossier;
     const Utf8 chemin = dossier.chemin("a.Rtr");
     const std::string es = "Écriture impossible : ";
@@ -98,7 +98,7 @@ TEST(Remplacement, ChaqueAppelQuiEchoueEstDit) {
     EXPECT_EQ(descripteursOuverts(), avant);
 }
 
-TEST(Remplacement, FichierQuiManqueEtFichierVide) {
+TEST(FileReplacement, MissingAndEmptyFiles) {
     const DossierTemporaire dossier;
     remplacerFichier(dossier.chemin("neuf"), nouveau);
     EXPECT_TRUE(dossier.lire("neuf") == nouveau);
@@ -109,10 +109,12 @@ TEST(Remplacement, FichierQuiManqueEtFichierVide) {
               "Écriture impossible : c'est un répertoire\n" + dossier.chemin());
 }
 
-TEST(Remplacement, GardeLiensEtMode) {
+TEST(FileReplacement, KeepsLinksOwnerAndMode) {
     const DossierTemporaire dossier;
-    dossier.ecrire("loin/vrai", ancien);
-    ASSERT_EQ(chmod(dossier.chemin("loin/vrai").c_str(), 0640), 0);
+    const Utf8 vrai = dossier.ecrire("loin/vrai", ancien);
+    ASSERT_EQ(chmod(vrai.c_str(), 0604), 0);
+    const bool donne = chown(vrai.c_str(), 1234, 4321) == 0; // where the test may
+    const mode_t masque = umask(0027);
     fs::create_symlink("loin/vrai", dossier.chemin("relatif"));
     fs::create_symlink(dossier.chemin("relatif"), dossier.chemin("absolu"));
     fs::create_symlink("loin/futur", dossier.chemin("pendant"));
@@ -121,12 +123,17 @@ TEST(Remplacement, GardeLiensEtMode) {
     remplacerFichier(dossier.chemin("pendant"), nouveau);
     for (const char* lien : {"absolu", "relatif", "pendant"})
         EXPECT_TRUE(fs::is_symlink(dossier.chemin(lien)) && dossier.lire(lien) == nouveau) << lien;
-    EXPECT_EQ(fs::status(dossier.chemin("loin/vrai")).permissions(), fs::perms(0640));
+    umask(masque);
+    struct stat etat {};
+    ASSERT_EQ(stat(vrai.c_str(), &etat), 0);
+    EXPECT_EQ(etat.st_mode & 07777, 0604U);
+    EXPECT_TRUE(!donne || (etat.st_uid == 1234 && etat.st_gid == 4321));
+    EXPECT_EQ(fs::status(dossier.chemin("loin/futur")).permissions(), fs::perms(0640));
     EXPECT_EQ(faute([&] { remplacerFichier(dossier.chemin("boucle"), "x"); }),
               "Écriture impossible : trop de liens symboliques\n" + dossier.chemin("boucle"));
 }
 
-TEST(Copie, DitOuElleEnEstEtSeLaisseArreter) {
+TEST(FileCopy, TellsItsProgressAndCanBeStopped) {
     const DossierTemporaire dossier;
     const std::string octets = contenu(2'500'000);
     const Utf8 source = dossier.ecrire("source.wav", octets);
@@ -144,10 +151,16 @@ TEST(Copie, DitOuElleEnEstEtSeLaisseArreter) {
     EXPECT_EQ(avance, (std::vector<std::int64_t>{0, 0, 1 << 20, 2 << 20, 2'500'000}));
     EXPECT_TRUE(dossier.lire("cible.wav") == octets);
     EXPECT_THROW(copierFichier(dossier.chemin("absent"), cible), FauteExecution);
+    const auto raccourcir = [&](std::int64_t, std::int64_t) {
+        return truncate(source.c_str(), 1 << 20) == 0;
+    };
+    EXPECT_EQ(faute([&] { copierFichier(source, cible, raccourcir); }),
+              "Copie impossible : le fichier a été raccourci pendant la lecture\n" + source);
     EXPECT_TRUE(dossier.lire("cible.wav") == octets);
+    EXPECT_EQ(essai::temporairesRestants(dossier), 0);
 }
 
-TEST(Identite, ChangeAvecLeFichier) {
+TEST(FileIdentity, ChangesWithTheFile) {
     const DossierTemporaire dossier;
     const Utf8 chemin = dossier.ecrire("a", "un");
     const IdentiteFichier un = identiteFichier(chemin);

@@ -30,7 +30,7 @@ std::string sous(std::string texte, const Reglages& reglages) {
     return texte;
 }
 
-TEST(Nombres, LuAvecLeSeparateurDesReglages) {
+TEST(Numbers, AreReadWithTheSeparatorOfTheSettings) {
     for (const Reglages& reglages : {virgule, point}) {
         std::ostringstream lus;
         for (const char* texte : {" 12.50 ", ".5", "5.", "-3", "+4.25x", "1E-2", "1.5e+3", "7e+", "12.5.6",
@@ -42,13 +42,13 @@ TEST(Nombres, LuAvecLeSeparateurDesReglages) {
     EXPECT_EQ(nombre("12,50", point), 12);
 }
 
-TEST(Nombres, RefuseCeQuiNEnEstPasUn) {
+TEST(Numbers, RefuseWhatIsNone) {
     for (const Reglages& reglages : {virgule, point})
         for (const char* texte : {"", "  ", "abc", "-", ".", ",", "+-1", "inf", "nan", "e5", "1e999"})
             EXPECT_THROW(nombre(texte, reglages), FauteExecution) << texte;
 }
 
-TEST(Nombres, SeparateurEtranger) {
+TEST(Numbers, KnowAForeignSeparator) {
     for (const char* texte : {"12.50", " .5 ", "-3.", "1.5E3"})
         EXPECT_TRUE(separateurEtranger(texte, virgule)) << texte;
     for (const char* texte : {"12,50", "12", "", ".", "a.b", "12.5::", "1.234,5"})
@@ -57,7 +57,7 @@ TEST(Nombres, SeparateurEtranger) {
     EXPECT_FALSE(separateurEtranger("12.50", point));
 }
 
-TEST(Nombres, ValeurNEchoueJamais) {
+TEST(Numbers, ValueNeverFails) {
     const std::pair<const char*, double> cas[] = {
         {"12.5abc", 12.5}, {"12,5", 12}, {"  -7", -7}, {"", 0},      {"abc", 0}, {"&H1F", 31},
         {"&hFFzz", 255},   {"&H", 0},    {"&HZ", 0},   {"1e999", 0}, {"nan", 0}, {"1e2", 100}};
@@ -65,7 +65,7 @@ TEST(Nombres, ValeurNEchoueJamais) {
         EXPECT_EQ(valeur(entree), attendu) << entree;
 }
 
-TEST(Nombres, Couleurs) {
+TEST(Numbers, Colours) {
     const std::pair<const char*, std::uint32_t> cas[] = {
         {"255", 255}, {"&H0", 0}, {"&HFF8040", 0xFF8040}, {" 3289803 ", 3289803}, {"&hffffffff", 0xFFFFFFFF}};
     for (const auto& [entree, attendu] : cas)
@@ -74,7 +74,7 @@ TEST(Nombres, Couleurs) {
         EXPECT_THROW(couleur(texte), FauteExecution) << texte;
 }
 
-TEST(Nombres, Ecrits) {
+TEST(Numbers, AreWritten) {
     for (const Reglages& reglages : {virgule, point}) {
         const auto imprime = [&](double v) { return imprimer(static_cast<float>(v), reglages); };
         EXPECT_EQ(
@@ -105,7 +105,7 @@ void poser(const std::map<std::string, std::string>& valeurs) {
 }
 
 /// Whether a locale is installed or not, it must come to the same separator.
-TEST(ReglagesSysteme, SeparateurDeLaLangue) {
+TEST(SystemSettings, TheLanguagesSeparator) {
     const std::pair<std::map<std::string, std::string>, char> cas[] = {
         {{}, '.'},
         {{{"LANG", "fr_FR.UTF-8"}}, ','},

@@ -21,7 +21,7 @@ struct Accord : Dialogues {
 
 /// Each file that the program writes, under every fault of every system call on the way and under a kill at
 /// each: the old file or the new one.
-TEST(Ecritures, AncienOuNouveauPourChaqueSorteDeFichier) {
+TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
     EntretienOuvert e(" 125.5 \r\n::10.00::001\r\nBonjour.\r\r\n::12.50::\r\n");
     e.thematiques({"001"});
     const DossierTemporaire& dossier = e.hote.dossier;
@@ -30,14 +30,11 @@ TEST(Ecritures, AncienOuNouveauPourChaqueSorteDeFichier) {
     Accord accord;
     accord.fichier = dossier.chemin("Neuf.Crp");
     e.hote.progression.patience = 1'000'000;
-    Plateforme hote{accord,
-                    e.hote.media,
-                    e.hote.horloge,
-                    e.hote.lanceur,
-                    e.hote.ecran,
-                    e.hote.progression,
-                    e.hote.annonces,
-                    {.programme = dossier.chemin(), .donneesProgramme = {}, .donneesPersonne = {}}};
+    Plateforme hote{
+        accord,          e.hote.media,
+        e.hote.horloge,  e.hote.lanceur,
+        e.hote.ecran,    e.hote.progression,
+        e.hote.annonces, {.programme = dossier.chemin(), .donneesProgramme = {}, .donneesPersonne = {}}};
     const std::string corpus = "Projet\r\n<|THEM|\r\n000,0,Pas\r\n>|THEM|\r\n<|ENTR|\r\n>|ENTR|\r\n";
     const Utf8 source = dossier.ecrire("ailleurs/son.wav", std::string(5000, 's'));
     const auto ajouter = [&] {

@@ -19,7 +19,7 @@ Session span() {
     return session;
 }
 
-TEST(Boucle, RevientAuDebutDuSpanOuDeLaPortion) {
+TEST(Loop, ReturnsToTheStartOfTheSpanOrThePortion) {
     // Whether dictating, whether looping, where: then position, pause, Timer3, cursor.
     const std::tuple<bool, bool, double, std::string> cas[] = {
         {false, false, 15, "- 0 0 500"},    {false, true, 20, "- 0 0 1000"},
@@ -41,7 +41,7 @@ TEST(Boucle, RevientAuDebutDuSpanOuDeLaPortion) {
     EXPECT_TRUE(suivreBoucle(jusquAuBout, 20, 1000, true).pause) << "the recording ends with the span";
 }
 
-TEST(Dictee, LesPortionsAvancentEntieresEtReprennentUneSecondePlusTot) {
+TEST(Dictation, PortionsGoOnWholeAndStartASecondEarlier) {
     Session session = span();
     activerDictee(session, 10.6, 5);
     EXPECT_EQ(session.transcription.PortionFin, 16);
@@ -58,7 +58,7 @@ TEST(Dictee, LesPortionsAvancentEntieresEtReprennentUneSecondePlusTot) {
     EXPECT_EQ(MontrerPortion(session, 12, 14.5, 1000), (Rectangle{.gauche = 200, .largeur = 250}));
 }
 
-TEST(Dictee, UneSelectionDevientLaPortion) {
+TEST(Dictation, ASelectionBecomesThePortion) {
     Session session = span();
     EXPECT_EQ(selectionnerPortion(session, 220, 680, 1000), 5);
     EXPECT_DOUBLE_EQ(session.transcription.PortionDebut, 12.2);
@@ -73,7 +73,7 @@ TEST(Dictee, UneSelectionDevientLaPortion) {
         EXPECT_EQ(secondesGlissees(tag, y, 255), attendu) << y;
 }
 
-TEST(Dictee, LeDecompteRepartALaTroisiemeSeconde) {
+TEST(Dictation, TheCountdownGoesOnAtTheThirdSecond) {
     Session session = span();
     demarrerPortion(session, 10, 5);
     EXPECT_FALSE(compter(session, true, 5).montrer);
@@ -88,7 +88,7 @@ TEST(Dictee, LeDecompteRepartALaTroisiemeSeconde) {
     EXPECT_EQ(session.transcription.Compteur, 0);
 }
 
-TEST(Vitesse, SuitLeCurseurDansLEtiquette) {
+TEST(Speed, FollowsTheCursorInTheLabel) {
     Session session;
     for (const auto& [x, vitesse] : {std::pair(0.0, 0.75), std::pair(945.0, 1.0), std::pair(1890.0, 1.25)}) {
         EXPECT_TRUE(reglerVitesse(session, x, 1890));
@@ -96,9 +96,10 @@ TEST(Vitesse, SuitLeCurseurDansLEtiquette) {
         EXPECT_DOUBLE_EQ(positionVitesse(session, 1890), x);
     }
     EXPECT_FALSE(reglerVitesse(session, -1, 1890) || reglerVitesse(session, 1891, 1890));
+    EXPECT_EQ(session.audio.VitesseLecture, 1.25);
 }
 
-TEST(Thematiques, CeQueMontreUnExtrait) {
+TEST(Thematics, WhatAnExtractShows) {
     EntretienOuvert e("100\r\n");
     EXPECT_EQ(thematiqueDeCode(e.session.corpus, "001").caption, depuisUtf8("000 - Pas de thématique"));
     e.thematiques({"001", "002"});
@@ -112,23 +113,24 @@ TEST(Thematiques, CeQueMontreUnExtrait) {
         EXPECT_EQ(encreThematique(tag) == 0, noir) << tag;
 }
 
-TEST(Thematiques, AjoutRefuseDansLOrdreDesQuestions) {
+TEST(Thematics, AreAddedUnlessAQuestionStands) {
     EntretienOuvert e("100\r\n");
     e.thematiques({"007"});
     EtatCorpus& corpus = e.session.corpus;
     EXPECT_EQ(codePropose(corpus), "002");
-    const std::pair<NouvelleThematique, std::string> cas[] = {
-        {{"7", "", ""}, "Le code '7' existe déjà (nom :'Nom 007').\nChoisissez un code inutilisé. Merci."},
+    const std::tuple<NouvelleThematique, std::string, bool> cas[] = {
+        {{"7", "", ""},
+         "Le code '7' existe déjà (nom :'Nom 007').\nChoisissez un code inutilisé. Merci.",
+         true},
         {{"a", "n", "1"},
-         "Le code 'a' existe déjà (nom :' Pas de thématique').\nChoisissez un code inutilisé. Merci."},
-        {{"8", "", ""}, "Vous n'avez pas choisi de couleur..."},
-        {{"8", "", "255"}, "La thématique que vous souhaitez ajouter n'a pas de nom..."},
-    };
-    for (const auto& [nouvelle, texte] : cas) {
-        const auto refus = verifierThematique(corpus, nouvelle);
-        ASSERT_TRUE(refus) << texte;
-        EXPECT_EQ(refus->message.texte, texte);
-        EXPECT_EQ(refus->codeFautif, refus->message.icone == Icone::Exclamation);
+         "Le code 'a' existe déjà (nom :' Pas de thématique').\nChoisissez un code inutilisé. Merci.",
+         true},
+        {{"8", "", ""}, "Vous n'avez pas choisi de couleur...", false},
+        {{"8", "", "255"}, "La thématique que vous souhaitez ajouter n'a pas de nom...", false}};
+    for (const auto& [nouvelle, texte, fautif] : cas) {
+        const Refus refus = verifierThematique(corpus, nouvelle).value_or(Refus{});
+        EXPECT_EQ(refus.message.texte, texte);
+        EXPECT_EQ(refus.codeFautif, fautif) << texte;
     }
     const NouvelleThematique bonne{"8", "Vie, travail", "255"};
     EXPECT_FALSE(verifierThematique(corpus, bonne));
@@ -142,11 +144,14 @@ TEST(Thematiques, AjoutRefuseDansLOrdreDesQuestions) {
     EXPECT_THROW(ajouterThematique(corpus, bonne), FauteExecution);
 }
 
-TEST(Validation, EcritLExtraitOuRendLesTableaux) {
+TEST(Validation, WritesTheExtractOrGivesTheArraysBack) {
     EntretienOuvert e("100\r\n::10.00::001\r\na\r\n::12.50::\r\n");
     ouvrirSpan(e.session, 1);
     EXPECT_EQ(e.session.transcription.SaisieDuree, 2.5);
+    EXPECT_EQ(debutAllongement(e.session), 11.5);
     allonger(e.session, 14);
+    EXPECT_EQ(e.session.transcription.SaisieDuree, 4);
+    EXPECT_EQ(tempsSousX(e.session, 750, 1000), 13);
     EXPECT_TRUE(validerModification(e.session, e.hote, "002 Travail", "b\r\r\r"));
     const std::string ecrit = e.hote.dossier.lire("a.Rtr");
     EXPECT_EQ(ecrit.substr(ecrit.find("::")), "::10.00::002 Travail\r\nb\r\r\n::14.00::\r\n");

@@ -26,14 +26,14 @@ std::string region(const std::vector<std::string>& lignes) {
     return texte;
 }
 
-TEST(Detourage, RegionDepuisImage) {
+TEST(ShapeFromPicture, RunsOfOtherColoursThanTheCorners) {
     EXPECT_EQ(region({"....", "...."}), "");
     EXPECT_EQ(region({"......", ".ab.c.", ".bbb.."}), "1-3@1 4-5@1 1-4@2 ") << "two runs on one row";
     EXPECT_EQ(region({".....", ".aaaa", "....a"}), "1-4@1 ") << "the last column is left out";
     EXPECT_EQ(region({"a..a.", "aaaa."}), "1-3@0 ") << "the corner's colour is a hole wherever it stands";
 }
 
-TEST(Placement, DansEcran) {
+TEST(Placement, KeepsToTheScreen) {
     const ZoneTravail zone{
         .gauche = -6000, .haut = 600, .largeur = 20000, .hauteur = 12000, .barreDesTaches = 40};
     struct Cas {
@@ -47,7 +47,7 @@ TEST(Placement, DansEcran) {
 }
 
 /// Local time of a place that keeps summer time.
-class DatesFichier : public testing::Test {
+class FileDates : public testing::Test {
   protected:
     void SetUp() override { fuseau("CET-1CEST,M3.5.0,M10.5.0/3"); }
     void TearDown() override { fuseau(nullptr); }
@@ -65,7 +65,7 @@ class DatesFichier : public testing::Test {
     essai::DialoguesScriptees dialogues;
 };
 
-TEST_F(DatesFichier, HeureLocaleDeLaDerniereEcriture) {
+TEST_F(FileDates, GiveTheLocalTimeOfTheLastWrite) {
     const Utf8 chemin = dossier.ecrire("entretien été.wav", "RIFF");
     // 2009-01-03 12:30 and 2009-07-03 12:30, universal time.
     for (const auto& [universel, attendu] : {std::pair{1230985800L, local(2009, 1, 3, 13, 30)},
@@ -79,7 +79,7 @@ TEST_F(DatesFichier, HeureLocaleDeLaDerniereEcriture) {
     }
 }
 
-TEST_F(DatesFichier, UnFichierQuiNeSOuvrePasEstDit) {
+TEST_F(FileDates, OfAFileThatDoesNotOpenAreTold) {
     for (const Utf8& nom : {Utf8("absent.wav"), Utf8("dossier.wav/")}) {
         mkdir(dossier.chemin("dossier.wav").c_str(), 0700);
         dialogues.repondre(Reponse::Ok);

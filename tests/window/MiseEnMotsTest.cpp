@@ -21,39 +21,25 @@ std::string decrire(const MotsDisposes& disposes) {
     return texte;
 }
 
-// 1740 wide: words may reach 1500.
-struct CasMots {
-    const char* nom;
-    const char* texte;
-    const char* attendu;
-};
-
-class DispositionDesMots : public testing::TestWithParam<CasMots> {};
-
-TEST_P(DispositionDesMots, UneColonne) {
+TEST(WordLayout, OneColumn) {
+    // 1740 wide: words may reach 1500.
     const ReglagesMots reglages{.LargeurTexte = 1740, .PasListe = 195};
-    EXPECT_EQ(decrire(disposerMots(GetParam().texte, reglages, essai::metriquesFixes)), GetParam().attendu);
+    const std::pair<const char*, const char*> cas[] = {
+        {"a", ""},
+        {"aaa bbb ccc ddd eee\r", // the gap is shared
+         "1 0,0 aaa |1 550,0 bbb |1 1100,0 ccc |2 0,195 ddd |2 430,195 eee\\|( )|"},
+        {"aaa bbb ccc dd \r", "1 0,0 aaa |1 430,0 bbb |1 860,0 ccc |1 1290,0 dd |1 1620,0 \\|"},
+        {"a\r\rb cc\r", "1 0,0 a\\|2 0,195 \\|3 0,390 b |3 230,390 cc\\|( )|"},
+        {"a  b\r", "1 0,0 a |1 230,0  |1 360,0 b\\|( )|"}, // a double blank is a word
+        {"aaaaaaaaaaaaaaaaaaaa b\r", "2 0,195 aaaaaaaaaaaaaaaaaaaa |3 0,390 b\\|( )|"},
+        {"aaaaaaaaaa bbbbbbbbbb\r", "1 0,0 aaaaaaaaaa |2 0,195 bbbbbbbbbb\\|( )|"}, // no spreading
+        {"aaa bbb", "(aaa )|(bbb )|"}, // no line end shows nothing
+        {"aaa\rb c", "1 0,0 aaa\\|(b )|"}};
+    for (const auto& [texte, attendu] : cas)
+        EXPECT_EQ(decrire(disposerMots(texte, reglages, essai::metriquesFixes)), attendu) << texte;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    MiseEnMots, DispositionDesMots,
-    testing::Values(CasMots{"unCaractere", "a", ""},
-                    CasMots{"gapShared", "aaa bbb ccc ddd eee\r",
-                            "1 0,0 aaa |1 550,0 bbb |1 1100,0 ccc |2 0,195 ddd |2 430,195 eee\\|( )|"},
-                    CasMots{"exactFitStays", "aaa bbb ccc dd \r",
-                            "1 0,0 aaa |1 430,0 bbb |1 860,0 ccc |1 1290,0 dd |1 1620,0 \\|"},
-                    CasMots{"returnsEndLines", "a\rbb cc\r", "1 0,0 a\\|2 0,195 bb |2 330,195 cc\\|( )|"},
-                    CasMots{"emptyLineKept", "a\r\rb\r", "1 0,0 a\\|2 0,195 \\|3 0,390 b\\|( )|"},
-                    CasMots{"doubleBlankIsAWord", "a  b\r", "1 0,0 a |1 230,0  |1 360,0 b\\|( )|"},
-                    CasMots{"tooWideLeavesALineEmpty", "aaaaaaaaaaaaaaaaaaaa b\r",
-                            "2 0,195 aaaaaaaaaaaaaaaaaaaa |3 0,390 b\\|( )|"},
-                    CasMots{"loneWordIsNotSpread", "aaaaaaaaaa bbbbbbbbbb\r",
-                            "1 0,0 aaaaaaaaaa |2 0,195 bbbbbbbbbb\\|( )|"},
-                    CasMots{"noLineEndShowsNothing", "aaa bbb", "(aaa )|(bbb )|"},
-                    CasMots{"blankBeforeLastAddsNone", "aaa\rb c", "1 0,0 aaa\\|(b )|"}),
-    [](const auto& cas) { return cas.param.nom; });
-
-TEST(MiseEnMots, ColonnesAPartirDeDixLignes) {
+TEST(WordLayout, ColumnsFromTenLinesOn) {
     struct Cas {
         int lignes, colonnes, parColonne;
     };
@@ -67,7 +53,7 @@ TEST(MiseEnMots, ColonnesAPartirDeDixLignes) {
     }
 }
 
-TEST(MiseEnMots, LaSecondeColonneCommenceASaLargeur) {
+TEST(WordLayout, TheSecondColumnStartsAtItsWidth) {
     Texte texte;
     for (char c = 'a'; c < 'a' + 11; ++c)
         texte += Texte{c} + " x\r";

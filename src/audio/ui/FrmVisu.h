@@ -33,6 +33,7 @@ class FrmVisu : public Forme {
     /// that isn't there, or a duration that never came and that the person wouldn't wait for.
     bool OuvrirEntretienVue(Ouverture ouverture = Ouverture::SansFondu);
 
+    void surAvis(const Avis& avis) override;
     /// Draws the zoom band for the current span, reads the transcript and shows its extracts. A recording
     /// that can't be read leaves the band without a wave; the window goes on.
     void DessinerZoom();

@@ -84,6 +84,11 @@ void FrmVisu::AfficherExtraits() {
     entourer(extraitDit_);
 }
 
+void FrmVisu::surAvis(const Avis& avis) {
+    if (avis.sujet == Sujet::Extraits && avis.slot == session_.corpus.EntretienCourant) rafraichirExtraits();
+    if (avis.sujet == Sujet::Volume) DessinerVolume();
+}
+
 void FrmVisu::rafraichirExtraits() {
     LireRetranscription(session_, plateforme_);
     AfficherExtraits();

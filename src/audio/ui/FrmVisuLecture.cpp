@@ -1,5 +1,6 @@
 #include "audio/Zoom.h"
 #include "audio/ui/FrmVisu.h"
+#include "corpus/AnalyserEntretiens.h"
 #include "transcription/Retranscription.h"
 #include "window/ui/Glace.h"
 
@@ -124,13 +125,13 @@ void FrmVisu::marquer() {
 }
 
 void FrmVisu::ouvrirSaisie(Bornes span) {
-    if (ramenerSaisie(fenetres_.saisieEntamee())) return;
+    if (ramenerSaisie(fenetres_.entamee(Fenetre::FrmSaisie))) return;
     EtatTranscription& etat = session_.transcription;
     etat.SaisieDebut = span.debut;
     etat.SaisieFin = span.fin;
     etat.SaisieDuree = span.fin - span.debut;
     etat.NouvelExtrait = true;
-    fenetres_.PreparerSaisie();
+    fenetres_.montrer(Fenetre::FrmSaisie, NouvelExtraitVoulu{});
 }
 
 void FrmVisu::montrerVolume() {
@@ -139,7 +140,7 @@ void FrmVisu::montrerVolume() {
     const QPoint coin = PictVol_->mapToGlobal(QPoint());
     Rectangle ancre = enTwips(QRectF(QPointF(coin), QSizeF(PictVol_->size())));
     ancre.hauteur += ECART;
-    fenetres_.OuvrirMenu(Panneau::Volume, ancre);
+    fenetres_.montrer(Fenetre::FrmMenu, PanneauVoulu{Panneau::Volume, ancre});
 }
 
 /// What is being typed is left from its own window, which comes to the front.
@@ -151,7 +152,7 @@ bool FrmVisu::ramenerSaisie(bool enCours) {
 /// What every way out begins with. False when the window stays.
 bool FrmVisu::quitter() {
     if (ramenerSaisie(fenetres_.visible(Fenetre::FrmSaisie)) || std::exchange(ferme_, true)) return false;
-    fenetres_.quitterVisu();
+    quitterEntretien(session_, plateforme_);
     return true;
 }
 

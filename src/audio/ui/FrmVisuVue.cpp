@@ -87,9 +87,9 @@ void FrmVisu::zoomerExtrait(int k) {
 
 void FrmVisu::ouvrirExtrait(int k) {
     if (ferme_ || k < 1 || k > nombreExtraits(session_)) return;
-    if (ramenerSaisie(fenetres_.saisieEntamee())) return;
+    if (ramenerSaisie(fenetres_.entamee(Fenetre::FrmSaisie))) return;
     session_.transcription.ExtraitCourant = static_cast<float>(k);
-    fenetres_.OuvrirExtrait(k);
+    fenetres_.montrer(Fenetre::FrmSaisie, ExtraitVoulu{k});
 }
 
 } // namespace vermo

@@ -175,7 +175,7 @@ void FrmVisu::poserBorne(int k, bool debut, double v) {
     const EtatTranscription& etat = session_.transcription;
     const bool ouvert =
         fenetres_.visible(Fenetre::FrmSaisie) && !etat.NouvelExtrait && extraitCourant(etat) == k;
-    if (ouvert && ramenerSaisie(fenetres_.saisieEntamee())) return AfficherExtraits();
+    if (ouvert && ramenerSaisie(fenetres_.entamee(Fenetre::FrmSaisie))) return AfficherExtraits();
 
     const Deplacement deplacement = deplacerBorne(session_, k, debut, v);
     if (deplacement.englobe) return refuserEnglobement();

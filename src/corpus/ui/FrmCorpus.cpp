@@ -15,7 +15,24 @@
 
 namespace vermo {
 
+void FrmCorpus::surAvis(const Avis& avis) {
+    if (avis.sujet == Sujet::Thematiques) ConstruireThematiques();
+    if (avis.sujet == Sujet::Entretiens) RedessinerFrise();
+    if (avis.sujet == Sujet::Entretiens || avis.sujet == Sujet::Bascules) RedessinerPistes();
+    if (avis.sujet == Sujet::Volume) DessinerVolume();
+}
+
 void FrmCorpus::RedessinerFrise() {
+    preparerFrise(session_, plateforme_);
+    montrerFrise();
+}
+
+void FrmCorpus::RedessinerPistes() {
+    signalerDureesNulles(session_, plateforme_, 1, session_.corpus.NbEntretiens);
+    montrerPistes();
+}
+
+void FrmCorpus::montrerFrise() {
     Imgbtn_[3]->icone(session_.corpus.TailleReelle ? QStringLiteral("Taille1") : QStringLiteral("Taille0"));
     lblCaption1_->setText(utf8VersQt(session_.corpus.CheminCorpus));
     Dessin regle = disposerRegle(session_, largeurBarre(Frm_entretiens_->vue()));
@@ -27,7 +44,7 @@ void FrmCorpus::RedessinerFrise() {
     montrerInvite();
 }
 
-void FrmCorpus::RedessinerPistes() {
+void FrmCorpus::montrerPistes() {
     Frm_entretiens_->disposer();
     Frm_thm_->disposer();
     montrerComptes();
@@ -85,13 +102,13 @@ void FrmCorpus::montrerInvite() {
 void FrmCorpus::basculerEntretiens() {
     const bool tous = basculerTousEntretiens(session_.corpus);
     ImgOnOffent_->icone(tous ? QStringLiteral("ImgOn") : QStringLiteral("ImgOff"));
-    fenetres_.RedessinerPistes();
+    fenetres_.annoncer({Sujet::Bascules});
 }
 
 void FrmCorpus::basculerThematiques() {
     const bool toutes = basculerToutesThematiques(session_.corpus);
     ImgOnOffthm_->icone(toutes ? QStringLiteral("ImgOn") : QStringLiteral("ImgOff"));
-    fenetres_.RedessinerPistes();
+    fenetres_.annoncer({Sujet::Bascules});
 }
 
 void FrmCorpus::zoomPlus() {
@@ -109,8 +126,8 @@ void FrmCorpus::zoomer(float hauteur) {
     surface(false);
     session_.corpus.HauteurEntretien = hauteur;
     garder([this] {
-        fenetres_.RedessinerFrise();
-        fenetres_.RedessinerPistes();
+        RedessinerFrise();
+        RedessinerPistes();
     });
     surface(true);
     Frm_entretiens_->defiler(rangs * hauteur);
@@ -120,7 +137,11 @@ void FrmCorpus::zoomer(float hauteur) {
 void FrmCorpus::tailleReelle() {
     plateforme_.ecran.pointeur(Pointeur::Sablier);
     surface(false);
-    garder([this] { fenetres_.basculerTailleReelle(true); });
+    session_.corpus.TailleReelle = !session_.corpus.TailleReelle;
+    garder([this] {
+        RedessinerFrise();
+        RedessinerPistes();
+    });
     surface(true);
     plateforme_.ecran.pointeur(Pointeur::Normal);
 }

@@ -31,10 +31,13 @@ class FrmCorpus : public Forme {
   public:
     FrmCorpus(Session& session, Plateforme& plateforme, Fenetres& fenetres);
 
-    /// Shows rows, bars, ruler and counters anew. Scanning the interviews first is the caller's.
+    void surAvis(const Avis& avis) override;
+    /// Scans the interviews, then shows rows, bars, ruler and counters anew.
     void RedessinerFrise();
-    /// Shows bars, colours of the thematics and counters anew.
+    /// Shows bars, colours of the thematics and counters anew; says of which interviews the duration is 0.
     void RedessinerPistes();
+    void montrerFrise(); ///< what RedessinerFrise shows, from the Session as it stands
+    void montrerPistes();
     void ConstruireThematiques(); ///< the list of thematics
     /// Nothing of the corpus that was open: no rows, no thematics, no highlight; its path stays the
     /// Session's.

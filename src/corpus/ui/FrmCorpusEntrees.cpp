@@ -24,13 +24,14 @@ Rectangle FrmCorpus::surEcran(const QWidget* controle) const {
 
 void FrmCorpus::ouvrirMenu(int index) {
     session_.EtatFondu = 1;
-    fenetres_.OuvrirMenu(static_cast<Panneau>(index), surEcran(lblmenu_[static_cast<std::size_t>(index)]));
+    fenetres_.montrer(Fenetre::FrmMenu,
+                      PanneauVoulu{static_cast<Panneau>(index), surEcran(ligneDe(lblmenu_, index))});
 }
 
 void FrmCorpus::ouvrirVolume() {
     Rectangle ancre = surEcran(PictVol_);
     ancre.hauteur += ECART_VOLUME;
-    fenetres_.OuvrirMenu(Panneau::Volume, ancre);
+    fenetres_.montrer(Fenetre::FrmMenu, PanneauVoulu{Panneau::Volume, ancre});
 }
 
 void FrmCorpus::DessinerVolume() {

@@ -29,6 +29,13 @@ FrmMenu::FrmMenu(Session& session, Plateforme& plateforme, Fenetres& fenetres)
     connect(&Timer1_, &QTimer::timeout, this, [this] { garder([this] { Timer1_Tick(); }); });
 }
 
+void FrmMenu::montrer(const Contenu& contenu) {
+    if (const auto* voulu = std::get_if<PanneauVoulu>(&contenu))
+        OuvrirMenu(voulu->panneau, voulu->ancre);
+    else
+        Forme::montrer(contenu);
+}
+
 void FrmMenu::OuvrirMenu(Panneau panneau, Rectangle ancre) {
     ouvert_ = panneau;
     if (panneau == Panneau::Corpus) listerCorpus();

@@ -24,6 +24,7 @@ class FrmMenu : public Forme {
   public:
     FrmMenu(Session& session, Plateforme& plateforme, Fenetres& fenetres);
 
+    void montrer(const Contenu& contenu) override;
     /// Shows the panel under `ancre` (twips of the screen), brought within the screen. A title's panel fades
     /// in from EtatFondu, the volume panel is opaque at once.
     void OuvrirMenu(Panneau panneau, Rectangle ancre);

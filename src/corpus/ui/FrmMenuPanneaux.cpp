@@ -1,6 +1,7 @@
 #include "corpus/OuvertureCorpus.h"
 #include "corpus/Panneaux.h"
 #include "corpus/Session.h"
+#include "corpus/Volume.h"
 #include "corpus/ui/FrmMenu.h"
 #include "corpus/ui/LblVol.h"
 #include "window/ui/Glace.h"
@@ -27,7 +28,8 @@ void ouvrirParDialogue(Session& session, Fenetres& fenetres) {
 }
 void lire(Session& session, Fenetres& fenetres) {
     if (session.corpus.EntretienCourant != 0)
-        fenetres.ouvrirEntretien(session.corpus.EntretienCourant, Ouverture::SansFondu);
+        fenetres.montrer(Fenetre::FrmVisu,
+                         EntretienVoulu{session.corpus.EntretienCourant, Ouverture::SansFondu});
 }
 void retirer(Session& session, Fenetres& fenetres) {
     if (session.corpus.EntretienCourant != 0) fenetres.retirerEntretien();
@@ -35,7 +37,7 @@ void retirer(Session& session, Fenetres& fenetres) {
 
 void basculer(Session& session, Fenetres& fenetres) {
     basculerEntretien(session.corpus, session.corpus.EntretienCourant);
-    fenetres.RedessinerPistes();
+    fenetres.annoncer({Sujet::Bascules});
 }
 
 /// lblmenu by index. The blanks in front make room for an icon.
@@ -50,7 +52,7 @@ constexpr Commande COMMANDES[] = {
     {7, "Importer les thématiques d'un autre corpus"},
     {8, "Afficher/Masquer le tri à plat"},
     {9, "Représenter la taille réelle des entretiens",
-     [](Session&, Fenetres& f) { f.basculerTailleReelle(false); }},
+     [](Session& s, Fenetres&) { s.corpus.TailleReelle = !s.corpus.TailleReelle; }},
     {10, "         Lire", lire},
     {11, "         Informations"},
     {12, "         Supprimer", retirer},
@@ -185,7 +187,7 @@ void FrmMenu::ajouterVolume(QVBoxLayout* colonne) {
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->addWidget(LblVol_);
     connect(LblVol_, &QSlider::valueChanged, this,
-            [this](int part) { garder([this, part] { fenetres_.reglerVolume(part); }); });
+            [this](int part) { garder([this, part] { reglerVolume(session_, plateforme_, part); }); });
 }
 
 /// The recent corpora change with each opening, so the list is read each time the panel shows.

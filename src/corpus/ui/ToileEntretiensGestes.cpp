@@ -61,7 +61,7 @@ void ToileEntretiens::cliquer(const Element& element, Twips y) {
     case Controle::ImgOnOff:
         return basculer(element.index, false);
     case Controle::ImgPlay:
-        return fenetres_.ouvrirEntretien(element.index, Ouverture::AvecFondu);
+        return fenetres_.montrer(Fenetre::FrmVisu, EntretienVoulu{element.index, Ouverture::AvecFondu});
     case Controle::ImgEnt:
         return choisir(element.index);
     case Controle::Lblthm:
@@ -75,12 +75,12 @@ void ToileEntretiens::doubleCliquer(const Element& element) {
     if (element.controle == Controle::ImgOnOff)
         basculer(element.index, true);
     else if (element.controle == Controle::lblfich)
-        fenetres_.ouvrirEntretien(element.index, Ouverture::SansFondu);
+        fenetres_.montrer(Fenetre::FrmVisu, EntretienVoulu{element.index, Ouverture::SansFondu});
 }
 
 void ToileEntretiens::basculer(int slot, bool seul) {
     seul ? isolerEntretien(session_.corpus, slot) : basculerEntretien(session_.corpus, slot);
-    fenetres_.RedessinerPistes();
+    fenetres_.annoncer({Sujet::Bascules});
 }
 
 void ToileEntretiens::choisir(int slot) {
@@ -141,7 +141,7 @@ bool ToileEntretiens::touche(int touche, Qt::KeyboardModifiers modificateurs) {
     } else if (courant == 0) {
         return false;
     } else if (touche == Qt::Key_Return || touche == Qt::Key_Enter) {
-        fenetres_.ouvrirEntretien(courant, Ouverture::AvecFondu);
+        fenetres_.montrer(Fenetre::FrmVisu, EntretienVoulu{courant, Ouverture::AvecFondu});
     } else if (touche == Qt::Key_Space) {
         basculer(courant, modificateurs & Qt::ShiftModifier);
     } else {

@@ -45,7 +45,7 @@ void ToileThematiques::basculer(int rang, bool seule) {
     rang_ = rang;
     seule ? isolerThematique(session_.corpus, rang) : basculerThematique(session_.corpus, rang);
     if (surBascule) surBascule();
-    fenetres_.RedessinerPistes();
+    fenetres_.annoncer({Sujet::Bascules});
 }
 
 bool ToileThematiques::touche(int touche, bool seule) {

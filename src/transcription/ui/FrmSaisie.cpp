@@ -1,5 +1,6 @@
 #include "transcription/ui/FrmSaisie.h"
 
+#include "corpus/AnalyserEntretiens.h"
 #include "textfile/nombres.h"
 #include "transcription/Retranscription.h"
 #include "transcription/Saisie.h"
@@ -97,6 +98,19 @@ void FrmSaisie::creerTexte() {
     Imgbtn0_->iconePressee(QStringLiteral("ValiderPresse"));
     poser(Imgbtn0_, t::IMGBTN_0);
     connect(Imgbtn0_, &BoutonImage::clicked, this, [this] { garder([this] { valider(); }); });
+}
+
+void FrmSaisie::montrer(const Contenu& contenu) {
+    if (std::holds_alternative<NouvelExtraitVoulu>(contenu))
+        PreparerSaisie();
+    else if (const auto* voulu = std::get_if<ExtraitVoulu>(&contenu))
+        OuvrirExtrait(voulu->numero);
+    else
+        Forme::montrer(contenu);
+}
+
+void FrmSaisie::surAvis(const Avis& avis) {
+    if (avis.sujet == Sujet::Thematiques) ConstruireThematiques();
 }
 
 void FrmSaisie::PreparerSaisie() {
@@ -322,11 +336,11 @@ void FrmSaisie::valider() {
     });
     if (!ecrit) return;
     if (etat.NouvelExtrait || !etat.RetourCorpus) {
-        fenetres_.rafraichirExtraits();
+        fenetres_.annoncer({Sujet::Extraits, session_.corpus.EntretienCourant});
         return;
     }
     etat.RetourCorpus = false;
-    fenetres_.quitterVisu();
+    quitterEntretien(session_, plateforme_);
     fenetres_.decharger(Fenetre::FrmVisu);
 }
 
@@ -334,10 +348,10 @@ void FrmSaisie::supprimer() {
     auto& etat = session_.transcription;
     if (etat.ExtraitCourant == 0) return;
     if (!cacherPour([&] { return SupprimerExtrait(session_, plateforme_) == Suppression::Supprime; })) return;
-    fenetres_.rafraichirExtraits();
+    fenetres_.annoncer({Sujet::Extraits, session_.corpus.EntretienCourant});
     if (!etat.RetourCorpus) return;
     etat.RetourCorpus = false;
-    fenetres_.quitterVisu();
+    quitterEntretien(session_, plateforme_);
 }
 
 void FrmSaisie::Timer2_Tick() {

@@ -30,13 +30,15 @@ class FrmSaisie : public Forme {
     FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent = nullptr);
 
     /// Opens the span SaisieDebut..SaisieFin as a new extract, the panel of thematics out.
+    void montrer(const Contenu& contenu) override;
+    void surAvis(const Avis& avis) override;
     void PreparerSaisie();
     /// Opens existing extract `n`, faded in.
     void OuvrirExtrait(int n);
     /// Leaves without saving.
     void FermerSaisie();
     /// The text, the thematic or the end of the span are no more what they were at the opening.
-    bool entamee() const;
+    bool entamee() const override;
     /// Refills the panel from the thematic table.
     void ConstruireThematiques();
 

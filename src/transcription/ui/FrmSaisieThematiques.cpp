@@ -171,7 +171,7 @@ void FrmSaisie::ajouterThematique() {
         throw;
     }
     CouleurChoisie_.clear();
-    fenetres_.ConstruireThematiques();
+    fenetres_.annoncer({Sujet::Thematiques});
     choisirThematique(int(corpus.NbThm));
     reinitialiserAjout();
 }

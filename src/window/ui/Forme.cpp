@@ -25,6 +25,14 @@ Forme::Forme(const char* nom, Session& session, Plateforme& plateforme, Fenetres
     setWindowTitle(QStringLiteral("Vermo"));
 }
 
+void Forme::montrer(const Contenu&) {
+    const bool enVue = isVisible();
+    show();
+    if (!enVue) return;
+    raise();
+    activateWindow();
+}
+
 void Forme::Transparence(int alpha) {
     alpha_ = std::clamp(alpha, 0, 255);
     setWindowOpacity(alpha_ / 255.0);

@@ -25,6 +25,13 @@ class Forme : public QWidget {
     Forme(const char* nom, Session& session, Plateforme& plateforme, Fenetres& fenetres,
           QWidget* parent = nullptr);
 
+    /// Shows what is asked of this window; without `contenu` what it showed, in front.
+    virtual void montrer(const Contenu& contenu);
+    /// Something has changed, and stands: the window shows it anew if it shows it at all.
+    virtual void surAvis(const Avis&) {}
+    /// Holds what was typed and stands in no file.
+    virtual bool entamee() const { return false; }
+
     /// Opacity 0 to 255. Kept even where nothing composites windows.
     void Transparence(int alpha);
     int alpha() const { return alpha_; }

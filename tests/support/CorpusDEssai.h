@@ -44,6 +44,32 @@ struct CorpusDEssai {
     void analyser() { AnalyserEntretiens(session, hote, 1, corpus().NbEntretiens); }
 };
 
+/// A corpus in memory, without files: `nombre` interviews of 100, 200, 300… seconds, each with an extract of
+/// "001" from 10 to 20 s; three thematics; rows 1000 high.
+inline Session corpusDEssai(int nombre) {
+    Session session;
+    session.reglages.separateurDecimal = '.';
+    EtatCorpus& corpus = session.corpus;
+    corpus.CheminCorpus = "/corpus/Essai.Crp", corpus.RepCorpus = "/corpus/";
+    corpus.HauteurEntretien = 1000;
+    corpus.ThmCode = {"", "000", "001", "002"};
+    corpus.ThmCouleur = {"", "&H0", "255", "65280"};
+    corpus.ThmNom = {"", " Sans", " Travail", " Famille"};
+    corpus.ThmVisible = {0, 1, 1, 1};
+    corpus.NbThm = 3;
+    corpus.NbEntretiens = static_cast<std::int16_t>(nombre);
+    corpus.Entretiens.resize(1), corpus.extraits.resize(1);
+    for (int i = 1; i <= nombre; ++i) {
+        Entretien& entretien = corpus.Entretiens.emplace_back();
+        entretien.Fichier = "entretien" + std::to_string(i) + ".wav";
+        entretien.Duree = 100.0F * static_cast<float>(i);
+        corpus.extraits.push_back(analyser("100\r\n<|OBS|\r\n>|OBS|\r\n::10.00::001\r\nmot\r\n::20.00::\r\n",
+                                           session.reglages, "x.Rtr")
+                                      .extraits);
+    }
+    return session;
+}
+
 /// Texts of extracts joined by "|" with their fields, CR shown as "/".
 inline std::string decrireExtraits(const Session& session, int slot) {
     std::string texte;

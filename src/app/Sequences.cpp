@@ -1,0 +1,128 @@
+// The sequences that go through several windows: what src/sequences/ does, shown.
+#include "app/Application.h"
+#include "audio/ui/FrmVisu.h"
+#include "corpus/ui/FrmCorpus.h"
+#include "sequences/Import.h"
+#include "sequences/Ouverture.h"
+
+#include <QScopedValueRollback>
+#include <QTimer>
+
+namespace vermo {
+
+void Application::NouveauCorpus() {
+    if (!nouveauCorpus(session_, plateforme_)) return;
+    rouvrirCorpus();
+    session_.corpus.OuvertureDirecte = false;
+}
+
+void Application::OuvrirCorpus() {
+    const Spectateur spectateur{corpus().hauteurFond(), [this](Etape etape) { montrerEtape(etape); }};
+    if (ouvrirCorpus(session_, plateforme_, spectateur) == IssueOuverture::Ouverte) repos_.start();
+}
+
+void Application::montrerEtape(Etape etape) {
+    switch (etape) {
+    case Etape::Vide:
+        return corpus().viderAffichage();
+    case Etape::Thematiques:
+        return annoncer({Sujet::Thematiques});
+    case Etape::Frise:
+        return corpus().montrerFrise();
+    case Etape::Pistes:
+        return corpus().montrerPistes();
+    }
+}
+
+/// What is on the disk counts again, without a question.
+void Application::rouvrirCorpus() {
+    session_.corpus.OuvertureDirecte = true;
+    OuvrirCorpus();
+}
+
+void Application::suivreListe(const SuiteListe& suite) {
+    if (suite.aRouvrir) rouvrirCorpus();
+    if (suite.faute) throw FauteExecution(*suite.faute);
+}
+
+void Application::retirerEntretien() {
+    suivreListe(vermo::retirerEntretien(session_, plateforme_));
+}
+
+void Application::DeplacerEntretien(int source, int cible) {
+    suivreListe(deplacerDansListe(session_, plateforme_, source, cible));
+}
+
+/// Windows stay alive while a recording is copied or measured: a second import waits for the first to end.
+void Application::ImporterEntretien() {
+    if (importEnCours_) return;
+    const QScopedValueRollback enCours(importEnCours_, true);
+    try {
+        importer();
+    } catch (...) {
+        plateforme_.ecran.pointeur(Pointeur::Normal);
+        throw;
+    }
+    plateforme_.ecran.pointeur(Pointeur::Normal);
+}
+
+void Application::importer() {
+    const SuiteImport suite = importerEntretien(session_, plateforme_);
+    const int slot = session_.corpus.EntretienCourant;
+    switch (suite.issue) {
+    case IssueImport::Abandonne:
+        return;
+    case IssueImport::OuvrirDAbord:
+        return OuvrirCorpus();
+    case IssueImport::ARouvrir:
+        return suivreListe({true, suite.faute});
+    case IssueImport::Ajoute:
+        annoncer({Sujet::Entretiens, slot});
+        lireAttributs(session_, plateforme_, slot);
+        montrer(Fenetre::FrmVisu, EntretienVoulu{slot, Ouverture::SansFondu});
+    }
+}
+
+void Application::ouvrirEntretien(const EntretienVoulu& voulu) {
+    EtatCorpus& etat = session_.corpus;
+    if (voulu.slot < 1 || voulu.slot > etat.NbEntretiens) return;
+    plateforme_.ecran.pointeur(Pointeur::Sablier);
+    etat.EntretienCourant = static_cast<std::int16_t>(voulu.slot);
+    decharger(Fenetre::FrmVisu);
+    plateforme_.media.URL(cheminEnregistrement(session_, voulu.slot));
+    try {
+        montrerEntretien(voulu.ouverture);
+    } catch (...) {
+        plateforme_.ecran.pointeur(Pointeur::Normal);
+        throw;
+    }
+    plateforme_.ecran.pointeur(Pointeur::Normal);
+}
+
+/// The corpus window takes no input from now on; it is painted as such only once the interview stands over
+/// it.
+void Application::desactiverCorpus() {
+    constexpr int apresLeDessinMs = 120;
+    FrmCorpus& forme = corpus();
+    forme.setUpdatesEnabled(false);
+    forme.setEnabled(false);
+    QTimer::singleShot(apresLeDessinMs, &forme, [&forme] {
+        forme.setUpdatesEnabled(true);
+        forme.repaint(); // what was asked for meanwhile would wait for ever
+    });
+}
+
+void Application::montrerEntretien(Ouverture ouverture) {
+    session_.transcription.signalement.clear();
+    desactiverCorpus();
+    try {
+        if (formes_.de<FrmVisu>(Fenetre::FrmVisu).OuvrirEntretienVue(ouverture)) return;
+    } catch (...) {
+        decharger(Fenetre::FrmVisu);
+        corpus().setEnabled(true);
+        throw;
+    }
+    decharger(Fenetre::FrmVisu);
+}
+
+} // namespace vermo

@@ -1,0 +1,105 @@
+#include "sequences/Ouverture.h"
+
+#include "corpus/EcritureCorpus.h"
+#include "corpus/Frise.h"
+#include "corpus/Ordre.h"
+#include "corpus/OuvertureCorpus.h"
+#include "corpus/Pistes.h"
+#include "data/Variables.h"
+#include "textfile/faute.h"
+
+#include <utility>
+
+namespace vermo {
+namespace {
+
+/// False when the corpus could not be opened: the window stays emptied and its pointer the hourglass.
+bool lireCorpus(Session& session, Plateforme& plateforme, const Spectateur& spectateur) {
+    nommerCorpus(session);
+    MettreAJourProjets(session, plateforme);
+    viderCorpus(session);
+    spectateur.montrer(Etape::Vide);
+    if (!corpusAccessible(session, plateforme)) return false;
+    if (!lireThematiques(session, plateforme)) return false;
+    spectateur.montrer(Etape::Thematiques);
+    if (!lireEntretiens(session, plateforme)) return false;
+    toutActiver(session);
+    calculerHauteur(session, spectateur.hauteurCadre);
+    preparerFrise(session, plateforme);
+    spectateur.montrer(Etape::Frise);
+    signalerDureesNulles(session, plateforme, 1, session.corpus.NbEntretiens);
+    spectateur.montrer(Etape::Pistes);
+    LireVariables(session, plateforme);
+    for (int slot = 1; slot <= session.corpus.NbEntretiens; ++slot)
+        lireAttributs(session, plateforme, slot);
+    return true;
+}
+
+IssueOuverture demanderEtLire(Session& session, Plateforme& plateforme, const Spectateur& spectateur) {
+    if (!demanderCorpus(session, plateforme)) {
+        spectateur.montrer(Etape::Pistes); // no interview is chosen any more
+        return IssueOuverture::Renoncee;
+    }
+    return lireCorpus(session, plateforme, spectateur) ? IssueOuverture::Ouverte : IssueOuverture::Echouee;
+}
+
+} // namespace
+
+IssueOuverture ouvrirCorpus(Session& session, Plateforme& plateforme, const Spectateur& spectateur) {
+    session.corpus.EntretienCourant = 0;
+    plateforme.ecran.pointeur(Pointeur::Sablier);
+    try {
+        const IssueOuverture issue = demanderEtLire(session, plateforme, spectateur);
+        if (issue != IssueOuverture::Echouee) plateforme.ecran.pointeur(Pointeur::Normal);
+        return issue;
+    } catch (...) {
+        plateforme.ecran.pointeur(Pointeur::Normal);
+        throw;
+    }
+}
+
+bool nouveauCorpus(Session& session, Plateforme& plateforme) {
+    if (!creerCorpus(session, plateforme)) return false;
+    session.corpus.OuvertureDirecte = true;
+    return true;
+}
+
+void lireAttributs(Session& session, Plateforme& plateforme, int slot) {
+    try {
+        LireAttributs(session, slot);
+    } catch (const FauteExecution& faute) {
+        bool& dite = ligneDe(session.corpus.extraits, slot).fauteDite;
+        if (!std::exchange(dite, true)) direFaute(plateforme.dialogues, faute);
+    }
+}
+
+SuiteListe retirerEntretien(Session& session, Plateforme& plateforme) {
+    EtatCorpus& corpus = session.corpus;
+    if (corpus.EntretienCourant == 0) return {};
+    const Reponse reponse =
+        plateforme.dialogues.demander({.texte = "Etes-vous sûre de vouloir retirer cet entretien du corpus?",
+                                       .titre = "Vermo",
+                                       .boutons = Boutons::OuiNon,
+                                       .icone = Icone::Question});
+    if (reponse != Reponse::Oui) return {};
+    entretienDe(corpus, corpus.EntretienCourant).Fichier.clear();
+    return enregistrerListe(session, plateforme);
+}
+
+SuiteListe deplacerDansListe(Session& session, Plateforme& plateforme, int source, int cible) {
+    if (source == cible) return {};
+    DeplacerEntretien(session, source, cible);
+    return enregistrerListe(session, plateforme);
+}
+
+SuiteListe enregistrerListe(Session& session, Plateforme& plateforme) {
+    SuiteListe suite{.aRouvrir = true, .faute = {}};
+    try {
+        EcrireEntretiens(session, plateforme);
+    } catch (const FauteExecution& faute) {
+        suite.faute = faute;
+    }
+    return suite;
+}
+
+} // namespace vermo
