@@ -26,8 +26,7 @@ class Analyseur {
             rangs_.reserve(std::min<std::size_t>(tampon_.size() / 256, EXTRAITS_CORPUS_MAX));
             extraits.duree = lireDuree();
             extraits.observations = lireObservations();
-            lireExtraits();
-            refuserOuvert();
+            refuserOuvert(rtr::parcourir(lignes_, fichier_, *this));
         } catch (const FauteExecution& faute) {
             resultat.faute = faute;
         }
@@ -39,6 +38,39 @@ class Analyseur {
         return resultat;
     }
 
+    // What the walk along the marks calls.
+
+    /// What stands before the first extract belongs to none.
+    void texte(std::string_view ligne) {
+        if (rangs_.empty()) return;
+        ecrire(ligne);
+        tampon_[ecrit_++] = CR;
+    }
+
+    void ouvrir(const rtr::Marque& marque, std::string_view, const Lieu& lieu) {
+        if (rangs_.size() == EXTRAITS_CORPUS_MAX)
+            lieu.refuser("Un entretien du corpus tient au plus " + std::to_string(EXTRAITS_CORPUS_MAX) +
+                         " extraits.");
+        LigneExtrait rang;
+        rang.secondesDebut = temps(marque.temps, "Le début", lieu);
+        rangerFin();
+        const std::string_view code = marque.suite.substr(0, 3);
+        rang.debut = ecrire(marque.temps);
+        rang.longueurDebut = static_cast<std::uint16_t>(marque.temps.size());
+        code.copy(rang.thm.data(), rang.thm.size());
+        rang.longueurThm = static_cast<std::uint8_t>(code.size());
+        rang.texte = static_cast<std::uint32_t>(ecrit_);
+        rangs_.push_back(rang);
+    }
+
+    void fermer(const rtr::Marque& marque, std::string_view, const Lieu& lieu) {
+        LigneExtrait& rang = rangs_.back();
+        rang.secondesFin = temps(marque.temps, "La fin", lieu);
+        rang.longueurFin = static_cast<std::uint16_t>(marque.temps.size());
+        fin_ = marque.temps;
+        somme_ += rang.secondesFin - rang.secondesDebut;
+    }
+
   private:
     Lieu lieu() const { return {fichier_, lignes_.numero()}; }
 
@@ -47,10 +79,10 @@ class Analyseur {
             throw FauteExecution("La retranscription dépasse 4 Go.", fichier_);
     }
 
-    float temps(std::string_view champ, const char* quoi) const {
-        const auto lu = static_cast<float>(rtr::tempsOuFaute(champ, reglages_, quoi, lieu()));
+    float temps(std::string_view champ, const char* quoi, const Lieu& lieu) const {
+        const auto lu = static_cast<float>(rtr::tempsOuFaute(champ, reglages_, quoi, lieu));
         if (!std::isfinite(lu) || champ.size() > std::numeric_limits<std::uint16_t>::max())
-            lieu().refuser(std::string(quoi) + " est hors de toute mesure.");
+            lieu.refuser(std::string(quoi) + " est hors de toute mesure.");
         return lu;
     }
 
@@ -75,60 +107,6 @@ class Analyseur {
         return observations;
     }
 
-    void lireExtraits() {
-        std::string_view ligne;
-        while (lignes_.suivante(ligne)) {
-            if (nuls_) refuserNul(ligne, lieu());
-            if (!porteUneMarque(ligne)) {
-                ajouterTexte(ligne);
-                continue;
-            }
-            const rtr::Marque marque = *rtr::lireMarque(ligne, lieu());
-            DansExtrait_ ? fermer(marque) : ouvrir(marque);
-        }
-    }
-
-    /// The next mark is sought once for all the lines of text before it.
-    bool porteUneMarque(std::string_view ligne) {
-        const auto debut = static_cast<std::size_t>(ligne.data() - tampon_.data());
-        if (prochaine_ < debut) prochaine_ = tampon_.find(rtr::MARQUE, debut);
-        return prochaine_ < debut + ligne.size();
-    }
-
-    /// What stands before the first extract belongs to none.
-    void ajouterTexte(std::string_view ligne) {
-        if (rangs_.empty()) return;
-        ecrire(ligne);
-        tampon_[ecrit_++] = CR;
-    }
-
-    void ouvrir(const rtr::Marque& marque) {
-        if (rangs_.size() == EXTRAITS_CORPUS_MAX)
-            lieu().refuser("Un entretien du corpus tient au plus " + std::to_string(EXTRAITS_CORPUS_MAX) +
-                           " extraits.");
-        LigneExtrait rang;
-        rang.secondesDebut = temps(marque.temps, "Le début");
-        rangerFin();
-        const std::string_view code = marque.suite.substr(0, 3);
-        rang.debut = ecrire(marque.temps);
-        rang.longueurDebut = static_cast<std::uint16_t>(marque.temps.size());
-        code.copy(rang.thm.data(), rang.thm.size());
-        rang.longueurThm = static_cast<std::uint8_t>(code.size());
-        rang.texte = static_cast<std::uint32_t>(ecrit_);
-        rangs_.push_back(rang);
-        DansExtrait_ = true;
-        ligneOuverture_ = lignes_.numero();
-    }
-
-    void fermer(const rtr::Marque& marque) {
-        LigneExtrait& rang = rangs_.back();
-        rang.secondesFin = temps(marque.temps, "La fin");
-        rang.longueurFin = static_cast<std::uint16_t>(marque.temps.size());
-        fin_ = marque.temps;
-        somme_ += rang.secondesFin - rang.secondesDebut;
-        DansExtrait_ = false;
-    }
-
     /// An extract's end waits until its text is complete: lines may follow the closing one.
     void rangerFin() {
         if (rangs_.empty()) return;
@@ -138,11 +116,10 @@ class Analyseur {
         fin_.clear();
     }
 
-    void refuserOuvert() const {
-        if (DansExtrait_)
-            Lieu{fichier_, ligneOuverture_}.refuser(
-                "L'extrait " + std::to_string(rangs_.size()) +
-                " n'a pas de ligne de fin : la retranscription est coupée.");
+    void refuserOuvert(std::size_t ouverture) const {
+        if (ouverture != 0)
+            Lieu{fichier_, ouverture}.refuser("L'extrait " + std::to_string(rangs_.size()) +
+                                              " n'a pas de ligne de fin : la retranscription est coupée.");
     }
 
     std::uint32_t ecrire(std::string_view octets) {
@@ -160,8 +137,6 @@ class Analyseur {
     }
 
     std::string tampon_;
-    const bool nuls_ = tampon_.find('\0') != std::string::npos;
-    std::size_t prochaine_ = tampon_.find(rtr::MARQUE); ///< place of the next mark, npos behind the last
     std::size_t ecrit_ = 0;
     Lignes lignes_;
     const Reglages& reglages_;
@@ -169,8 +144,6 @@ class Analyseur {
     std::vector<LigneExtrait> rangs_;
     Texte fin_;
     double somme_ = 0;
-    bool DansExtrait_ = false;
-    std::size_t ligneOuverture_ = 0;
 };
 
 } // namespace

@@ -44,8 +44,8 @@ void EcrireEntretiens(const Session& session, Plateforme& plateforme) {
         fichiers.push_back(corpus.Entretiens.at(slot).Fichier);
     const auto neuf = crp::ecrireEntretiens(ancien, fichiers);
     if (!neuf) return direSansBalise(plateforme.dialogues, "entretiens");
-    remplacerFichier(corpus.CheminCorpus + SUFFIXE_TEMPORAIRE, neuf->temporaire);
-    remplacerFichier(corpus.CheminCorpus, neuf->corpus);
+    remplacerFichier(corpus.CheminCorpus + SUFFIXE_TEMPORAIRE, *neuf);
+    remplacerFichier(corpus.CheminCorpus, *neuf);
 }
 
 } // namespace vermo

@@ -118,7 +118,8 @@ bool corpusAccessible(const Session& session, Plateforme& plateforme) {
 
 bool lireThematiques(Session& session, Plateforme& plateforme) {
     EtatCorpus& corpus = session.corpus;
-    const auto rangs = crp::lireThematiques(lireFichier(corpus.CheminCorpus), corpus.CheminCorpus);
+    const auto rangs =
+        crp::lireThematiques(lireFichier(corpus.CheminCorpus), corpus.CheminCorpus, THEMATIQUES_MAX);
     if (!rangs) {
         direSansBalise(plateforme.dialogues, "thématiques");
         return false;
@@ -130,7 +131,8 @@ bool lireThematiques(Session& session, Plateforme& plateforme) {
 
 bool lireEntretiens(Session& session, Plateforme& plateforme) {
     EtatCorpus& corpus = session.corpus;
-    const auto fichiers = crp::lireEntretiens(lireFichier(corpus.CheminCorpus), corpus.CheminCorpus);
+    const auto fichiers =
+        crp::lireEntretiens(lireFichier(corpus.CheminCorpus), corpus.CheminCorpus, ENTRETIENS_MAX);
     if (!fichiers) {
         direSansBalise(plateforme.dialogues, "entretiens");
         return false;

@@ -1,6 +1,7 @@
 #pragma once
 #include "formats/EnTeteWav.h"
 #include "formats/FichierRtr.h"
+#include "platform/DejaDit.h"
 #include "textfile/fichier.h"
 #include "textfile/reglages.h"
 #include "textfile/tables.h"
@@ -18,6 +19,7 @@
 namespace vermo {
 
 constexpr int ENTRETIENS_MAX = 999;
+constexpr int THEMATIQUES_MAX = 999;
 constexpr int EXTRAITS_CORPUS_MAX = 999; ///< extracts of one interview in the corpus-wide tables
 
 /// One interview. Filled at each opening of a corpus.
@@ -62,7 +64,7 @@ struct ExtraitsEntretien {
     float duree = 0;          ///< its first line, seconds
     float somme = 0;          ///< lengths of its extracts, seconds
     Texte observations;
-    bool fauteDite = false, manqueDit = false, dureeNulleDite = false; ///< told: not again for this file
+    DejaDit fauteDite, manqueDit, dureeNulleDite; ///< about this file
     bool operator==(const ExtraitsEntretien&) const = default;
 };
 
@@ -111,7 +113,7 @@ struct EtatTranscription {
     float NbExtraits = 0;
     bool lectureEntiere = false;     ///< the arrays hold all that the file held
     bool separateurEtranger = false; ///< the file's times are written with the other decimal separator
-    Utf8 signalement; ///< what was last said about the file; not said again. Cleared by an opening
+    DejaDit signalement;             ///< about the file; forgotten by an opening
     float ExtraitCourant = 0;
     double SaisieDebut = 0, SaisieFin = 0, SaisieDuree = 0;
     bool NouvelExtrait = false;

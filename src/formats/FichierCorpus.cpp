@@ -1,18 +1,13 @@
 #include "formats/FichierCorpus.h"
 
 #include "formats/Champs.h"
-#include "textfile/jetons.h"
+#include "formats/Sections.h"
 #include "textfile/lignes.h"
 #include "textfile/nombres.h"
 
 namespace vermo::crp {
 namespace {
 
-/// A section by its tags.
-struct Section {
-    std::string_view ouverture;
-    std::string_view fermeture;
-};
 constexpr Section THEM{"<|THEM|", ">|THEM|"};
 constexpr Section POS{"<|POS|", ">|POS|"};
 constexpr Section DIC{"<|DIC|", ">|DIC|"};
@@ -57,21 +52,6 @@ Thematique lireThematique(std::string_view ligne, const Lieu& lieu) {
     return rang;
 }
 
-/// What a rewrite keeps of a file: the lines up to the opening tag, that one included, and those behind the
-/// closing one. Nothing when there is no opening tag.
-struct Cadre {
-    std::string_view tete;
-    std::string_view queue;
-};
-
-std::optional<Cadre> encadrer(std::string_view octets, const Section& section) {
-    Lignes lignes(octets);
-    if (!lignes.jusqua(section.ouverture)) return std::nullopt;
-    const std::string_view tete = octets.substr(0, octets.size() - lignes.reste().size());
-    lignes.jusqua(section.fermeture);
-    return Cadre{tete, lignes.reste()};
-}
-
 } // namespace
 
 std::string nouveau(std::string_view date, std::string_view heure) {
@@ -86,12 +66,14 @@ std::string nouveau(std::string_view date, std::string_view heure) {
     return sortie;
 }
 
-std::optional<std::vector<Thematique>> lireThematiques(std::string_view octets, const Utf8& fichier) {
-    return lireSection<Thematique>(octets, THEM, fichier, THEMATIQUES_MAX, lireThematique);
+std::optional<std::vector<Thematique>> lireThematiques(std::string_view octets, const Utf8& fichier,
+                                                       std::size_t maximum) {
+    return lireSection<Thematique>(octets, THEM, fichier, maximum, lireThematique);
 }
 
-std::optional<std::vector<Texte>> lireEntretiens(std::string_view octets, const Utf8& fichier) {
-    return lireSection<Texte>(octets, ENTR, fichier, ENTRETIENS_MAX,
+std::optional<std::vector<Texte>> lireEntretiens(std::string_view octets, const Utf8& fichier,
+                                                 std::size_t maximum) {
+    return lireSection<Texte>(octets, ENTR, fichier, maximum,
                               [](std::string_view ligne, const Lieu&) { return Texte(ligne); });
 }
 
@@ -115,33 +97,15 @@ std::optional<std::vector<LigneModalite>> lireDic(std::string_view octets, const
 }
 
 std::optional<std::string> ecrireThematiques(std::string_view octets, const std::vector<Thematique>& rangs) {
-    const auto cadre = encadrer(octets, THEM);
-    if (!cadre) return std::nullopt;
-    std::string sortie;
-    sortie.reserve(octets.size() + 64 * rangs.size());
-    Jetons jetons(cadre->tete);
-    Texte item;
-    while (jetons.suivant(item))
-        ecrireLigne(sortie, item);
+    std::vector<Texte> lignes;
     for (const Thematique& rang : rangs)
-        if (!rang.code.empty()) ecrireLigne(sortie, rang.code + "," + rang.couleur + "," + rang.nom);
-    ecrireLigne(sortie, THEM.fermeture);
-    copierLignes(sortie, cadre->queue);
-    return sortie;
+        if (!rang.code.empty()) lignes.push_back(rang.code + "," + rang.couleur + "," + rang.nom);
+    return reecrireSection(octets, THEM, lignes, {.tete = copierParJetons});
 }
 
-std::optional<ReecritureEntretiens> ecrireEntretiens(std::string_view octets,
-                                                     const std::vector<Texte>& fichiers) {
-    const auto cadre = encadrer(octets, ENTR);
-    if (!cadre) return std::nullopt;
-    std::string sortie;
-    sortie.reserve(octets.size() + 32 * fichiers.size());
-    copierLignes(sortie, cadre->tete);
-    for (const Texte& fichier : fichiers)
-        if (!fichier.empty()) ecrireLigne(sortie, fichier);
-    ecrireLigne(sortie, ENTR.fermeture);
-    copierLignes(sortie, cadre->queue, ecrireEntreGuillemets);
-    return ReecritureEntretiens{sortie, sortie};
+std::optional<std::string> ecrireEntretiens(std::string_view octets, std::vector<Texte> fichiers) {
+    std::erase(fichiers, Texte{});
+    return reecrireSection(octets, ENTR, fichiers, {.queue = copierEntreGuillemets});
 }
 
 } // namespace vermo::crp

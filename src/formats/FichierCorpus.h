@@ -38,15 +38,16 @@ struct LigneModalite {
 /// The ten lines of a new corpus. `date` and `heure` are in the short local format.
 std::string nouveau(std::string_view date, std::string_view heure);
 
-constexpr std::size_t THEMATIQUES_MAX = 999;
-constexpr std::size_t ENTRETIENS_MAX = 999;
+constexpr std::size_t SANS_LIMITE = static_cast<std::size_t>(-1);
 constexpr int RANGS_MAX = 99; ///< variables, and modalities of one variable
 
 /// Sections as read; nothing when the opening tag is missing. A missing closing tag reads to the end, empty
 /// lines are skipped. Throw FauteExecution with `fichier` and the line for a line without its commas, a
-/// colour or a number that isn't one, a number outside its bounds, a row too many, and a NUL byte.
-std::optional<std::vector<Thematique>> lireThematiques(std::string_view octets, const Utf8& fichier);
-std::optional<std::vector<Texte>> lireEntretiens(std::string_view octets, const Utf8& fichier = {});
+/// colour or a number that isn't one, a number outside its bounds, a row more than `maximum`, and a NUL byte.
+std::optional<std::vector<Thematique>> lireThematiques(std::string_view octets, const Utf8& fichier,
+                                                       std::size_t maximum = SANS_LIMITE);
+std::optional<std::vector<Texte>> lireEntretiens(std::string_view octets, const Utf8& fichier = {},
+                                                 std::size_t maximum = SANS_LIMITE);
 std::optional<std::vector<LigneVariable>> lirePos(std::string_view octets, const Utf8& fichier);
 std::optional<std::vector<LigneModalite>> lireDic(std::string_view octets, const Utf8& fichier);
 
@@ -55,13 +56,8 @@ std::optional<std::vector<LigneModalite>> lireDic(std::string_view octets, const
 /// does; rows and the lines behind the section pass through it between quotes, and so come out as they are.
 std::optional<std::string> ecrireThematiques(std::string_view octets, const std::vector<Thematique>& rangs);
 
-/// A rewrite of the ENTR section: the corpus and the temporary file that stays beside it. Empty names are
-/// dropped. Lines behind the section come out between quotes. Both files get the same bytes.
-struct ReecritureEntretiens {
-    std::string corpus;
-    std::string temporaire;
-};
-std::optional<ReecritureEntretiens> ecrireEntretiens(std::string_view octets,
-                                                     const std::vector<Texte>& fichiers);
+/// The whole file with its ENTR section rewritten; nothing when the opening tag is missing. Empty names are
+/// dropped. Lines behind the section come out between quotes.
+std::optional<std::string> ecrireEntretiens(std::string_view octets, std::vector<Texte> fichiers);
 
 } // namespace vermo::crp

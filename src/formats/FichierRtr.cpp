@@ -5,8 +5,7 @@
 #include "textfile/lignes.h"
 #include "textfile/nombres.h"
 
-#include <algorithm>
-#include <optional>
+#include <utility>
 
 namespace vermo::rtr {
 namespace {
@@ -20,21 +19,51 @@ void ajouterLigne(Texte& texte, std::string_view ligne) {
     if (texte.size() > 1 && texte[texte.size() - 2] == CR) texte.pop_back();
 }
 
-void ouvrir(Lecture& lecture, const Marque& marque, const Lieu& lieu) {
-    if (lecture.extraits.size() > EXTRAITS_MAX)
-        lieu.refuser("Une retranscription tient au plus " + std::to_string(EXTRAITS_MAX) + " extraits.");
-    lecture.extraits.push_back({Texte(marque.temps), {}, Texte(marque.suite.substr(0, 3)), {}});
-    lecture.lignes.push_back({static_cast<std::uint32_t>(lieu.ligne), 0});
+/// Takes the extracts into the working arrays' form.
+class LecteurExtraits {
+  public:
+    explicit LecteurExtraits(Lecture& lecture) : lecture_(lecture) {}
+
+    void texte(std::string_view ligne) { ajouterLigne(lecture_.extraits.back().texte, ligne); }
+
+    void ouvrir(const Marque& marque, std::string_view, const Lieu& lieu) {
+        if (lecture_.extraits.size() > EXTRAITS_MAX)
+            lieu.refuser("Une retranscription tient au plus " + std::to_string(EXTRAITS_MAX) + " extraits.");
+        lecture_.extraits.push_back({Texte(marque.temps), {}, Texte(marque.suite.substr(0, 3)), {}});
+        lecture_.lignes.push_back({static_cast<std::uint32_t>(lieu.ligne), 0});
+    }
+
+    void fermer(const Marque& marque, std::string_view, const Lieu& lieu) {
+        lecture_.extraits.back().fin = marque.temps;
+        lecture_.lignes.back().fermeture = static_cast<std::uint32_t>(lieu.ligne);
+    }
+
+  private:
+    Lecture& lecture_;
+};
+
+/// Everything up to the first mark line.
+std::string_view enTeteDe(std::string_view octets) {
+    const std::size_t marque = octets.find(MARQUE);
+    if (marque == std::string_view::npos) return octets;
+    std::size_t fin = octets.substr(0, marque).rfind(CR) + 1; // 0 where the first line is a mark line
+    if (fin != 0 && octets[fin] == '\n') ++fin;
+    return octets.substr(0, fin);
+}
+
+void verifierDuree(std::string_view octets, const Utf8& fichier, const Reglages& reglages) {
+    std::string_view ligne;
+    if (!Lignes(octets).suivante(ligne)) throw FauteExecution("Fichier vide : la durée manque.", fichier, 1);
+    dureeOuFaute(ligne, reglages, {fichier, 1});
 }
 
 /// Sections open one at a time and close before the first mark line; line 1 holds the duration.
-void verifierEnTete(std::string_view octets, const Utf8& fichier, const Reglages& reglages) {
-    Lignes lignes(octets);
+void verifierSections(std::string_view enTete, const Utf8& fichier) {
+    Lignes lignes(enTete);
     std::string_view ligne, attendue;
-    if (!lignes.suivante(ligne)) throw FauteExecution("Fichier vide : la durée manque.", fichier, 1);
-    dureeOuFaute(ligne, reglages, {fichier, 1});
+    lignes.suivante(ligne);
     std::size_t ouverture = 0;
-    while (lignes.suivante(ligne) && !contient(ligne, MARQUE)) {
+    while (lignes.suivante(ligne)) {
         if (!attendue.empty()) {
             if (contient(ligne, attendue)) attendue = {};
             continue;
@@ -78,28 +107,35 @@ std::string composer(const Extrait& extrait) {
     return sortie.append(MARQUE).append(extrait.fin).append(MARQUE);
 }
 
+/// Copies a transcript's lines, the new extract before the first one that starts later.
+struct Insertion {
+    std::string& sortie;
+    const std::string& nouvel;
+    double debut;
+    const Reglages& reglages;
+    bool faite = false;
+
+    void texte(std::string_view ligne) { ecrireLigne(sortie, ligne); }
+
+    void ouvrir(const Marque& marque, std::string_view ligne, const Lieu& lieu) {
+        if (!faite && tempsOuFaute(marque.temps, reglages, "Le début", lieu) > debut) {
+            copierLignes(sortie, nouvel);
+            faite = true;
+        }
+        texte(ligne);
+    }
+
+    void fermer(const Marque&, std::string_view ligne, const Lieu&) { texte(ligne); }
+};
+
 } // namespace
 
 void lire(std::string_view octets, const Utf8& fichier, Lecture& lecture) {
     lecture = {};
+    lecture.enTete = enTeteDe(octets);
     Lignes lignes(octets);
-    std::string_view ligne;
-    bool DansExtrait = false;
-    while (lignes.suivante(ligne)) {
-        const Lieu lieu{fichier, lignes.numero()};
-        refuserNul(ligne, lieu);
-        const auto marque = lireMarque(ligne, lieu);
-        if (!marque) {
-            ajouterLigne(lecture.extraits.back().texte, ligne);
-        } else if (!DansExtrait) {
-            ouvrir(lecture, *marque, lieu);
-            DansExtrait = true;
-        } else {
-            lecture.extraits.back().fin = marque->temps;
-            lecture.lignes.back().fermeture = static_cast<std::uint32_t>(lieu.ligne);
-            DansExtrait = false;
-        }
-    }
+    LecteurExtraits preneur(lecture);
+    parcourir(lignes, fichier, preneur);
 }
 
 Lecture lire(std::string_view octets, const Utf8& fichier) {
@@ -110,7 +146,8 @@ Lecture lire(std::string_view octets, const Utf8& fichier) {
 
 void verifier(std::string_view octets, const Lecture& lecture, const Utf8& fichier,
               const Reglages& reglages) {
-    verifierEnTete(octets, fichier, reglages);
+    verifierDuree(octets, fichier, reglages);
+    verifierSections(lecture.enTete, fichier);
     Attributs attributs{};
     lireAttributs(octets, attributs, fichier);
     for (std::size_t n = 1; n < lecture.extraits.size(); ++n)
@@ -126,8 +163,7 @@ Texte tempsEtranger(std::string_view octets, const Lecture& lecture, const Regla
     return {};
 }
 
-std::string ecrire(const EnTete& enTete, const std::vector<Extrait>& extraits, Selection selection,
-                   const Reglages& reglages) {
+std::string ecrireEnTete(const EnTete& enTete, const Reglages& reglages) {
     std::string sortie;
     ecrireLigne(sortie, imprimer(enTete.duree, reglages));
     for (const std::string_view ligne : {OBS, std::string_view(enTete.observations), FIN_OBS, ATTR})
@@ -137,11 +173,22 @@ std::string ecrire(const EnTete& enTete, const std::vector<Extrait>& extraits, S
             ecrireLigne(sortie,
                         std::to_string(v + 1) + "," + imprimerSansBlancs(enTete.attributs[v], reglages));
     ecrireLigne(sortie, FIN_ATTR);
+    return sortie;
+}
+
+std::string ecrireApres(std::string enTete, const std::vector<Extrait>& extraits, Selection selection,
+                        const Reglages& reglages) {
+    std::string sortie = std::move(enTete);
     for (std::size_t n = 1; n < extraits.size(); ++n) {
         const bool saute = selection.sauterNegatifs && nombre(extraits[n].debut, reglages) < 0;
         if (n != selection.exclu && !saute) ecrireExtrait(sortie, extraits[n], reglages);
     }
     return sortie;
+}
+
+std::string ecrire(const EnTete& enTete, const std::vector<Extrait>& extraits, Selection selection,
+                   const Reglages& reglages) {
+    return ecrireApres(ecrireEnTete(enTete, reglages), extraits, selection, reglages);
 }
 
 std::string nouveau(float duree, const Reglages& reglages) {
@@ -154,24 +201,13 @@ std::string nouveau(float duree, const Reglages& reglages) {
 
 std::string inserer(std::string_view octets, const Extrait& extrait, double debut, const Reglages& reglages,
                     const Utf8& fichier) {
-    const std::string nouvel = composer(extrait);
     std::string sortie;
+    const std::string nouvel = composer(extrait);
     sortie.reserve(octets.size() + nouvel.size() + 64);
+    Insertion insertion{sortie, nouvel, debut, reglages};
     Lignes lignes(octets);
-    std::string_view ligne;
-    bool DansExtrait = false, Insere = false;
-    while (lignes.suivante(ligne)) {
-        const Lieu lieu{fichier, lignes.numero()};
-        if (const auto marque = lireMarque(ligne, lieu)) {
-            DansExtrait = !DansExtrait;
-            if (DansExtrait && !Insere && tempsOuFaute(marque->temps, reglages, "Le début", lieu) > debut) {
-                copierLignes(sortie, nouvel);
-                Insere = true;
-            }
-        }
-        ecrireLigne(sortie, ligne);
-    }
-    if (!Insere) copierLignes(sortie, nouvel);
+    parcourir(lignes, fichier, insertion);
+    if (!insertion.faite) copierLignes(sortie, nouvel);
     return sortie;
 }
 

@@ -33,7 +33,10 @@ struct LignesMarques {
     std::uint32_t fermeture = 0;
 };
 
+/// A transcript as a value. Of a file that was rewritten from such a value, writing `enTete` and the extracts
+/// gives the bytes back.
 struct Lecture {
+    std::string enTete;               ///< the bytes before the first extract's line, line ends included
     std::vector<Extrait> extraits{1}; ///< extract n at index n; index 0 gathers what stands before the first
     std::vector<LignesMarques> lignes{1}; ///< by the same index
 };
@@ -54,20 +57,27 @@ void verifier(std::string_view octets, const Lecture& lecture, const Utf8& fichi
 /// doesn't use; empty when none is.
 Texte tempsEtranger(std::string_view octets, const Lecture& lecture, const Reglages& reglages);
 
-/// What stands before the extracts.
+/// What the bytes before the extracts mean.
 struct EnTete {
     float duree = 0;       ///< seconds
     Texte observations{};  ///< written as it stands
     Attributs attributs{}; ///< written where not 0
 };
 
-/// A whole transcript. An extract with a negative start is left out when `sauterNegatifs`; extract number
-/// `exclu` is left out in any case (0: none). `extraits[0]` is no extract.
+/// The duration and the two sections.
+std::string ecrireEnTete(const EnTete& enTete, const Reglages& reglages);
+
+/// Which extracts are written: one with a negative start is left out when `sauterNegatifs`, extract number
+/// `exclu` in any case (0: none).
 struct Selection {
     bool sauterNegatifs = false;
     std::size_t exclu = 0;
 };
-/// Times are written by "0.00"; throws FauteExecution for one that is no number.
+
+/// A whole transcript, behind the bytes `enTete` or behind what they mean. `extraits[0]` is no extract. Times
+/// are written by "0.00"; throws FauteExecution for one that is no number.
+std::string ecrireApres(std::string enTete, const std::vector<Extrait>& extraits, Selection selection,
+                        const Reglages& reglages);
 std::string ecrire(const EnTete& enTete, const std::vector<Extrait>& extraits, Selection selection,
                    const Reglages& reglages);
 

@@ -1,13 +1,15 @@
 #pragma once
 #include "formats/Champs.h"
+#include "textfile/lignes.h"
 #include "textfile/nombres.h"
 
 #include <cmath>
-#include <optional>
+#include <cstddef>
+#include <string>
 #include <string_view>
 
-/// The lines between which a transcript's observations and extracts ("::12.50::001") stand, for all who read
-/// them.
+/// The lines between which a transcript's observations and extracts ("::12.50::001") stand, and the one walk
+/// along them, for all who read transcripts.
 namespace vermo::rtr {
 
 constexpr std::string_view OBS = "<|OBS|", FIN_OBS = ">|OBS|";
@@ -19,14 +21,57 @@ struct Marque {
     std::string_view suite;
 };
 
-/// Nothing for a line of text. Throws for a mark line without its second mark.
-inline std::optional<Marque> lireMarque(std::string_view ligne, const Lieu& lieu) {
+/// Cuts a line that holds a mark. Throws when it holds no second one.
+inline Marque couperMarque(std::string_view ligne, const Lieu& lieu) {
     const std::size_t p = ligne.find(MARQUE);
-    if (p == std::string_view::npos) return std::nullopt;
     const std::size_t q = ligne.find(MARQUE, p + 1);
     if (q == std::string_view::npos || q < p + MARQUE.size())
         lieu.refuser("Ligne de repère coupée : le second « :: » manque.");
-    return Marque{ligne.substr(p + MARQUE.size(), q - p - MARQUE.size()), ligne.substr(q + MARQUE.size())};
+    return {ligne.substr(p + MARQUE.size(), q - p - MARQUE.size()), ligne.substr(q + MARQUE.size())};
+}
+
+/// Tells lines with a mark from lines of text. The next mark is sought once for all the lines before it.
+class ChercheMarque {
+  public:
+    explicit ChercheMarque(std::string_view octets) : octets_(octets), prochaine_(octets.find(MARQUE)) {}
+
+    /// `ligne` is a part of the bytes; lines are asked for in their order.
+    bool dans(std::string_view ligne) {
+        const auto debut = static_cast<std::size_t>(ligne.data() - octets_.data());
+        if (prochaine_ < debut) prochaine_ = octets_.find(MARQUE, debut);
+        return prochaine_ < debut + ligne.size();
+    }
+
+  private:
+    std::string_view octets_;
+    std::size_t prochaine_; ///< npos behind the last
+};
+
+/// Walks what `lignes` has not given yet, line by line: `preneur.texte(ligne)` for a line of text,
+/// `preneur.ouvrir(marque, ligne, lieu)` and `preneur.fermer(marque, ligne, lieu)` in turn for mark lines.
+/// Allocates nothing, and the taker may write over the bytes of lines that it was given. Gives the number of
+/// the line that opens an extract which the end leaves open, 0 when there is none. Throws at a NUL byte and
+/// at a mark line without its second mark.
+template <class Preneur>
+std::size_t parcourir(Lignes& lignes, const Utf8& fichier, Preneur& preneur) {
+    const bool nuls = contient(lignes.reste(), std::string_view("\0", 1));
+    ChercheMarque marques(lignes.reste());
+    std::size_t ouverture = 0;
+    std::string_view ligne;
+    while (lignes.suivante(ligne)) {
+        const Lieu lieu{fichier, lignes.numero()};
+        if (nuls) refuserNul(ligne, lieu);
+        if (!marques.dans(ligne)) {
+            preneur.texte(ligne);
+        } else if (ouverture == 0) {
+            preneur.ouvrir(couperMarque(ligne, lieu), ligne, lieu);
+            ouverture = lieu.ligne;
+        } else {
+            preneur.fermer(couperMarque(ligne, lieu), ligne, lieu);
+            ouverture = 0;
+        }
+    }
+    return ouverture;
 }
 
 /// A time by the locale's conversion. Throws, naming `quoi`, for a text that starts with no number.

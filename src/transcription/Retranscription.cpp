@@ -1,6 +1,7 @@
 #include "transcription/Retranscription.h"
 
 #include "formats/FichierRtr.h"
+#include "platform/Sablier.h"
 #include "textfile/chemins.h"
 #include "textfile/faute.h"
 #include "textfile/fichier.h"
@@ -80,10 +81,10 @@ void signaler(EtatTranscription& etat, Plateforme& plateforme, const Examen& exa
         texte += "Les temps sont écrits avec le séparateur décimal d'une autre machine (« " +
                  versUtf8(examen.etranger) + " »).\n" + chemin;
     }
-    if (!texte.empty()) texte += "\n\nCe qui a pu être lu est montré ; le fichier ne sera pas modifié.";
-    if (!texte.empty() && texte != etat.signalement)
+    if (texte.empty()) return etat.signalement.oublier();
+    texte += "\n\nCe qui a pu être lu est montré ; le fichier ne sera pas modifié.";
+    if (etat.signalement.nouveau(texte))
         plateforme.dialogues.demander({.texte = texte, .icone = Icone::Exclamation});
-    etat.signalement = std::move(texte);
 }
 
 void lireFichierCourant(Session& session, Plateforme& plateforme, const Utf8& chemin) {
@@ -148,19 +149,18 @@ bool insererDans(const Utf8& chemin, const rtr::Extrait& extrait, const Session&
 } // namespace
 
 void LireRetranscription(Session& session, Plateforme& plateforme) {
-    plateforme.ecran.pointeur(Pointeur::Sablier);
+    Sablier sablier(plateforme.ecran);
     viderTableaux(session.transcription);
     if (entretienValide(session.corpus)) {
         const Utf8 chemin = cheminCompagnon(session, session.corpus.EntretienCourant, "Rtr");
         if (!fichierExiste(chemin)) {
             session.transcription.lectureEntiere = true;
-            return;
+            return sablier.laisser();
         }
         lireFichierCourant(session, plateforme, chemin);
     } else {
         dire(plateforme, LECTURE_IMPOSSIBLE);
     }
-    plateforme.ecran.pointeur(Pointeur::Normal);
 }
 
 bool EnregistrerExtraits(Session& session, Plateforme& plateforme) {

@@ -1,6 +1,5 @@
 #include "transcription/Saisie.h"
 
-#include "formats/FichierCorpus.h"
 #include "textfile/faute.h"
 #include "textfile/nombres.h"
 #include "transcription/Retranscription.h"
@@ -203,9 +202,8 @@ std::optional<Refus> verifierThematique(const EtatCorpus& corpus, const Nouvelle
 
 int ajouterThematique(EtatCorpus& corpus, const NouvelleThematique& nouvelle) {
     const int rang = static_cast<int>(corpus.NbThm) + 1;
-    if (rang > static_cast<int>(crp::THEMATIQUES_MAX))
-        throw FauteExecution("Un corpus tient au plus " + std::to_string(crp::THEMATIQUES_MAX) +
-                                 " thématiques.",
+    if (rang > THEMATIQUES_MAX)
+        throw FauteExecution("Un corpus tient au plus " + std::to_string(THEMATIQUES_MAX) + " thématiques.",
                              corpus.CheminCorpus);
     const auto places = static_cast<std::size_t>(rang) + 1;
     corpus.ThmCode.resize(places);

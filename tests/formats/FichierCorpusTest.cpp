@@ -53,10 +53,10 @@ TEST(CorpusFile, RefusesWithTheLine) {
         const std::string octets = "<|" + section + "|\r\n" + contenu;
         std::size_t fautive = 0;
         try {
-            lireThematiques(octets, "c.Crp");
+            lireThematiques(octets, "c.Crp", 999);
             lirePos(octets, "c.Crp");
             lireDic(octets, "c.Crp");
-            lireEntretiens(octets, "c.Crp");
+            lireEntretiens(octets, "c.Crp", 999);
         } catch (const FauteExecution& faute) {
             EXPECT_EQ(faute.fichier(), "c.Crp");
             fautive = faute.ligne();
@@ -94,16 +94,14 @@ TEST(CorpusFile, RewritingInterviewsQuotesWhatFollows) {
         ecrireEntretiens("Projet, le 3\r<|THEM|\r>|THEM|\r<|ENTR|\rvieux.wav\r>|ENTR|\rune, note\r\r",
                          {"a, b.wav", "", "\"c\".mp3"});
     ASSERT_TRUE(ecrit);
-    EXPECT_EQ(ecrit->corpus,
-              "Projet, le 3\r\n<|THEM|\r\n>|THEM|\r\n<|ENTR|\r\na, b.wav\r\n\"c\".mp3\r\n>|ENTR|\r\n"
-              "\"une, note\"\r\n\"\"\r\n");
-    EXPECT_EQ(ecrit->temporaire, ecrit->corpus);
-    EXPECT_EQ(lireEntretiens(ecrit->corpus), (std::vector<Texte>{"a, b.wav", "\"c\".mp3"}));
+    EXPECT_EQ(*ecrit, "Projet, le 3\r\n<|THEM|\r\n>|THEM|\r\n<|ENTR|\r\na, b.wav\r\n\"c\".mp3\r\n>|ENTR|\r\n"
+                      "\"une, note\"\r\n\"\"\r\n");
+    EXPECT_EQ(lireEntretiens(*ecrit), (std::vector<Texte>{"a, b.wav", "\"c\".mp3"}));
 
-    const auto apresThematiques = ecrireThematiques(ecrit->corpus, {});
+    const auto apresThematiques = ecrireThematiques(*ecrit, {});
     EXPECT_EQ(apresThematiques->substr(apresThematiques->find("<|ENTR|")),
-              ecrit->corpus.substr(ecrit->corpus.find("<|ENTR|")));
-    EXPECT_EQ(ecrireEntretiens("<|ENTR|\r\na.wav", {"b.wav"})->corpus, "<|ENTR|\r\nb.wav\r\n>|ENTR|\r\n");
+              ecrit->substr(ecrit->find("<|ENTR|")));
+    EXPECT_EQ(ecrireEntretiens("<|ENTR|\r\na.wav", {"b.wav"}), "<|ENTR|\r\nb.wav\r\n>|ENTR|\r\n");
     EXPECT_FALSE(ecrireEntretiens("", {"a.wav"}));
 }
 

@@ -19,7 +19,7 @@ class FormeEssai : public testing::Test {
     Forme forme{"FrmEssai", session, hote.plateforme, fenetres};
 };
 
-TEST_F(FormeEssai, UneFauteDansUnRappelDevientUnMessage) {
+TEST_F(FormeEssai, AFaultInACallbackBecomesAMessage) {
     QWidget cadre(&forme);
     Toile toile(QStringLiteral("Picture1"), &cadre);
     toile.resize(20, 20);
@@ -31,7 +31,7 @@ TEST_F(FormeEssai, UneFauteDansUnRappelDevientUnMessage) {
     EXPECT_TRUE(relachee) << "the program goes on";
 }
 
-TEST_F(FormeEssai, UneFauteQuiSeRepeteEstDiteUneFois) {
+TEST_F(FormeEssai, AFaultThatRepeatsIsToldOnce) {
     auto tic = [&] { forme.garder([] { throw FauteExecution("encore"); }); };
     hote.dialogues.repondre(Reponse::Ok, "encore").repondre(Reponse::Ok, "autre");
     tic();
@@ -40,7 +40,7 @@ TEST_F(FormeEssai, UneFauteQuiSeRepeteEstDiteUneFois) {
     EXPECT_EQ(hote.dialogues.journal().size(), 2u);
 }
 
-TEST_F(FormeEssai, LOpaciteEstGardee) {
+TEST_F(FormeEssai, TheOpacityIsKept) {
     for (const auto& [voulue, gardee] : {std::pair{230, 230}, {0, 0}, {-5, 0}, {260, 255}}) {
         forme.Transparence(voulue);
         EXPECT_EQ(forme.alpha(), gardee);
@@ -48,7 +48,7 @@ TEST_F(FormeEssai, LOpaciteEstGardee) {
     }
 }
 
-TEST_F(FormeEssai, PlaceeDansLEcranEtSansCadre) {
+TEST_F(FormeEssai, StandsInTheScreenWithoutAFrame) {
     hote.ecran.zone.barreDesTaches = 40;
     forme.placer({27000, -300, 6000, 3000});
     EXPECT_EQ(forme.geometry(), QRect(1520, 0, 400, 200));
@@ -56,7 +56,7 @@ TEST_F(FormeEssai, PlaceeDansLEcranEtSansCadre) {
     EXPECT_EQ(forme.geometry(), QRect(0, 0, 1920, 1040));
 }
 
-TEST_F(FormeEssai, DeplaceeParSonTitre) {
+TEST_F(FormeEssai, MovesByItsTitle) {
     QWidget titre(&forme);
     titre.resize(100, 20);
     forme.deplacerPar(&titre);
@@ -72,7 +72,7 @@ TEST_F(FormeEssai, DeplaceeParSonTitre) {
     EXPECT_EQ(forme.pos(), QPoint(130, 120));
 }
 
-TEST_F(FormeEssai, UnBoutonSEnfonceAuClavierEtSeNomme) {
+TEST_F(FormeEssai, AButtonIsPressedByKeyAndNamed) {
     BoutonImage bouton(QStringLiteral("ImgCroix"), QStringLiteral("Ajouter"), QStringLiteral("Fermer"),
                        &forme);
     int appuis = 0;

@@ -200,6 +200,8 @@ bool FrmVisu::OuvrirEntretienVue(Ouverture ouverture) {
              .icone = Icone::Critique});
         return false;
     }
+    ecoute_ =
+        media.ecouter([this](EtatLecture etat) { garder([this, etat] { Media_PlayStateChange(etat); }); });
     disposer(); // the screen may have changed since the window was made
     commencerFondu(ouverture);
     const Texte& nom = entretien().Fichier;
@@ -215,7 +217,7 @@ bool FrmVisu::OuvrirEntretienVue(Ouverture ouverture) {
     if (fichierExiste(cheminCache())) show();
 
     session_.audio.MarqueDebut = 0;
-    session_.transcription.signalement.clear();
+    session_.transcription.signalement.oublier();
     Pict_tps_->dessin(dessinerRegleMinutes(session_.audio.DureeFichier, Picture1_->largeurTwips()));
     remplirVue();
     DessinerZoom();

@@ -43,9 +43,6 @@ class FrmVisu : public Forme {
     void rafraichirExtraits();
     void DessinerVolume();
 
-    /// To be called on each change of the player's state.
-    void Media_PlayStateChange(EtatLecture etat);
-
     // The timers' jobs, one tick each.
     void Timer1_Tick();    ///< follows the player
     void Timer3_Tick();    ///< fades window and sound
@@ -117,6 +114,7 @@ class FrmVisu : public Forme {
     void ouvrirExtrait(int k);
 
     // FrmVisuLecture.cpp: the player, commands, closing.
+    void Media_PlayStateChange(EtatLecture etat); ///< on each change of the player's state
     void jouer();
     void mettreEnPause();
     void zoomAvant();
@@ -150,6 +148,7 @@ class FrmVisu : public Forme {
     CapteurTouches* TxtCtrl_;
     QTimer Timer1_, Timer3_, TimerPlus_, TimerMoins_, Timtrait_;
 
+    Ecoute ecoute_; ///< of the player, once an interview is opened
     MetriquesQt metriques_;
     PointsOnde PointsVue_, PointsZoom_;
     bool dessinEnCours_ = false; ///< the progress shown meanwhile lets other ticks in

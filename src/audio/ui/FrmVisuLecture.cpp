@@ -67,8 +67,7 @@ void FrmVisu::TimerMoins_Tick() {
 
 void FrmVisu::Media_PlayStateChange(EtatLecture etat) {
     suivreVolume(session_.audio, plateforme_.media);
-    const bool joue = etat == EtatLecture::Lecture || etat == EtatLecture::AvanceRapide ||
-                      etat == EtatLecture::RetourRapide;
+    const bool joue = enMouvement(etat);
     ImgMedia_[4]->setVisible(joue);
     ImgMedia_[1]->setVisible(!joue);
     if (!joue || std::exchange(marqueDemarre_, false)) return;

@@ -6,6 +6,7 @@
 #include "corpus/ui/CroixDouble.h"
 #include "corpus/ui/ToileEntretiens.h"
 #include "corpus/ui/ToileThematiques.h"
+#include "platform/Sablier.h"
 #include "window/ui/Glace.h"
 
 #include <QCloseEvent>
@@ -122,7 +123,7 @@ void FrmCorpus::zoomMoins() {
 void FrmCorpus::zoomer(float hauteur) {
     if (nombreLignes(session_.corpus) == 0) return;
     const Twips rangs = Frm_entretiens_->vue().defilement / session_.corpus.HauteurEntretien;
-    plateforme_.ecran.pointeur(Pointeur::FlecheSablier);
+    const Sablier sablier(plateforme_.ecran, Pointeur::FlecheSablier);
     surface(false);
     session_.corpus.HauteurEntretien = hauteur;
     garder([this] {
@@ -131,11 +132,10 @@ void FrmCorpus::zoomer(float hauteur) {
     });
     surface(true);
     Frm_entretiens_->defiler(rangs * hauteur);
-    plateforme_.ecran.pointeur(Pointeur::Normal);
 }
 
 void FrmCorpus::tailleReelle() {
-    plateforme_.ecran.pointeur(Pointeur::Sablier);
+    const Sablier sablier(plateforme_.ecran);
     surface(false);
     session_.corpus.TailleReelle = !session_.corpus.TailleReelle;
     garder([this] {
@@ -143,7 +143,6 @@ void FrmCorpus::tailleReelle() {
         RedessinerPistes();
     });
     surface(true);
-    plateforme_.ecran.pointeur(Pointeur::Normal);
 }
 
 void FrmCorpus::croix() {

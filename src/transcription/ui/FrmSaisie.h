@@ -47,9 +47,6 @@ class FrmSaisie : public Forme {
     void Timer3_Tick(); ///< 1 s: countdown of the automatic dictation
     void Timer4_Tick(); ///< 1 s: lengthening of the span
 
-    /// The player changed its state: the play button shows it.
-    void suivreEtat(bool joue);
-
   protected:
     bool event(QEvent* evenement) override;
     bool eventFilter(QObject* objet, QEvent* evenement) override;
@@ -74,6 +71,7 @@ class FrmSaisie : public Forme {
 
     // FrmSaisieEcoute.cpp, FrmSaisieOptions.cpp
     void creerEcoute();
+    void Media_PlayStateChange(EtatLecture etat); ///< the play button shows it
     void creerOptions();
     void creerBoutonsDictee();
     void creerSecondes();
@@ -108,6 +106,7 @@ class FrmSaisie : public Forme {
     void reinitialiserAjout();
     void ajouterThematique();
 
+    Ecoute ecoute_; ///< of the player
     PointsOnde PointsSaisie_;
     Toile* Picture1_ = nullptr; ///< the window's ground, by which it is moved
     Toile* Pict_saisie_ = nullptr;
