@@ -22,7 +22,7 @@ namespace vermo {
 /// their spans to the transcription window.
 ///
 /// It shows the interview `EntretienCourant`, whose recording the player has been given. Unloaded when its
-/// closing fade ends, or at once by `ImgCorpus`; both tell the corpus window first (`Fenetres::quitterVisu`).
+/// closing fade ends, or at once by `ImgCorpus`; both leave the interview first (`quitterEntretien`).
 class FrmVisu : public Forme {
     Q_OBJECT
   public:
