@@ -1,7 +1,6 @@
 #include "app/Application.h"
 
 #include "audio/Suivi.h"
-#include "audio/ui/FrmVisu.h"
 #include "corpus/ui/FrmCorpus.h"
 
 #include <ranges>

@@ -2,11 +2,11 @@
 
 #include "corpus/Panneaux.h"
 #include "corpus/Pistes.h"
-#include "corpus/ui/BarreDefilement.h"
 #include "corpus/ui/CroixDouble.h"
 #include "corpus/ui/ToileEntretiens.h"
 #include "corpus/ui/ToileThematiques.h"
 #include "platform/Sablier.h"
+#include "window/ui/BarreDefilement.h"
 #include "window/ui/Glace.h"
 
 #include <QCloseEvent>
@@ -47,19 +47,19 @@ void FrmCorpus::montrerFrise() {
 
 void FrmCorpus::montrerPistes() {
     Frm_entretiens_->disposer();
-    Frm_thm_->disposer();
+    Frm_thm_->redessiner();
     montrerComptes();
 }
 
 void FrmCorpus::ConstruireThematiques() {
-    Frm_thm_->disposer();
+    Frm_thm_->redessiner();
     montrerComptes();
 }
 
 void FrmCorpus::viderAffichage() {
     lblCaption1_->setText(utf8VersQt(session_.corpus.CheminCorpus));
     Frm_entretiens_->vider();
-    Frm_thm_->elements({});
+    Frm_thm_->redessiner();
     PictTps_->hide();
     LblScroll_->hide();
     LblVide_->hide();
@@ -126,10 +126,7 @@ void FrmCorpus::zoomer(float hauteur) {
     const Sablier sablier(plateforme_.ecran, Pointeur::FlecheSablier);
     surface(false);
     session_.corpus.HauteurEntretien = hauteur;
-    garder([this] {
-        RedessinerFrise();
-        RedessinerPistes();
-    });
+    garder([this] { fenetres_.annoncer({Sujet::Entretiens}); });
     surface(true);
     Frm_entretiens_->defiler(rangs * hauteur);
 }
@@ -138,10 +135,7 @@ void FrmCorpus::tailleReelle() {
     const Sablier sablier(plateforme_.ecran);
     surface(false);
     session_.corpus.TailleReelle = !session_.corpus.TailleReelle;
-    garder([this] {
-        RedessinerFrise();
-        RedessinerPistes();
-    });
+    garder([this] { fenetres_.annoncer({Sujet::Entretiens}); });
     surface(true);
 }
 
