@@ -18,15 +18,14 @@ void FrmVisu::Timer1_Tick() {
     const double p = media.currentPosition();
     const SuiviLecture suivi = suivreLecture(audio, p, Picture1_->largeurTwips(), Pict_zoom_->largeurTwips());
     LblCompteur_->setText(versQt(suivi.LblCompteur));
-    placerCurseurZoom(suivi.largeurCurseurZoom);
-    if (suivi.TotalSelect) deplacerForme(*Picture1_, Controle::TotalSelect, *suivi.TotalSelect);
-    if (suivi.ZoomSelect) deplacerForme(*Pict_zoom_, Controle::ZoomSelect, *suivi.ZoomSelect);
-    if (suivi.pageFinie && GlisseZoomDebut_ == 0) {
+    Pict_zoom_->curseur(suivi.largeurCurseurZoom);
+    if (suivi.TotalSelect) Picture1_->montrerSelection(*suivi.TotalSelect);
+    if (suivi.ZoomSelect) Pict_zoom_->montrerSelection(*suivi.ZoomSelect);
+    if (suivi.pageFinie && !Pict_zoom_->glisse()) {
         tournerPage(audio, p);
-        suivreShpVisu();
-        DessinerZoom();
+        apresZoom();
     }
-    deplacerForme(*Picture1_, Controle::Curseur, {suivi.gaucheCurseur, TWIPS_PAR_PIXEL});
+    Picture1_->curseur(suivi.gaucheCurseur);
     entretien().Reprise = suivi.Reprise;
 }
 
@@ -104,7 +103,7 @@ void FrmVisu::empanAvant() {
 }
 
 void FrmVisu::apresZoom() {
-    suivreShpVisu();
+    Picture1_->suivreEmpan();
     DessinerZoom();
 }
 
