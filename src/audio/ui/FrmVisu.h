@@ -4,6 +4,7 @@
 #include "transcription/Marquage.h"
 #include "window/Fenetres.h"
 #include "window/ui/CapteurTouches.h"
+#include "window/ui/Commandes.h"
 #include "window/ui/Forme.h"
 #include "window/ui/Theme.h"
 #include "window/ui/Toile.h"
@@ -12,8 +13,6 @@
 #include <QTimer>
 #include <array>
 #include <vector>
-
-class QKeyEvent;
 
 namespace vermo {
 
@@ -27,6 +26,7 @@ class FrmVisu : public Forme {
     Q_OBJECT
   public:
     FrmVisu(Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent = nullptr);
+    static TableCommandes commandes();
 
     /// Loads the interview, starts playing and shows the window. With the fade it comes in
     /// from nearly nothing, otherwise it is opaque at once. False when the opening was given up: a recording
@@ -53,15 +53,12 @@ class FrmVisu : public Forme {
   protected:
     void changeEvent(QEvent* evenement) override;
     void closeEvent(QCloseEvent* evenement) override;
-    void keyPressEvent(QKeyEvent* evenement) override;
     void paintEvent(QPaintEvent* evenement) override;
 
   private:
     // FrmVisu.cpp: controls, places, opening.
     void creerControles();
     void creerBoutons();
-    BoutonImage* creerBouton(const char* nom, const char* icone, const char* bulle,
-                             void (FrmVisu::*action)());
     void disposer();
     void disposerTitre(Twips L);
     void brancherTitre();
@@ -132,14 +129,18 @@ class FrmVisu : public Forme {
     void retournerAuCorpus();
     void dechargerPlusTard();
 
-    // FrmVisuTouches.cpp: the keyboard.
-    bool presserTouche(const QKeyEvent& touche);
-    bool presserRaccourci(const QKeyEvent& touche);
-    bool relacherTouche(const QKeyEvent& touche);
-    void extraitVoisin(int sens);
-    void decalerBorne(bool debut, double secondes);
-    void sauterSurVue(double secondes);
+    // FrmVisuCommandes.cpp: what has no place elsewhere of what buttons and keys do.
+    void basculerLecture();
+    void ouvrirExtraitDit();
+    template <int sens>
+    void extraitVoisin();
+    template <bool debut, int sens>
+    void decalerBorne();
+    template <int sens>
+    void sauterSurVue();
 
+    static const Commande COMMANDES[];
+    Commandes commandes_{*this, commandes()};
     Toile *Picture1_, *Pict_tps_, *PictLect_, *Pict_zoom_, *Pict_tpsZ_, *PictVol_, *Imagetitre_;
     QWidget* Frm_zoom_;
     std::array<BoutonImage*, 7> ImgMedia_{}; ///< members 1 to 6
