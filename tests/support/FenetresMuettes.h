@@ -11,6 +11,8 @@ namespace vermo::essai {
 /// "montrer FrmVisu", "OuvrirEntretien 3 SansFondu", "OuvrirMenu 5".
 class FenetresMuettes : public Fenetres {
   public:
+    bool entamee = false; ///< a text is being typed
+
     const std::vector<std::string>& journal() const { return journal_; }
     void effacerJournal() { journal_.clear(); }
 
@@ -18,7 +20,7 @@ class FenetresMuettes : public Fenetres {
     void cacher(Fenetre f) override { noter("cacher " + nom(f)), visibles_[f] = false; }
     void decharger(Fenetre f) override { noter("decharger " + nom(f)), visibles_[f] = false; }
     bool visible(Fenetre f) const override { return visibles_.contains(f) && visibles_.at(f); }
-    bool saisieEntamee() const override { return false; }
+    bool saisieEntamee() const override { return entamee; }
     void finir() override { noter("finir"); }
     void NouveauCorpus() override { noter("NouveauCorpus"); }
     void OuvrirCorpus() override { noter("OuvrirCorpus"); }
