@@ -242,7 +242,9 @@ class Scene {
         releve["fondu"] = dixieme(session.EtatFondu);
         releve["courant"] = dixieme(t.ExtraitCourant), releve["nouveau"] = std::to_string(t.NouvelExtrait);
         releve["saisie"] = etendue(t.SaisieDebut, t.SaisieFin);
-        releve["duree"] = dixieme(t.SaisieDuree), releve["retour"] = std::to_string(t.RetourCorpus);
+        const bool ouverte = t.SaisieDuree == t.SaisieFin - t.SaisieDebut;
+        releve["span"] = ouverte ? "" : dixieme(t.SaisieDuree),
+        releve["retour"] = std::to_string(t.RetourCorpus);
         releve["options"] = std::string(t.DicteeActive ? "dictee " : "") + (t.DicteeAuto ? "auto " : "") +
                             (t.BoucleDictee ? "boucle" : "");
         releve["portion"] = etendue(t.PortionDebut, t.PortionFin);

@@ -104,48 +104,34 @@ std::unique_ptr<SaisieDEssai> ouverte() {
 
 const std::vector<Geste> GESTES = {
     // Opening, and leaving with and without what was typed.
-    {"ouvrir", "touche Esc", "ouvre 1",
-     "ShpFondSaisie0=0; TextRtr=Zéro.\n; courant=1; duree=5; etq_deb_sel=00:00; etq_fin_sel=00:05; "
-     "fenetre=524; lbl_thm=vu000  Rien; saisie=0-5"},
-    {"ouvrir-vitesse", "clic Picture2@0.9; touche Esc; vitesse 1", "ouvre 1",
-     "ShpFondSaisie0=0; TextRtr=Zéro.\n; courant=1; duree=5; etq_deb_sel=00:00; etq_fin_sel=00:05; "
-     "fenetre=524; lbl_thm=vu000  Rien; saisie=0-5; vitesse=1.226190"},
-    {"ouvrir-dictee", "clic BtnOpt1; touche Esc", "nouveau 30-50",
+    {"ouvrir", "clic Picture2@0.9; clic ImgPlus0; touche Esc; vitesse 1", "ouvre 1",
+     "ShpFondSaisie0=0; TextRtr=Zéro.\n; courant=1; etq_deb_sel=00:00; etq_fin_sel=00:05; fenetre=524; "
+     "lbl_thm=vu000  Rien; saisie=0-5; span=; vitesse=1.226190"},
+    {"ouvrir-nouveau", "clic BtnOpt1; touche Esc", "nouveau 30-50",
      "Imgsuppr=caché; ShpDict0=0+1905; ShpFondSaisie0=0; TXTcodethem=002; TextRtr=; TxtThema=Saisissez ici "
-     "le nom de la thématique; alpha=250; duree=20; etq_deb_sel=00:30; etq_fin_sel=00:50; fenetre=940; "
-     "lbl_thm=vu000 - Pas de thématique; nouveau=1; portion=30-35; saisie=30-50"},
-    {"nouvel-extrait", "", "nouveau 30-35",
-     "Imgsuppr=caché; ShpFondSaisie0=0; TXTcodethem=002; TextRtr=; TxtThema=Saisissez ici le nom de la "
-     "thématique; alpha=250; duree=5; etq_deb_sel=00:30; etq_fin_sel=00:35; fenetre=940; lbl_thm=vu000 - Pas "
-     "de thématique; nouveau=1; saisie=30-35"},
-    {"fermer", "tape perdu", "clic lbl_fermer0", "duree=0; fenetre=cachée"},
-    {"fermer-retour", "retour", "touche Esc", "duree=0; fenetre=cachée; lecture=2"},
-    {"valider-nouveau", "nouveau 30-35; tape Bien\u00A0; touche Return; tape sûr", "clic Imgbtn0",
+     "le nom de la thématique; alpha=250; etq_deb_sel=00:30; etq_fin_sel=00:50; fenetre=940; lbl_thm=vu000 - "
+     "Pas de thématique; nouveau=1; portion=30-35; saisie=30-50; span="},
+    {"fermer", "tape perdu", "clic lbl_fermer0", "fenetre=cachée; span=0"},
+    {"fermer-retour", "retour", "touche Esc", "fenetre=cachée; lecture=2; span=0"},
+    {"valider-nouveau", "nouveau 30-35; tape Bien\u00A0; touche Return; colle su\u0302r", "clic Imgbtn0",
      "demande=rafraichirExtraits; disque a.Rtr= -Zéro.// -::5.00::/ -::10.00::001/ -Un./Deux.// -::20.00::/ "
      "+Zéro./ +/ +::5.00::/ +::10.00::001/ +Un./ +Deux./ +/ +::20.00::/ +::30.00::000/ +Bien / +sûr/ "
-     "+::35.00::/; duree=0; fenetre=cachée"},
-    {"valider", "touche Ctrl+End; tape Trois.", "clic Imgbtn0",
-     "demande=rafraichirExtraits; disque a.Rtr= -::10.00::001/ -Un./Deux.// +::10.00::001  Travail/ "
-     "+Un./Deux./Trois./; duree=0; extrait2=10-20 001  Travail Un.\rDeux.\rTrois.; fenetre=cachée"},
+     "+::35.00::/; fenetre=cachée; span=0"},
     {"touche-valider", "touche Ctrl+End; tape Trois.", "touche Ctrl+Return",
      "demande=rafraichirExtraits; disque a.Rtr= -::10.00::001/ -Un./Deux.// +::10.00::001  Travail/ "
-     "+Un./Deux./Trois./; duree=0; extrait2=10-20 001  Travail Un.\rDeux.\rTrois.; fenetre=cachée"},
+     "+Un./Deux./Trois./; extrait2=10-20 001  Travail Un.\rDeux.\rTrois.; fenetre=cachée; span=0"},
     {"valider-zero", "ouvre 1; tape Plus", "touche Ctrl+Return",
      "demande=rafraichirExtraits; disque a.Rtr= -::0.00::000/ -Zéro.// +::0.00::000  Rien/ +ZPluséro.//; "
-     "duree=0; extrait1=0-5 000  Rien ZPluséro.\r; fenetre=cachée"},
-    {"valider-accents", "nouveau 30-35", "colle e\u0301te\u0301; clic Imgbtn0",
-     "TextRtr=été; demande=rafraichirExtraits; disque a.Rtr= -Zéro.// -::5.00::/ -::10.00::001/ -Un./Deux.// "
-     "-::20.00::/ +Zéro./ +/ +::5.00::/ +::10.00::001/ +Un./ +Deux./ +/ +::20.00::/ +::30.00::000/ +été/ "
-     "+::35.00::/; duree=0; fenetre=cachée"},
+     "extrait1=0-5 000  Rien ZPluséro.\r; fenetre=cachée; span=0"},
     {"valider-retour", "retour", "clic Imgbtn0",
-     "demande=quitterVisu, decharger FrmVisu; disque a.Rtr= -::10.00::001/ +::10.00::001  Travail/; duree=0; "
-     "extrait2=10-20 001  Travail Un.\rDeux.\r; fenetre=cachée; retour=0"},
+     "demande=quitterVisu, decharger FrmVisu; disque a.Rtr= -::10.00::001/ +::10.00::001  Travail/; "
+     "extrait2=10-20 001  Travail Un.\rDeux.\r; fenetre=cachée; retour=0; span=0"},
     {"supprimer", "repondre Oui", "clic Imgsuppr",
      "demande=rafraichirExtraits; disque a.Rtr= -::10.00::001/ -Un./Deux.// -::20.00::/; dit=Etes-vous "
-     "sûr(e) de vouloir supprimer cet extrait?; duree=0; fenetre=cachée"},
+     "sûr(e) de vouloir supprimer cet extrait?; fenetre=cachée; span=0"},
     {"supprimer-retour", "retour; repondre Oui", "clic Imgsuppr",
      "demande=rafraichirExtraits, quitterVisu; disque a.Rtr= -::10.00::001/ -Un./Deux.// -::20.00::/; "
-     "dit=Etes-vous sûr(e) de vouloir supprimer cet extrait?; duree=0; fenetre=cachée; retour=0"},
+     "dit=Etes-vous sûr(e) de vouloir supprimer cet extrait?; fenetre=cachée; retour=0; span=0"},
     // Listening.
     {"lire", "pause", "clic ImgMedia1", "lecture=3"},
     {"pause", "", "clic ImgMedia1", "lecture=2"},
@@ -168,18 +154,15 @@ const std::vector<Geste> GESTES = {
     {"vitesse-bord", "clic Picture2@0.93", "6x roule Picture2 1", ""},
     // Lengthening.
     {"allonger", "pause", "clic ImgPlus0", "Curseur0=7560+30; ImgPlus1=vu; lecture=3; position=19"},
-    {"allonger-tic", "clic ImgPlus0; position 22", "tic 4", "duree=12; etq_fin_sel=00:22; saisie=10-22"},
+    {"allonger-tic", "clic ImgPlus0; position 22", "tic 4", "etq_fin_sel=00:22; saisie=10-22"},
     {"allonger-fin", "clic ImgPlus0; position 23", "clic ImgPlus1",
-     "ImgPlus1=caché; duree=13; etq_fin_sel=00:23; position=20; saisie=10-23"},
+     "ImgPlus1=caché; etq_fin_sel=00:23; position=20; saisie=10-23"},
     {"allonger-pause", "clic ImgPlus0; position 23", "touche Alt+Space",
-     "ImgPlus1=caché; duree=13; etq_fin_sel=00:23; lecture=2; position=20; saisie=10-23"},
+     "ImgPlus1=caché; etq_fin_sel=00:23; lecture=2; position=20; saisie=10-23"},
     {"allonger-valider", "clic ImgPlus0; position 23; tic 4", "clic Imgbtn0",
      "ImgPlus1=caché; demande=rafraichirExtraits; disque a.Rtr= -::10.00::001/ -Un./Deux.// -::20.00::/ "
-     "+::10.00::001  Travail/ +Un./Deux.// +::23.00::/; duree=0; extrait2=10-23 001  Travail Un.\rDeux.\r; "
-     "fenetre=cachée"},
-    {"allonger-autre", "clic ImgPlus0", "ouvre 1",
-     "ImgPlus1=caché; ShpFondSaisie0=0; TextRtr=Zéro.\n; courant=1; duree=5; etq_deb_sel=00:00; "
-     "etq_fin_sel=00:05; lbl_thm=vu000  Rien; saisie=0-5"},
+     "+::10.00::001  Travail/ +Un./Deux.// +::23.00::/; extrait2=10-23 001  Travail Un.\rDeux.\r; "
+     "fenetre=cachée; span=0"},
     // Dictation.
     {"dictee", "position 12", "clic BtnOpt1",
      "BtnOpt1=allumé; ShpDict0=1524+3810; options=dictee ; portion=12-17"},
@@ -217,7 +200,6 @@ const std::vector<Geste> GESTES = {
      "fenetre=524; focus=TextRtr; lbl_thm=vu139  x"},
     {"panneau-debut", "remplir; clic lbl_thm", "roule FrmThms 9; clic FrmThms@LblCoul1",
      "ShpFondSaisie0=0; fenetre=524; focus=TextRtr; lbl_thm=vu000  Rien"},
-    {"couleur", "clic lbl_thm", "clic LblCoulThm12", "ShpFdThm0=255"},
     {"couleurs", "clic lbl_thm", "pastilles toutes", "ShpFdThm0=32896"},
     {"ajouter", "nouveau 30-35; clic LblCoulThm12; focus TxtThema; tape Métier", "clic Imgbtn2",
      "ShpFdThm0=0; ShpFondSaisie0=255; TXTcodethem=003; TxtThema=Saisissez ici le nom de la thématique; "
