@@ -113,10 +113,10 @@ const std::vector<Geste> GESTES = {
      "Pas de thématique; nouveau=1; portion=30-35; saisie=30-50; span="},
     {"fermer", "tape perdu", "clic lbl_fermer0", "fenetre=cachée; span=0"},
     {"fermer-retour", "retour", "touche Esc", "fenetre=cachée; lecture=2; span=0"},
-    {"valider-nouveau", "nouveau 30-35; tape Bien\u00A0; touche Return; colle su\u0302r", "clic Imgbtn0",
-     "demande=rafraichirExtraits; disque a.Rtr= -Zéro.// -::5.00::/ -::10.00::001/ -Un./Deux.// -::20.00::/ "
-     "+Zéro./ +/ +::5.00::/ +::10.00::001/ +Un./ +Deux./ +/ +::20.00::/ +::30.00::000/ +Bien / +sûr/ "
-     "+::35.00::/; fenetre=cachée; span=0"},
+    {"valider-nouveau", "nouveau 30-35; tape Bien\u00A0; touche Return", "colle su\u0302r; clic Imgbtn0",
+     "TextRtr=Bien \nsûr; demande=rafraichirExtraits; disque a.Rtr= -Zéro.// -::5.00::/ -::10.00::001/ "
+     "-Un./Deux.// -::20.00::/ +Zéro./ +/ +::5.00::/ +::10.00::001/ +Un./ +Deux./ +/ +::20.00::/ "
+     "+::30.00::000/ +Bien\u00A0/ +sûr/ +::35.00::/; fenetre=cachée; span=0"},
     {"touche-valider", "touche Ctrl+End; tape Trois.", "touche Ctrl+Return",
      "demande=rafraichirExtraits; disque a.Rtr= -::10.00::001/ -Un./Deux.// +::10.00::001  Travail/ "
      "+Un./Deux./Trois./; extrait2=10-20 001  Travail Un.\rDeux.\rTrois.; fenetre=cachée; span=0"},
@@ -270,6 +270,14 @@ TEST(FrmSaisie, AToggleThatIsOnIsSeenAndTheDictationShowsItsSeconds) {
     essai.faire("clic BtnOpt1");
     EXPECT_NE(fond(), eteint);
     EXPECT_FALSE(secondes.visibleRegion().isEmpty());
+}
+
+TEST(FrmSaisie, TheDeleteButtonStandsUnderTheTextInLineWithTheValidation) {
+    SaisieDEssai essai;
+    const QRect suppr = essai.controle("Imgsuppr").geometry(), valider = essai.controle("Imgbtn0").geometry();
+    EXPECT_EQ(suppr.size(), valider.size());
+    EXPECT_EQ(suppr.top(), valider.top());
+    EXPECT_GT(suppr.top(), essai.controle("TextRtr").geometry().bottom());
 }
 
 TEST(FrmSaisie, ThePlayerIsSeenOnItsButton) {
