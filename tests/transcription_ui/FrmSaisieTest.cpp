@@ -2,6 +2,7 @@
 #include "support/Gestes.h"
 #include "support/Pannes.h"
 
+#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 using namespace vermo;
@@ -39,8 +40,7 @@ class SaisieDEssai : public Scene {
         montres = {"ShpDict0", "SaisieSelect0", "Curseur0"}, colores = {"ShpFondSaisie0", "ShpFdThm0"};
         nommerVerbes();
         LireRetranscription(session, hote);
-        saisie = std::make_unique<FrmSaisie>(session, hote, fenetres);
-        faire("ouvre 2; position 10");
+        faire("refaire 2; position 10");
     }
 
     Forme& fenetre() override { return *saisie; }
@@ -54,6 +54,10 @@ class SaisieDEssai : public Scene {
 
   private:
     void nommerVerbes() {
+        verbes["refaire"] = [this](const std::string& n) {
+            saisie = std::make_unique<FrmSaisie>(session, hote, fenetres);
+            faire("ouvre " + n);
+        };
         verbes["ouvre"] = [this](const std::string& n) { saisie->OuvrirExtrait(std::stoi(n)); };
         verbes["nouveau"] = [this](const std::string& span) {
             auto& t = session.transcription;
@@ -180,6 +184,9 @@ const std::vector<Geste> GESTES = {
      "ShpDict0=3810+3810; lecture=3; portion=15-20; position=14"},
     {"touche-entree-derniere", "clic BtnOpt1; position 16; clic Pict_saisie@16", "touche Return", ""},
     {"decompte", "clic BtnOpt1; clic BtnOpt2", "tic 3", "LblTimer=2; compteur=1"},
+    {"decompte-efface", "clic BtnOpt1; clic BtnOpt2; tic 3", "tic 1", "LblTimer="},
+    {"fenetre-refaite", "clic BtnOpt1; roule LblSec 1; clic BtnOpt1; clic BtnOpt1; refaire 2",
+     "touche Return", "ShpDict0=4572+4572; portion=16-22; position=15"},
     {"decompte-fin", "clic BtnOpt1; clic BtnOpt2; pause; tic 3; tic 3", "tic 3",
      "LblTimer=0; ShpDict0=3810+3810; compteur=0; lecture=3; portion=15-20; position=14"},
     {"decompte-touche", "clic BtnOpt1; clic BtnOpt2; tic 3; tic 3; touche Right", "tic 3",
@@ -295,7 +302,10 @@ TEST(FrmSaisie, AutomaticDictationAndLengtheningGoOnByThemselves) {
     SaisieDEssai essai;
     const auto& t = essai.session.transcription;
     essai.faire("clic BtnOpt2; clic BtnOpt1; position 15.2");
+    QElapsedTimer depuis;
+    depuis.start();
     EXPECT_TRUE(QTest::qWaitFor([&] { return t.PortionDebut == 15; }, 10000));
+    EXPECT_GE(depuis.elapsed(), 2900) << "the pause to type in";
     EXPECT_EQ(essai.hote.media.currentPosition(), 14);
     essai.faire("clic BtnOpt2; clic BtnOpt1; clic ImgPlus0; position 22");
     EXPECT_TRUE(QTest::qWaitFor([&] { return t.SaisieFin == 22; }, 10000));
