@@ -125,14 +125,14 @@ void FrmVisu::basculerLecture() {
 }
 
 void FrmVisu::ouvrirExtraitDit() {
-    ouvrirExtrait(extraitDit_);
+    ouvrirExtrait(PictLect_->extraitDit());
 }
 
 template <int sens>
 void FrmVisu::extraitVoisin() {
     const int nombre = nombreExtraits(session_);
     if (nombre == 0) return;
-    const int k = std::clamp(extraitDit_ + sens, 1, nombre);
+    const int k = std::clamp(PictLect_->extraitDit() + sens, 1, nombre);
     zoomerExtrait(k);
     AfficherBulleExtrait(k);
 }
@@ -140,9 +140,10 @@ void FrmVisu::extraitVoisin() {
 template <bool debut, int sens>
 void FrmVisu::decalerBorne() {
     constexpr double DIXIEME = 0.1;
-    if (extraitDit_ < 1 || extraitDit_ > nombreExtraits(session_)) return;
-    const double avant = debut ? secondesDebut(session_, extraitDit_) : secondesFin(session_, extraitDit_);
-    poserBorne(extraitDit_, debut, std::max(avant + sens * DIXIEME, 0.0));
+    const int k = PictLect_->extraitDit();
+    if (k < 1 || k > nombreExtraits(session_)) return;
+    const double avant = debut ? secondesDebut(session_, k) : secondesFin(session_, k);
+    poserBorne(k, debut, std::max(avant + sens * DIXIEME, 0.0));
 }
 
 template <int sens>
@@ -151,7 +152,7 @@ void FrmVisu::sauterSurVue() {
     const EtatAudio& audio = session_.audio;
     const double t = std::clamp(audio.DebutZoom + sens * GRILLE, 0.0, audio.DureeFichier);
     const Twips x = xVue(audio, t, Picture1_->largeurTwips());
-    allerSurVue(x, x);
+    choisir({x, x});
 }
 
 } // namespace vermo

@@ -49,6 +49,9 @@ class FrmSaisie : public Forme {
     void Timer3_Tick(); ///< 1 s: countdown of the automatic dictation
     void Timer4_Tick(); ///< 1 s: lengthening of the span
 
+    /// The play loop looks at the player, and goes on as long as it plays.
+    void suivreLecteur();
+
   protected:
     bool event(QEvent* evenement) override;
     bool eventFilter(QObject* objet, QEvent* evenement) override;
@@ -107,7 +110,6 @@ class FrmSaisie : public Forme {
     void reinitialiserAjout();
     void ajouterThematique();
 
-    Ecoute ecoute_; ///< of the player
     // FrmSaisieCommandes.cpp
     bool dicteeActive() const;
     void deplier() { placerLargeur(true); }
@@ -120,6 +122,7 @@ class FrmSaisie : public Forme {
     void lignePrecedente() { surlignerThematique(rangSurvole_ - 1); }
     void ligneSuivante() { surlignerThematique(rangSurvole_ + 1); }
 
+    Ecoute ecoute_, deplacements_; ///< of the player
     static const Commande COMMANDES[];
     Commandes commandes_{*this, commandes()};
     PointsOnde PointsSaisie_;
