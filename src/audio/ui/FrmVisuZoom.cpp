@@ -219,7 +219,8 @@ void FrmVisu::poserBorne(int k, bool debut, double v) {
     if (marquage.bornes.fin != deplacees.fin) etat.ExtraitFin[place] = marquage.bornes.fin;
 
     const bool allonge = marquage.bornes.fin > f0;
-    const bool ecrit = EnregistrerExtraits(session_, plateforme_);
+    const bool ecrit = EnregistrerExtraits(
+        session_, plateforme_, nommerExtrait(session_.corpus, "Déplacer une borne de", k, etat.source.slot));
     LireRetranscription(session_, plateforme_);
     AfficherExtraits();
     if ((allonge || ouvert) && ecrit) ouvrirExtrait(k);
