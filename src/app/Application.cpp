@@ -1,9 +1,7 @@
 #include "app/Application.h"
 
 #include "audio/Suivi.h"
-#include "audio/ui/FrmVisu.h"
 #include "corpus/ui/FrmCorpus.h"
-#include "transcription/ui/FrmSaisie.h"
 
 #include <ranges>
 
@@ -14,7 +12,8 @@ Application::Application(Session& session, Plateforme& plateforme,
     : session_(session), plateforme_(plateforme), brancherProgression_(std::move(brancherProgression)),
       formes_(session, plateforme, *this, [this](Forme& forme) { brancher(forme); }) {
     constexpr int reposMs = 300;
-    plateforme_.media.surChangementEtat = [this](EtatLecture etat) { suivreEtat(etat); };
+    ecoute_ =
+        plateforme_.media.ecouter([this](EtatLecture) { suivreVolume(session_.audio, plateforme_.media); });
     plateforme_.annonces.surAvis = [this](const Avis& avis) { transmettre(avis); };
     repos_.setSingleShot(true);
     repos_.setInterval(reposMs);
@@ -24,7 +23,6 @@ Application::Application(Session& session, Plateforme& plateforme,
 }
 
 Application::~Application() {
-    plateforme_.media.surChangementEtat = nullptr;
     plateforme_.annonces.surAvis = nullptr;
 }
 
@@ -68,8 +66,10 @@ void Application::decharger(Fenetre fenetre) {
     if (formes_.ouverte(fenetre) == nullptr) return;
     formes_.decharger(fenetre);
     if (fenetre != Fenetre::FrmVisu) return;
-    plateforme_.media.stop();
-    plateforme_.media.URL(Utf8());
+    if (plateforme_.media.proprietaire() == Fenetre::FrmVisu) {
+        plateforme_.media.stop();
+        plateforme_.media.URL(Utf8());
+    }
     corpus().setEnabled(true);
     repos_.start();
 }
@@ -89,15 +89,6 @@ void Application::annoncer(const Avis& avis) {
 void Application::transmettre(const Avis& avis) {
     for (const Fenetre fenetre : FENETRES)
         if (Forme* forme = formes_.ouverte(fenetre)) forme->garder([&] { forme->surAvis(avis); });
-}
-
-void Application::suivreEtat(EtatLecture etat) {
-    if (auto* visu = static_cast<FrmVisu*>(formes_.ouverte(Fenetre::FrmVisu)))
-        visu->Media_PlayStateChange(etat);
-    else
-        suivreVolume(session_.audio, plateforme_.media);
-    if (auto* saisie = static_cast<FrmSaisie*>(formes_.ouverte(Fenetre::FrmSaisie)))
-        saisie->suivreEtat(etat >= EtatLecture::Lecture && etat <= EtatLecture::RetourRapide);
 }
 
 } // namespace vermo

@@ -60,10 +60,10 @@ class Application final : public QObject, public Fenetres {
     void montrerEntretien(Ouverture ouverture);
     void desactiverCorpus();
     void preparerVisu();
-    void suivreEtat(EtatLecture etat);
 
     Session& session_;
     Plateforme& plateforme_;
+    Ecoute ecoute_; ///< the volume follows the player whatever window stands
     std::function<void(QProgressBar*)> brancherProgression_;
     Formes formes_;
     bool importEnCours_ = false;

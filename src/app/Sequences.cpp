@@ -2,6 +2,7 @@
 #include "app/Application.h"
 #include "audio/ui/FrmVisu.h"
 #include "corpus/ui/FrmCorpus.h"
+#include "platform/Sablier.h"
 #include "sequences/Import.h"
 #include "sequences/Ouverture.h"
 
@@ -57,13 +58,8 @@ void Application::DeplacerEntretien(int source, int cible) {
 void Application::ImporterEntretien() {
     if (importEnCours_) return;
     const QScopedValueRollback enCours(importEnCours_, true);
-    try {
-        importer();
-    } catch (...) {
-        plateforme_.ecran.pointeur(Pointeur::Normal);
-        throw;
-    }
-    plateforme_.ecran.pointeur(Pointeur::Normal);
+    const Sablier sablier(plateforme_.ecran, std::nullopt);
+    importer();
 }
 
 void Application::importer() {
@@ -86,17 +82,11 @@ void Application::importer() {
 void Application::ouvrirEntretien(const EntretienVoulu& voulu) {
     EtatCorpus& etat = session_.corpus;
     if (voulu.slot < 1 || voulu.slot > etat.NbEntretiens) return;
-    plateforme_.ecran.pointeur(Pointeur::Sablier);
+    const Sablier sablier(plateforme_.ecran);
     etat.EntretienCourant = static_cast<std::int16_t>(voulu.slot);
     decharger(Fenetre::FrmVisu);
-    plateforme_.media.URL(cheminEnregistrement(session_, voulu.slot));
-    try {
-        montrerEntretien(voulu.ouverture);
-    } catch (...) {
-        plateforme_.ecran.pointeur(Pointeur::Normal);
-        throw;
-    }
-    plateforme_.ecran.pointeur(Pointeur::Normal);
+    plateforme_.media.URL(cheminEnregistrement(session_, voulu.slot), Fenetre::FrmVisu);
+    montrerEntretien(voulu.ouverture);
 }
 
 /// The corpus window takes no input from now on; it is painted as such only once the interview stands over
@@ -113,7 +103,7 @@ void Application::desactiverCorpus() {
 }
 
 void Application::montrerEntretien(Ouverture ouverture) {
-    session_.transcription.signalement.clear();
+    session_.transcription.signalement.oublier();
     desactiverCorpus();
     try {
         if (formes_.de<FrmVisu>(Fenetre::FrmVisu).OuvrirEntretienVue(ouverture)) return;

@@ -23,17 +23,10 @@ SuiviLecture suivreLecture(const EtatAudio& audio, double position, Twips W, Twi
     return suivi;
 }
 
-Fondu avancerFondu(float& EtatFondu, float VolumeLecture) {
-    EtatFondu += 10;
-    if (EtatFondu <= FONDU_OPAQUE) return {.alpha = static_cast<int>(EtatFondu)};
-    if (EtatFondu < FONDU_FERMETURE) return {.arreter = true};
-    if (EtatFondu >= FONDU_FIN) return {.arreter = true, .decharger = true};
-
-    const float reste = FONDU_FIN - EtatFondu;
-    Fondu fondu{.alpha = static_cast<int>(reste)};
-    const float v = reste / (FONDU_FIN - FONDU_FERMETURE) * 100;
-    if (VolumeLecture != 0 && v < VolumeLecture) fondu.volume = static_cast<int>(arrondi(v));
-    return fondu;
+std::optional<int> volumeFondu(float reste, float VolumeLecture) {
+    const float v = reste * 100;
+    if (VolumeLecture == 0 || v >= VolumeLecture) return std::nullopt;
+    return static_cast<int>(arrondi(v));
 }
 
 void suivreVolume(EtatAudio& audio, LecteurMedia& media) {

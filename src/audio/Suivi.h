@@ -2,6 +2,7 @@
 #include "corpus/Session.h"
 #include "platform/LecteurMedia.h"
 #include "window/Element.h"
+#include "window/Fondu.h"
 
 #include <optional>
 
@@ -30,20 +31,12 @@ SuiviLecture suivreLecture(const EtatAudio& audio, double position, Twips W, Twi
 constexpr Twips AVANCE_CURSEUR = 30;
 constexpr Twips AVANCE_CURSEUR_ZOOM = 120;
 
-// The fade: opaque at 250, closing from 10000 up to 10240.
-constexpr float FONDU_OPAQUE = 250;
-constexpr float FONDU_FERMETURE = 10000;
-constexpr float FONDU_FIN = 10240;
+/// The window's fade, on `EtatFondu`.
+constexpr Fondu FONDU_VISU{.base = 10000};
 
-/// One tick of `Timer3`.
-struct Fondu {
-    std::optional<int> alpha = {};  ///< the window's opacity, 0 to 255
-    std::optional<int> volume = {}; ///< the player's volume, 0 to 100
-    bool arreter = false;           ///< the timer is done
-    bool decharger = false;         ///< the window goes
-};
-/// Raises EtatFondu by 10 and tells what follows.
-Fondu avancerFondu(float& EtatFondu, float VolumeLecture);
+/// The player's volume, 0 to 100, when `reste` of the closing fade is left: none while it isn't below what
+/// was set.
+std::optional<int> volumeFondu(float reste, float VolumeLecture);
 
 /// On each change of the play state: gives the player the volume that was set, or learns it.
 void suivreVolume(EtatAudio& audio, LecteurMedia& media);

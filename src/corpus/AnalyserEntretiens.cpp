@@ -65,7 +65,7 @@ std::optional<FauteExecution> lireTable(ExtraitsEntretien& table, const Utf8& ch
     table.chemin = chemin;
     table.identite = etat.identite;
     table.lu = std::move(etat);
-    table.fauteDite = faute.has_value();
+    if (faute) table.fauteDite.nouveau();
     return faute;
 }
 
@@ -136,7 +136,7 @@ void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const
     entretien.NbExtraits = 0;
     ExtraitsEntretien& table = ligneDe(session.corpus.extraits, slot);
     if (!fichiers.rtr) {
-        if (!std::exchange(table.manqueDit, true)) direManquant(plateforme.dialogues, entretien);
+        if (table.manqueDit.nouveau()) direManquant(plateforme.dialogues, entretien);
         return;
     }
     if (releve.autre) std::rethrow_exception(releve.autre);
@@ -184,7 +184,7 @@ void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
         if (faute && avant.identite != identite) direFaute(plateforme.dialogues, *faute);
     }
     table.manqueDit = avant.manqueDit;
-    table.dureeNulleDite = avant.dureeNulleDite && avant.identite == identite;
+    if (avant.identite == identite) table.dureeNulleDite = avant.dureeNulleDite;
     prendreTable(entretienDe(corpus, slot), table);
 }
 

@@ -13,7 +13,7 @@ namespace {
 constexpr Couleur BARRE_VIDE = rvb(64, 64, 64), BORD_BARRE = rvb(84, 84, 90), NUMERO = rvb(164, 166, 172);
 constexpr Couleur HEURE = 0x636363, TRAIT = rvb(96, 96, 102), DEMI_TRAIT = 0x242424;
 constexpr Twips BAS_LIGNES_TPS = 33500;
-constexpr Twips MARGE_LIGNE = 60, POUCE_MIN = 300;
+constexpr Twips ENTRE_LIGNES = 120;
 constexpr int SUFFIXE_NOM = 4; ///< of a recording's name: its extension and the point
 
 Twips hauteurLigne(const EtatCorpus& corpus) {
@@ -142,13 +142,19 @@ Rectangle cadreImgEnt(const Session& session, int slot, const VueFrise& vue, flo
     Twips largeur = largeurBarre(vue);
     if (vue.tailleReelle && durmax > 0)
         largeur *= static_cast<double>(entretienDe(corpus, slot).Duree) / static_cast<double>(durmax);
-    return {TAILLES_FRISE.gaucheImgEnt, base(corpus, slot), largeur, hauteurLigne(corpus) - 120};
+    return {TAILLES_FRISE.gaucheImgEnt, base(corpus, slot), largeur, hauteurLigne(corpus) - ENTRE_LIGNES};
 }
 
 LignesEnVue lignesEnVue(const Session& session, const VueFrise& vue) {
     const EtatCorpus& corpus = session.corpus;
     return {std::max(ligneA(corpus, vue.defilement), 1),
             std::min(ligneA(corpus, vue.defilement + vue.hauteur), nombreLignes(corpus))};
+}
+
+Rangs lignesFrise(const Session& session) {
+    const EtatCorpus& corpus = session.corpus;
+    return Rangs::egaux(nombreLignes(corpus), hauteurLigne(corpus),
+                        TAILLES_FRISE.premiereLigne - ENTRE_LIGNES / 2);
 }
 
 int slotSous(const Session& session, Twips y) {
@@ -186,37 +192,9 @@ Dessin disposerRegle(const Session& session, Twips largeurBarre) {
 }
 
 Defilement AjusterDefilement(const Session& session, Twips hauteurCadre) {
-    const EtatCorpus& corpus = session.corpus;
-    Defilement defilement;
-    defilement.hauteurSurface = hauteurCadre;
-    const int derniere = nombreLignes(corpus);
-    if (derniere == 0) return defilement;
-    const auto bas = static_cast<Twips>(arrondi(base(corpus, derniere) + hauteurLigne(corpus) - 120));
-    if (bas <= hauteurCadre) return defilement;
-    defilement.visible = true;
-    defilement.hauteurSurface = bas;
-    defilement.excedent = bas - hauteurCadre;
-    defilement.hautLigne = MARGE_LIGNE;
-    defilement.basLigne = std::max(hauteurCadre - MARGE_LIGNE, MARGE_LIGNE);
-    const Twips course = defilement.basLigne - defilement.hautLigne;
-    defilement.hauteurPouce = std::min(std::max(course * hauteurCadre / bas, POUCE_MIN), course);
-    return defilement;
-}
-
-Twips bornerDefilement(const Defilement& defilement, Twips voulu) {
-    return std::clamp(voulu, 0.0, defilement.excedent);
-}
-
-Twips hautPouce(const Defilement& defilement, Twips defile) {
-    if (!defilement.visible) return defilement.hautLigne;
-    const Twips course = defilement.basLigne - defilement.hautLigne - defilement.hauteurPouce;
-    return defilement.hautLigne + course * bornerDefilement(defilement, defile) / defilement.excedent;
-}
-
-Twips defilementDe(const Defilement& defilement, Twips hautPouce) {
-    const Twips course = defilement.basLigne - defilement.hautLigne - defilement.hauteurPouce;
-    if (!defilement.visible || course <= 0) return 0;
-    return bornerDefilement(defilement, defilement.excedent * (hautPouce - defilement.hautLigne) / course);
+    const int derniere = nombreLignes(session.corpus);
+    const Twips bas = derniere == 0 ? 0 : base(session.corpus, derniere + 1) - ENTRE_LIGNES;
+    return disposerDefilement(static_cast<Twips>(arrondi(bas)), hauteurCadre);
 }
 
 float zoomAvant(float hauteur) {

@@ -1,7 +1,9 @@
 #pragma once
 #include "corpus/Session.h"
 #include "platform/Plateforme.h"
+#include "window/Defilement.h"
 #include "window/Element.h"
+#include "window/Rangs.h"
 
 #include <vector>
 
@@ -59,6 +61,9 @@ struct LignesEnVue {
 };
 LignesEnVue lignesEnVue(const Session& session, const VueFrise& vue);
 
+/// The rows as they follow each other, each with half of what parts it from its neighbours.
+Rangs lignesFrise(const Session& session);
+
 /// Slot whose row holds the height `y`, 0 for none.
 int slotSous(const Session& session, Twips y);
 
@@ -71,21 +76,8 @@ void disposerFrise(const Session& session, const VueFrise& vue, const std::vecto
 /// Frm_entretiens, to be drawn behind the rows. Beyond some 400 hours the marks spread out.
 Dessin disposerRegle(const Session& session, Twips largeurBarre);
 
-/// The scroll thumb. Heights of LblScroll are twips of Frm_fond_entretiens.
-struct Defilement {
-    bool visible = false;              ///< track, thumb and line
-    Twips hauteurSurface = 0;          ///< of Frm_entretiens
-    Twips excedent = 0;                ///< how far the surface can scroll
-    Twips hautLigne = 0, basLigne = 0; ///< LigneScroll, the thumb's track
-    Twips hauteurPouce = 0;
-};
+/// The scroll thumb beside the rows.
 Defilement AjusterDefilement(const Session& session, Twips hauteurCadre);
-
-/// Scroll held within the excess.
-Twips bornerDefilement(const Defilement& defilement, Twips voulu);
-/// Top of the thumb for a scroll, and back; both are held to their bounds.
-Twips hautPouce(const Defilement& defilement, Twips defile);
-Twips defilementDe(const Defilement& defilement, Twips hautPouce);
 
 /// The zoom commands: the new height of a row.
 float zoomAvant(float hauteur);   ///< ImgZoom 0, click: half as much again below 3600

@@ -3,9 +3,11 @@
 #include "corpus/OuvertureCorpus.h"
 #include "corpus/Porte.h"
 #include "formats/FichierRtr.h"
+#include "platform/Sablier.h"
 #include "textfile/chemins.h"
 #include "textfile/faute.h"
 #include "textfile/fichier.h"
+#include "window/Fenetres.h"
 
 #include <algorithm>
 #include <chrono>
@@ -73,6 +75,18 @@ bool copierDansCorpus(const Session& session, Plateforme& plateforme, const Utf8
     return true;
 }
 
+double dureeAuLecteur(Plateforme& plateforme, const Utf8& chemin) {
+    const Sablier sablier(plateforme.ecran);
+    LecteurMedia& media = plateforme.media;
+    media.URL(chemin, Fenetre::FrmCorpus);
+    media.play();
+    media.stop();
+    while (media.duration() == 0 && media.erreur().empty() &&
+           plateforme.progression.patienter(ATTENTE_DUREE)) {
+    }
+    return media.duration();
+}
+
 Utf8 nomCanaux(int canaux) {
     return canaux == 1 ? "Mono" : canaux == 2 ? "Stereo" : "";
 }
@@ -135,13 +149,14 @@ bool apporterDansCorpus(const Session& session, Plateforme& plateforme, const Ut
             {"Le fichier sélectionné est hors du répertoire du projet.\nVoulez-vous l'importer?",
              "Import du fichier", Boutons::OkAnnuler, Icone::Question}) != Reponse::Ok)
         return false;
-    plateforme.ecran.pointeur(Pointeur::FlecheSablier);
+    Sablier sablier(plateforme.ecran, Pointeur::FlecheSablier);
     const Utf8 cible = cheminReel(RepCorpus + nomDe(chemin));
-    if (!aCopier(plateforme, cible, nomDe(chemin))) return true;
+    if (!aCopier(plateforme, cible, nomDe(chemin))) {
+        sablier.laisser(); // the import goes on at once
+        return true;
+    }
     plateforme.ecran.pointeur(Pointeur::Sablier);
-    const bool copie = copierDansCorpus(session, plateforme, chemin, cible);
-    plateforme.ecran.pointeur(Pointeur::Normal);
-    return copie;
+    return copierDansCorpus(session, plateforme, chemin, cible);
 }
 
 bool dejaDansCorpus(const Session& session, Plateforme& plateforme, const Texte& nom) {
@@ -157,16 +172,7 @@ bool dejaDansCorpus(const Session& session, Plateforme& plateforme, const Texte&
 }
 
 double mesurerDuree(Plateforme& plateforme, const Utf8& chemin) {
-    LecteurMedia& media = plateforme.media;
-    plateforme.ecran.pointeur(Pointeur::Sablier);
-    media.URL(chemin);
-    media.play();
-    media.stop();
-    while (media.duration() == 0 && media.erreur().empty() &&
-           plateforme.progression.patienter(ATTENTE_DUREE)) {
-    }
-    plateforme.ecran.pointeur(Pointeur::Normal);
-    const double duree = media.duration();
+    const double duree = dureeAuLecteur(plateforme, chemin);
     if (duree == 0) plateforme.dialogues.demander({"ça ne fonctionne pas !"});
     return duree;
 }

@@ -49,6 +49,11 @@ Twips hauteurThematique(int nombre, Twips hauteurCadre) {
     return nombre < 1 ? HAUTEUR_THM_MAX : std::min(hauteurCadre / nombre, HAUTEUR_THM_MAX);
 }
 
+Rangs lignesThematiques(const Session& session, Twips hauteurCadre) {
+    const int nombre = nombreThematiques(session.corpus);
+    return Rangs::egaux(nombre, hauteurThematique(nombre, hauteurCadre), CREUX_LBLCOUL);
+}
+
 Elements disposerThematiques(const Session& session, Twips largeur, Twips hauteurCadre, Legende legende) {
     const EtatCorpus& corpus = session.corpus;
     Elements liste;

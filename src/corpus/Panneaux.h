@@ -1,6 +1,7 @@
 #pragma once
 #include "corpus/Session.h"
 #include "window/Element.h"
+#include "window/Rangs.h"
 
 /// The list of thematics, and the switches of the panels.
 namespace vermo {
@@ -10,6 +11,9 @@ enum class Legende { Corpus, Saisie };
 
 /// Height of a row of the list: the frame shared among the thematics, at most 495.
 Twips hauteurThematique(int nombre, Twips hauteurCadre);
+
+/// The rows, as their LblCoul stand.
+Rangs lignesThematiques(const Session& session, Twips hauteurCadre);
 
 /// ImgCoul, ShpCoul and LblCoul (tag: the code) of each row, index the row. Places are twips of the frame.
 Elements disposerThematiques(const Session& session, Twips largeur, Twips hauteurCadre, Legende legende);

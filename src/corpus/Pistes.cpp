@@ -173,7 +173,7 @@ void signalerDureesNulles(Session& session, Plateforme& plateforme, int premier,
     for (int slot = std::max(premier, 1); slot <= dernier; ++slot) {
         const auto i = static_cast<std::size_t>(slot);
         const Entretien& entretien = session.corpus.Entretiens[i];
-        if (entretien.Duree == 0 && !std::exchange(session.corpus.extraits[i].dureeNulleDite, true))
+        if (entretien.Duree == 0 && session.corpus.extraits[i].dureeNulleDite.nouveau())
             plateforme.dialogues.demander(
                 {"Un problème est survenu lors de l'ouverture de l'entretien " + versUtf8(entretien.Fichier),
                  "Vermo", Boutons::OkAnnuler, Icone::Exclamation});

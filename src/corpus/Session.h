@@ -2,6 +2,7 @@
 #include "formats/EnTeteWav.h"
 #include "formats/FichierRtr.h"
 #include "platform/Annonces.h"
+#include "platform/DejaDit.h"
 #include "textfile/empreinte.h"
 #include "textfile/fichier.h"
 #include "textfile/reglages.h"
@@ -76,7 +77,7 @@ struct ExtraitsEntretien {
     float duree = 0;          ///< its first line, seconds
     float somme = 0;          ///< lengths of its extracts, seconds
     Texte observations;
-    bool fauteDite = false, manqueDit = false, dureeNulleDite = false; ///< told: not again for this file
+    DejaDit fauteDite, manqueDit, dureeNulleDite; ///< about this file
     bool operator==(const ExtraitsEntretien&) const = default;
 };
 
@@ -145,7 +146,7 @@ struct EtatTranscription {
     float NbExtraits = 0;
     bool lectureEntiere = false;     ///< the arrays hold all that the file held
     bool separateurEtranger = false; ///< the file's times are written with the other decimal separator
-    Utf8 signalement; ///< what was last said about the file; not said again. Cleared by an opening
+    DejaDit signalement;             ///< about the file; forgotten by an opening
     float ExtraitCourant = 0;
     double SaisieDebut = 0, SaisieFin = 0, SaisieDuree = 0;
     bool NouvelExtrait = false;

@@ -43,7 +43,6 @@ std::optional<Texte> apporter(Session& session, Plateforme& plateforme) {
 /// Seconds; nothing when the recording can't be played, or another corpus was opened while it was measured.
 std::optional<double> mesurer(Session& session, Plateforme& plateforme, const Texte& nom) {
     const Utf8 vise = session.corpus.CheminCorpus;
-    plateforme.ecran.pointeur(Pointeur::Sablier);
     const double duree = mesurerDuree(plateforme, cheminReel(session.corpus.RepCorpus + versUtf8(nom)));
     session.audio.DureeFichier = duree;
     if (duree == 0 || session.corpus.CheminCorpus != vise) return std::nullopt;

@@ -6,9 +6,8 @@
 #include "corpus/OuvertureCorpus.h"
 #include "corpus/Pistes.h"
 #include "data/Variables.h"
+#include "platform/Sablier.h"
 #include "textfile/faute.h"
-
-#include <utility>
 
 namespace vermo {
 namespace {
@@ -47,15 +46,10 @@ IssueOuverture demanderEtLire(Session& session, Plateforme& plateforme, const Sp
 
 IssueOuverture ouvrirCorpus(Session& session, Plateforme& plateforme, const Spectateur& spectateur) {
     session.corpus.EntretienCourant = 0;
-    plateforme.ecran.pointeur(Pointeur::Sablier);
-    try {
-        const IssueOuverture issue = demanderEtLire(session, plateforme, spectateur);
-        if (issue != IssueOuverture::Echouee) plateforme.ecran.pointeur(Pointeur::Normal);
-        return issue;
-    } catch (...) {
-        plateforme.ecran.pointeur(Pointeur::Normal);
-        throw;
-    }
+    Sablier sablier(plateforme.ecran);
+    const IssueOuverture issue = demanderEtLire(session, plateforme, spectateur);
+    if (issue == IssueOuverture::Echouee) sablier.laisser();
+    return issue;
 }
 
 bool nouveauCorpus(Session& session, Plateforme& plateforme) {
@@ -68,8 +62,8 @@ void lireAttributs(Session& session, Plateforme& plateforme, int slot) {
     try {
         LireAttributs(session, slot);
     } catch (const FauteExecution& faute) {
-        bool& dite = ligneDe(session.corpus.extraits, slot).fauteDite;
-        if (!std::exchange(dite, true)) direFaute(plateforme.dialogues, faute);
+        if (ligneDe(session.corpus.extraits, slot).fauteDite.nouveau())
+            direFaute(plateforme.dialogues, faute);
     }
 }
 

@@ -1,12 +1,12 @@
 #include "transcription/PisteExtraits.h"
 
-#include "textfile/faute.h"
 #include "textfile/nombres.h"
+#include "transcription/Marquage.h"
 #include "transcription/Retranscription.h"
 #include "window/MiseEnMots.h"
 
 #include <algorithm>
-#include <optional>
+#include <utility>
 #include <vector>
 
 namespace vermo {
@@ -17,20 +17,8 @@ constexpr std::size_t ELEMENTS_PAR_BULLE = 14; ///< words not counted
 constexpr Twips MARGE_MOTS = 240;              ///< what the word layout leaves free in a column
 constexpr int CLARTE_LISIBLE = 140;            ///< of 255: paler titles need a dark ground
 
-struct Bornes {
-    double debut, fin;
-};
-
-std::optional<Bornes> bornes(const Session& session, int n) {
-    try {
-        return Bornes{secondesDebut(session, n), secondesFin(session, n)};
-    } catch (const FauteExecution&) {
-        return std::nullopt;
-    }
-}
-
 const Texte& codeExtrait(const Session& session, int n) {
-    return session.transcription.ExtraitCode[static_cast<std::size_t>(n)];
+    return ligneDe(session.transcription.ExtraitCode, n);
 }
 
 bool trouvee(const EtatCorpus& corpus, std::string_view code) {
@@ -38,9 +26,9 @@ bool trouvee(const EtatCorpus& corpus, std::string_view code) {
 }
 
 /// Row of a code; the last one searched when there is none, 0 in an empty table.
-std::size_t rangCherche(const EtatCorpus& corpus, std::string_view code) {
+int rangCherche(const EtatCorpus& corpus, std::string_view code) {
     const int rang = rangThematique(corpus, code);
-    return static_cast<std::size_t>(rang != 0 ? rang : static_cast<int>(corpus.NbThm));
+    return rang != 0 ? rang : nombreThematiques(corpus);
 }
 
 int clarte(Couleur couleur) {
@@ -103,15 +91,14 @@ class Bulle {
         if (cadre.largeur <= MARGE_MOTS) return;
         const Twips pas = metriques.hauteur(taille_.corps);
         const int colonnes = static_cast<int>(cadre.largeur / LARGEUR_COLONNE_MIN);
-        const MotsDisposes disposes =
-            disposerMots(session_.transcription.ExtraitTexte[static_cast<std::size_t>(extrait_)],
-                         {.depart = cadre.gauche,
-                          .haut = cadre.haut,
-                          .LargeurTexte = cadre.largeur,
-                          .ColonnesTexte = std::max(1, colonnes),
-                          .PasListe = pas,
-                          .corps = taille_.corps},
-                         metriques);
+        const MotsDisposes disposes = disposerMots(ligneDe(session_.transcription.ExtraitTexte, extrait_),
+                                                   {.depart = cadre.gauche,
+                                                    .haut = cadre.haut,
+                                                    .LargeurTexte = cadre.largeur,
+                                                    .ColonnesTexte = std::max(1, colonnes),
+                                                    .PasListe = pas,
+                                                    .corps = taille_.corps},
+                                                   metriques);
         for (const Mot& mot : disposes.mots) {
             ++rang;
             const bool vu = mot.visible && mot.largeur > 0 && mot.haut + pas <= cadre.bas() &&
@@ -150,8 +137,8 @@ class Bulle {
         const Rectangle cadre{dedans_.gauche + 120, taille_.haut + taille_.titreHaut,
                               std::max(0.0, dedans_.largeur - 160), taille_.titreHauteur};
         Element& element = ajouter(sortie, Controle::LbltitreXtrZ, numero_, cadre);
-        const std::size_t rang = rangCherche(session_.corpus, codeExtrait(session_, extrait_));
-        if (rang != 0) element.texte = session_.corpus.ThmNom[rang];
+        const int rang = rangCherche(session_.corpus, codeExtrait(session_, extrait_));
+        if (rang != 0) element.texte = ligneDe(session_.corpus.ThmNom, rang);
         element.encreTexte = couleur_;
         element.gras = true;
         element.sensible = true;
@@ -187,16 +174,6 @@ bool dansLeZoom(const Bornes& extrait, const EtatAudio& audio) {
            (extrait.debut < audio.DebutZoom && extrait.fin > audio.FinZoom);
 }
 
-/// Swaps the bounds of an extract that ends before it starts.
-std::optional<Bornes> bornesRedressees(Session& session, int n) {
-    auto lues = bornes(session, n);
-    if (!lues || lues->fin - lues->debut >= 0) return lues;
-    EtatTranscription& etat = session.transcription;
-    const auto k = static_cast<std::size_t>(n);
-    std::swap(etat.ExtraitDebut[k], etat.ExtraitFin[k]);
-    return Bornes{lues->fin, lues->debut};
-}
-
 Element barre(Controle controle, int n, const Rectangle& cadre, Couleur fond) {
     Element element;
     element.controle = controle;
@@ -211,17 +188,17 @@ Element barre(Controle controle, int n, const Rectangle& cadre, Couleur fond) {
 } // namespace
 
 Couleur couleurExtrait(const EtatCorpus& corpus, std::string_view code) {
-    const std::size_t rang = rangCherche(corpus, code);
-    return rang == 0 ? 0 : couleur(corpus.ThmCouleur[rang]);
+    const int rang = rangCherche(corpus, code);
+    return rang == 0 ? 0 : couleur(ligneDe(corpus.ThmCouleur, rang));
 }
 
-Elements disposerPiste(Session& session, Twips largeurPicture1, const TaillePiste& taille) {
+Elements disposerPiste(const Session& session, Twips largeurPicture1, const TaillePiste& taille) {
     Elements elements;
     const double duree = session.audio.DureeFichier;
     if (duree <= 0) return elements;
     elements.reserve(3 * static_cast<std::size_t>(nombreExtraits(session)));
     for (int n = 1; n <= nombreExtraits(session); ++n) {
-        const auto extrait = bornesRedressees(session, n);
+        const auto extrait = bornesExtrait(session, n);
         if (!extrait) continue;
         const Texte& code = codeExtrait(session, n);
         const Couleur teinte = couleurExtrait(session.corpus, code);
@@ -252,7 +229,7 @@ Elements disposerBulles(const Session& session, Twips largeurZoom, Twips hauteur
     if (audio.DureeZoom <= 0) return elements;
     std::vector<Bulle> bulles;
     for (int n = 1; n <= nombreExtraits(session); ++n) {
-        const auto extrait = bornes(session, n);
+        const auto extrait = bornesExtrait(session, n);
         if (!extrait || !dansLeZoom(*extrait, audio)) continue;
         const Twips x = (extrait->debut - audio.DebutZoom) / audio.DureeZoom * largeurZoom;
         const Twips w = (extrait->fin - extrait->debut) / audio.DureeZoom * largeurZoom;

@@ -32,8 +32,8 @@ struct TailleBulle {
 };
 
 /// For extract n: ShpXtr[n], ShpXtrInt[n], then LblXtr[n], which takes the mouse. Empty while DureeFichier is
-/// 0. The two bounds of an extract that ends before it starts are swapped in the arrays.
-Elements disposerPiste(Session& session, Twips largeurPicture1, const TaillePiste& taille = {});
+/// 0. Bounds are taken as they stand: `redresserBornes` first.
+Elements disposerPiste(const Session& session, Twips largeurPicture1, const TaillePiste& taille = {});
 
 /// Bubbles of the extracts that the span DebutZoom..FinZoom shows, touching a bound not counted. Indexes are
 /// bubble numbers from 1, tags the extracts' numbers; bubble k owns the handles ImgBulleInt[2k - 1] (start)

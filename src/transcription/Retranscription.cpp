@@ -2,6 +2,7 @@
 
 #include "corpus/Porte.h"
 #include "formats/FichierRtr.h"
+#include "platform/Sablier.h"
 #include "textfile/chemins.h"
 #include "textfile/faute.h"
 #include "textfile/fichier.h"
@@ -84,10 +85,10 @@ void signaler(EtatTranscription& etat, Plateforme& plateforme, const Examen& exa
         texte += "Les temps sont écrits avec le séparateur décimal d'une autre machine (« " +
                  versUtf8(examen.etranger) + " »).\n" + chemin;
     }
-    if (!texte.empty()) texte += "\n\nCe qui a pu être lu est montré ; le fichier ne sera pas modifié.";
-    if (!texte.empty() && texte != etat.signalement)
+    if (texte.empty()) return etat.signalement.oublier();
+    texte += "\n\nCe qui a pu être lu est montré ; le fichier ne sera pas modifié.";
+    if (etat.signalement.nouveau(texte))
         plateforme.dialogues.demander({.texte = texte, .icone = Icone::Exclamation});
-    etat.signalement = std::move(texte);
 }
 
 void lireSource(Session& session, Plateforme& plateforme) {
@@ -173,19 +174,18 @@ bool ajouter(Session& session, Plateforme& plateforme, const Retranscription& ci
 void LireRetranscription(Session& session, Plateforme& plateforme) {
     EtatTranscription& etat = session.transcription;
     const int slot = session.corpus.EntretienCourant;
-    plateforme.ecran.pointeur(Pointeur::Sablier);
+    Sablier sablier(plateforme.ecran);
     viderTableaux(etat);
     if (entretienValide(session.corpus, slot)) {
         etat.source = {slot, cheminCompagnon(session, slot, "Rtr")};
         if (!fichierExiste(etat.source.chemin)) {
             etat.lectureEntiere = true;
-            return;
+            return sablier.laisser();
         }
         lireSource(session, plateforme);
     } else {
         dire(plateforme, LECTURE_IMPOSSIBLE);
     }
-    plateforme.ecran.pointeur(Pointeur::Normal);
 }
 
 Retranscription retranscriptionDuLecteur(const Session& session, const Plateforme& plateforme) {

@@ -15,8 +15,8 @@ namespace vermo {
 /// A missing file gives no extract, without a message; the pointer then stays the hourglass. A fault in the
 /// file (a mark line without its second "::", a time that is no number, an extract without its end, extract
 /// 10,000, a NUL byte) is shown in one message with file, line and cause; the arrays hold what was read until
-/// there. The same message about the same file is shown once: clear `signalement` when an interview is opened
-/// anew.
+/// there. The same message about the same file is shown once: forget `signalement` when an interview is
+/// opened anew.
 void LireRetranscription(Session& session, Plateforme& plateforme);
 
 /// The transcript of the file that the player holds, for EntretienCourant; without a path when it holds none.

@@ -22,24 +22,10 @@ TEST(Following, FollowsThePositionAndTheMark) {
     EXPECT_EQ(marquee.ZoomSelect, (Etendue{500, 1060 - 500}));
 }
 
-TEST(Following, FadesInIn25TicksAndOutIn24) {
-    float EtatFondu = 0;
-    int pas = 0;
-    for (Fondu fondu; !(fondu = avancerFondu(EtatFondu, 80)).arreter; ++pas)
-        EXPECT_EQ(fondu.alpha, (pas + 1) * 10);
-    EXPECT_EQ(pas, 25);
-
-    EtatFondu = FONDU_FERMETURE;
-    Fondu fondu = avancerFondu(EtatFondu, 80);
-    EXPECT_EQ(fondu.alpha, 230);
-    EXPECT_FALSE(fondu.volume); // 95.8 is louder than what was set
-    for (pas = 1; pas < 12; ++pas)
-        fondu = avancerFondu(EtatFondu, 80);
-    EXPECT_EQ(fondu.alpha, 120);
-    EXPECT_EQ(fondu.volume, 50);
-    for (; !fondu.decharger && pas < 99; ++pas)
-        fondu = avancerFondu(EtatFondu, 80);
-    EXPECT_EQ(pas, 24);
+TEST(Following, TheSoundFadesFromTheVolumeThatWasSet) {
+    EXPECT_EQ(volumeFondu(0.8F, 80), std::nullopt);
+    EXPECT_EQ(volumeFondu(0.5F, 80), 50);
+    EXPECT_EQ(volumeFondu(0.5F, 0), std::nullopt); // not known yet
 }
 
 TEST(Following, TheVolumeIsLearntOnceAndThenGiven) {

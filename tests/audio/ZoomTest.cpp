@@ -29,6 +29,8 @@ TEST(ZoomSpan, DoublesAndHalvesWithinItsBounds) {
     audio.FacteurZoom = 1.5F;
     EXPECT_TRUE(dezoomer(audio));
     EXPECT_FALSE(dezoomer(audio));
+    audio.FacteurZoom = 1;
+    EXPECT_FALSE(dezoomer(audio));
 }
 
 TEST(ZoomSpan, MovesByATwentieth) {

@@ -54,14 +54,12 @@ class EntretienDEssai {
 
     bool ouvrir() {
         visu = std::make_unique<FrmVisu>(session, plateforme, fenetres);
-        plateforme.media.surChangementEtat = [this](EtatLecture etat) { visu->Media_PlayStateChange(etat); };
         for (QTimer* timer : visu->findChildren<QTimer*>())
             timer->setInterval(3600 * 1000); // ticks are given by hand
         if (!visu->OuvrirEntretienVue()) return false;
         visu->show();
         return true;
     }
-    ~EntretienDEssai() { plateforme.media.surChangementEtat = nullptr; }
 
     Toile& toile(const char* nom) { return *visu->findChild<Toile*>(QLatin1String(nom)); }
     QWidget* touches() { return visu->findChild<QLineEdit*>(QStringLiteral("TxtCtrl")); }

@@ -1,3 +1,4 @@
+#include "corpus/DispositionCorpus.h"
 #include "corpus/Panneaux.h"
 #include "corpus/Pistes.h"
 #include "support/CorpusDEssai.h"
@@ -175,6 +176,29 @@ TEST(Panels, Thematics) {
     const Elements saisie = disposerThematiques(session, 900, 500, Legende::Saisie);
     EXPECT_EQ(decrire({saisie[3], saisie[4]}), "ImgCoul[2] 0,375 900x0 cache\n"
                                                "ShpCoul[2] 0,250 900x250 fond=FF0000\n");
+}
+
+TEST(CorpusLayout, ControlsLieInsideTheWindowAndApart) {
+    for (const auto& [largeur, hauteur] : {std::pair(1280 * 15, 720 * 15), {1920 * 15, 1080 * 15}}) {
+        DispositionCorpus d = disposerFenetreCorpus(largeur, hauteur, false);
+        d.ImgCroix.largeur -= 30; // two pixels lie outside
+        EXPECT_EQ(d.Imgbtn[2], d.Imgbtn[4]) << "one shows at a time";
+        std::vector<Rectangle> cadres{d.ImgCroix,     d.PictVol,     d.etq[0],     d.etq[1],
+                                      d.ImgOnOffthm,  d.ImgOnOffent, d.PictTps,    d.Frm_fond_thm,
+                                      d.ProgressBar1, d.ImgZoom[0],  d.ImgZoom[1], d.Frm_fond_entretiens};
+        cadres.insert(cadres.end(), std::begin(d.lblmenu), std::end(d.lblmenu));
+        for (const int i : {0, 1, 2, 3, 5, 6, 7, 8})
+            cadres.push_back(d.Imgbtn[i]);
+        for (auto a = cadres.begin(); a != cadres.end(); ++a) {
+            EXPECT_TRUE(a->largeur > 0 && a->hauteur > 0 && a->gauche >= 0 && a->haut >= 0 &&
+                        a->droite() <= largeur && a->bas() <= hauteur)
+                << a - cadres.begin();
+            for (auto b = cadres.begin(); b != a; ++b)
+                EXPECT_TRUE(a->droite() <= b->gauche || b->droite() <= a->gauche || a->bas() <= b->haut ||
+                            b->bas() <= a->haut)
+                    << a - cadres.begin() << " meets " << b - cadres.begin();
+        }
+    }
 }
 
 TEST(Panels, SwitchesAndCounts) {

@@ -42,23 +42,6 @@ TEST_F(FrmIntroTest, AListThatCantBeReadIsSaidAndTheWindowOpens) {
     EXPECT_NE(ligne(1), nullptr);
 }
 
-TEST_F(FrmIntroTest, LinesLeadToTheCorpusWindow) {
-    ouvrir("/a.Crp\r\n");
-    QTest::mouseClick(ligne(0), Qt::LeftButton);
-    EXPECT_EQ(fenetres.journal(),
-              (Lignes{"montrer FrmCorpus", "NouveauCorpus", "montrer FrmCorpus", "decharger FrmIntro"}));
-    fenetres.effacerJournal();
-    QTest::keyClick(ligne(1), Qt::Key_Return);
-    EXPECT_EQ(fenetres.journal(),
-              (Lignes{"montrer FrmCorpus", "OuvrirCorpus", "montrer FrmCorpus", "decharger FrmIntro"}));
-    EXPECT_FALSE(session.corpus.OuvertureDirecte);
-    fenetres.effacerJournal();
-    QTest::mouseClick(ligne(3), Qt::LeftButton);
-    EXPECT_EQ(fenetres.journal(), (Lignes{"OuvrirCorpus", "montrer FrmCorpus", "decharger FrmIntro"}));
-    EXPECT_TRUE(session.corpus.OuvertureDirecte);
-    EXPECT_EQ(session.corpus.CheminCorpus, "/a.Crp");
-}
-
 TEST_F(FrmIntroTest, TheSoundTestPlaysOrSaysWhyNot) {
     ouvrir("");
     hote.dialogues.repondre(Reponse::Ok, "Vermo de Vermo.mp3");

@@ -1,56 +1,20 @@
 // The whole program as a person goes through it: real windows, simulated host.
-#include "app/Application.h"
-#include "audio/OndeDEssai.h"
+#include "Programme.h"
 #include "audio/ui/FrmVisu.h"
-#include "corpus_ui/Gestes.h"
 #include "support/Pannes.h"
 #include "textfile/faute.h"
 
-#include <QApplication>
 #include <QPlainTextEdit>
-#include <QTimer>
 #include <algorithm>
 #include <cerrno>
-#include <filesystem>
 
 namespace vermo {
 namespace {
 
 using namespace essai;
 
-constexpr const char* TETE = "Projet\r\n<|THEM|\r\n000,&H0, Rien\r\n001,255, Travail\r\n>|THEM|\r\n<|POS|\r\n"
-                             ">|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\n";
-constexpr const char* RTR = " 60 \r\n<|OBS|\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n";
-constexpr const char* EXTRAIT = "::1.00::001\r\nmot\r\n::3.00::\r\n";
-
-class Parcours : public testing::Test {
+class JourneysTest : public testing::Test, protected Programme {
   protected:
-    /// A corpus of a.wav and b.wav, chosen in the start window's list of recent ones.
-    Parcours() {
-        session.reglages.separateurDecimal = '.';
-        hote.dossier.ecrire("c/E.Crp", std::string(TETE) + "a.wav\r\nb.wav\r\n>|ENTR|\r\n");
-        for (const char* nom : {"c/a", "c/b"}) {
-            hote.dossier.ecrire(nom + std::string(".wav"), wav(1, 8, std::string(12000, '\x80')));
-            hote.dossier.ecrire(nom + std::string(".Rtr"), std::string(RTR) + EXTRAIT);
-        }
-        hote.dossier.ecrire("programme/Projets.ini", hote.dossier.chemin("c/E.Crp") + "\r\n");
-    }
-    void ouvrirCorpus() {
-        app.demarrer();
-        QTest::mouseClick(membre<QWidget>(forme("FrmIntro"), "lblcorpus3"), Qt::LeftButton);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    /// The window of this name on the screen, its timers stopped.
-    static Forme& forme(const char* nom) {
-        for (QWidget* fenetre : QApplication::topLevelWidgets())
-            if (fenetre->objectName() == QLatin1String(nom) && fenetre->isVisible()) {
-                for (QTimer* timer : fenetre->findChildren<QTimer*>())
-                    timer->stop();
-                return dynamic_cast<Forme&>(*fenetre);
-            }
-        throw std::runtime_error(std::string("not on the screen: ") + nom);
-    }
-    static Toile& rangees() { return *membre<Toile>(forme("FrmCorpus"), "Frm_entretiens"); }
     static std::string noms() {
         std::string suite;
         for (const Element& e : rangees().elements())
@@ -58,13 +22,9 @@ class Parcours : public testing::Test {
         return suite;
     }
     float extraits(std::size_t slot) const { return session.corpus.Entretiens.at(slot).NbExtraits; }
-
-    PlateformeDeTest hote;
-    Session session;
-    Application app{session, hote};
 };
 
-TEST_F(Parcours, ARecordingThatLiesElsewhereIsBroughtInAndOpened) {
+TEST_F(JourneysTest, ARecordingThatLiesElsewhereIsBroughtInAndOpened) {
     ouvrirCorpus();
     EXPECT_EQ(noms(), "a b ");
     const std::string octets = wav(2, 16, std::string(40000, '\0'));
@@ -84,31 +44,46 @@ TEST_F(Parcours, ARecordingThatLiesElsewhereIsBroughtInAndOpened) {
     EXPECT_TRUE(hote.media.enLecture());
 }
 
-TEST_F(Parcours, EachWayToAnInterviewShowsItAtItsOpacity) {
+TEST_F(JourneysTest, AnInterviewFadesInAndTheCorpusIsInUseAgainAfterIt) {
     ouvrirCorpus();
-    const auto ouverte = [&](int slot) -> FrmVisu& {
-        EXPECT_EQ(session.corpus.EntretienCourant, slot);
-        return dynamic_cast<FrmVisu&>(forme("FrmVisu"));
-    };
-    QTest::mouseClick(&rangees(), Qt::LeftButton, {}, lieu(rangees(), Controle::ImgPlay, 2));
-    FrmVisu& fondue = ouverte(2);
-    EXPECT_EQ(fondue.alpha(), 0);
+    QTest::mouseClick(&rangees(), Qt::LeftButton, {}, place(rangees(), Controle::ImgPlay, 2));
+    auto& visu = dynamic_cast<FrmVisu&>(forme("FrmVisu"));
+    EXPECT_EQ(visu.alpha(), 0);
     for (int tic = 0; tic < 25; ++tic)
-        fondue.Timer3_Tick();
-    EXPECT_EQ(fondue.alpha(), 247);
+        visu.Timer3_Tick();
+    EXPECT_EQ(visu.alpha(), 247);
     app.decharger(Fenetre::FrmVisu);
     EXPECT_TRUE(forme("FrmCorpus").isEnabled());
-
-    QTest::mouseDClick(&rangees(), Qt::LeftButton, {}, lieu(rangees(), Controle::lblfich, 1));
-    EXPECT_EQ(ouverte(1).alpha(), 250);
-    app.decharger(Fenetre::FrmVisu);
-
-    app.OuvrirMenu(Panneau::Entretiens, {});
-    cliquer(forme("FrmMenu"), "lblmenu10");
-    EXPECT_EQ(ouverte(1).alpha(), 250);
+    EXPECT_EQ(hote.media.URL(), "");
 }
 
-TEST_F(Parcours, TrueSizesApplyWithTheNextRedraw) {
+TEST_F(JourneysTest, TheLateAnswerOfThePlayerIsShownWhereItBelongs) {
+    hote.media.lent = true;
+    ouvrirCorpus();
+    session.audio.VolumeLecture = 40;
+    QTest::mouseDClick(&rangees(), Qt::LeftButton, {}, place(rangees(), Controle::lblfich, 2));
+    const auto lecture = [] { return membre<QWidget>(forme("FrmVisu"), "ImgMedia4")->isVisible(); };
+    EXPECT_FALSE(lecture());
+    hote.media.pret();
+    EXPECT_TRUE(lecture());
+    EXPECT_EQ(hote.media.volume(), 40);
+    app.decharger(Fenetre::FrmVisu);
+    EXPECT_FALSE(hote.media.enLecture());
+    EXPECT_TRUE(forme("FrmCorpus").isEnabled());
+}
+
+TEST_F(JourneysTest, AReopeningReadsWhatWasWrittenMeanwhile) {
+    ouvrirCorpus();
+    hote.dossier.ecrire("c/b.Rtr", std::string(RTR) + EXTRAIT + "::5.00::000\r\nautre\r\n::7.00::\r\n");
+    cliquer(forme("FrmCorpus"), "lblmenu0");
+    cliquer(forme("FrmMenu"), "lblcorpus1");
+    EXPECT_EQ(extraits(1), 1);
+    EXPECT_EQ(extraits(2), 2);
+    EXPECT_EQ(CorpusTexte(session, 2, 2), "autre\r");
+    EXPECT_EQ(std::ranges::count(rangees().elements(), Controle::Lblthm, &Element::controle), 5) << "bars";
+}
+
+TEST_F(JourneysTest, TrueSizesApplyWithTheNextRedraw) {
     hote.dossier.ecrire("c/b.Rtr", std::string(RTR).replace(1, 2, "30"));
     ouvrirCorpus();
     const auto largeur = [] {
@@ -117,28 +92,28 @@ TEST_F(Parcours, TrueSizesApplyWithTheNextRedraw) {
         return 0.0;
     };
     const Twips pleine = largeur();
-    app.basculerTailleReelle(false);
+    session.corpus.TailleReelle = true;
     rangees().grab();
     EXPECT_EQ(largeur(), pleine);
-    app.RedessinerFrise();
+    app.annoncer({Sujet::Entretiens});
     EXPECT_EQ(largeur(), pleine / 2);
 }
 
-TEST_F(Parcours, AnInterviewOpenedAfterARestIsAsMuchInUse) {
+TEST_F(JourneysTest, AnInterviewOpenedAfterARestIsAsMuchInUse) {
     ouvrirCorpus();
     EXPECT_TRUE(QTest::qWaitFor([] {
         const auto fenetres = QApplication::topLevelWidgets();
         return std::any_of(fenetres.begin(), fenetres.end(),
                            [](QWidget* f) { return f->objectName() == QLatin1String("FrmVisu"); });
     }));
-    app.ouvrirEntretien(1, Ouverture::SansFondu);
+    app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
     EXPECT_FALSE(forme("FrmCorpus").isEnabled());
     EXPECT_TRUE(membre<QWidget>(forme("FrmVisu"), "ImgMedia2")->isEnabled());
 }
 
-TEST_F(Parcours, AnExtractMarkedAndTypedIsOnTheTimelineAfterTheClosing) {
+TEST_F(JourneysTest, AnExtractMarkedAndTypedIsOnTheTimelineAfterTheClosing) {
     ouvrirCorpus();
-    app.ouvrirEntretien(1, Ouverture::SansFondu);
+    app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
     auto& visu = dynamic_cast<FrmVisu&>(forme("FrmVisu"));
     auto* touches = membre<QWidget>(visu, "TxtCtrl");
     hote.media.currentPosition(2); // within its neighbour: nobody asks
@@ -157,9 +132,9 @@ TEST_F(Parcours, AnExtractMarkedAndTypedIsOnTheTimelineAfterTheClosing) {
     EXPECT_TRUE(forme("FrmCorpus").isEnabled());
 }
 
-TEST_F(Parcours, NothingOpensOverATextThatIsBeingTyped) {
+TEST_F(JourneysTest, NothingOpensOverATextThatIsBeingTyped) {
     ouvrirCorpus();
-    app.ouvrirEntretien(1, Ouverture::SansFondu);
+    app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
     auto* touches = membre<QWidget>(forme("FrmVisu"), "TxtCtrl");
     const auto marquer = [&](double debut, double fin) {
         for (const double temps : {debut, fin}) {
@@ -196,7 +171,7 @@ TEST_F(Parcours, NothingOpensOverATextThatIsBeingTyped) {
     EXPECT_FALSE(app.visible(Fenetre::FrmCorpus));
 }
 
-TEST_F(Parcours, FaultsInSingleTranscriptsAreEachToldOnceAndTheCorpusOpens) {
+TEST_F(JourneysTest, FaultsInSingleTranscriptsAreEachToldOnceAndTheCorpusOpens) {
     std::string mille = RTR;
     for (int i = 0; i < 1000; ++i)
         mille += EXTRAIT;
@@ -206,15 +181,16 @@ TEST_F(Parcours, FaultsInSingleTranscriptsAreEachToldOnceAndTheCorpusOpens) {
     ouvrirCorpus();
     EXPECT_EQ(noms(), "a b ");
     EXPECT_EQ(extraits(2), 999);
-    app.basculerTailleReelle(true); // a redraw says nothing anew
+    session.corpus.TailleReelle = true;
+    app.annoncer({Sujet::Entretiens}); // a redraw says nothing anew
     EXPECT_EQ(hote.dossier.lire("c/b.Rtr"), mille);
 }
 
-TEST_F(Parcours, AnOpeningThatFailsLeavesTheWindowEmptied) {
+TEST_F(JourneysTest, AnOpeningThatFailsLeavesTheWindowEmptied) {
     ouvrirCorpus();
     const Utf8 parti = hote.dossier.chemin("c/parti.Crp");
     hote.dialogues.choisir(parti).repondre(Reponse::Ok, "Le corpus suivant est inaccessible :\n" + parti);
-    app.OuvrirMenu(Panneau::Corpus, {});
+    app.montrer(Fenetre::FrmMenu, PanneauVoulu{Panneau::Corpus, {}});
     cliquer(forme("FrmMenu"), "lblmenu1");
     EXPECT_EQ(noms(), "");
     QTest::mouseClick(&rangees(), Qt::LeftButton, {}, {200, 60});
@@ -224,7 +200,7 @@ TEST_F(Parcours, AnOpeningThatFailsLeavesTheWindowEmptied) {
     EXPECT_EQ(hote.dossier.lire("c/E.Crp"), std::string(TETE) + "a.wav\r\nb.wav\r\n>|ENTR|\r\n");
 }
 
-TEST_F(Parcours, AListThatCantBeWrittenIsReadAnew) {
+TEST_F(JourneysTest, AListThatCantBeWrittenIsReadAnew) {
     ouvrirCorpus();
     {
         const Pannes pannes({.rang = 1, .erreur = ENOSPC, .appel = "write", .toujours = true});
@@ -235,24 +211,25 @@ TEST_F(Parcours, AListThatCantBeWrittenIsReadAnew) {
     EXPECT_EQ(session.corpus.Entretiens[1].Fichier, "a.wav");
 }
 
-TEST_F(Parcours, ARecordingThatCantBeReadLeavesTheCorpusWindowInUse) {
+TEST_F(JourneysTest, ARecordingThatCantBeReadLeavesTheCorpusWindowInUse) {
     ouvrirCorpus();
     std::filesystem::remove(hote.dossier.chemin("c/a.wav"));
     std::filesystem::create_directory(hote.dossier.chemin("c/a.wav"));
-    EXPECT_THROW(app.ouvrirEntretien(1, Ouverture::SansFondu), FauteExecution);
+    EXPECT_THROW(app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu}), FauteExecution);
     EXPECT_FALSE(app.visible(Fenetre::FrmVisu));
     EXPECT_TRUE(forme("FrmCorpus").isEnabled());
+    EXPECT_EQ(hote.ecran.pointeurCourant, Pointeur::Normal);
 }
 
-TEST_F(Parcours, WhatIsBeingTypedHoldsTheInterviewOpenAndItsTranscriptKeepsItsDuration) {
+TEST_F(JourneysTest, WhatIsBeingTypedHoldsTheInterviewOpenAndItsTranscriptKeepsItsDuration) {
     std::filesystem::remove(hote.dossier.chemin("c/a.Rtr"));
     hote.media.durees["a.wav"] = 60;
     hote.dialogues.repondre(Reponse::Ok, "introuvable").repondre(Reponse::Ok, "Un problème est survenu");
     ouvrirCorpus();
-    app.ouvrirEntretien(1, Ouverture::SansFondu);
+    app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
     session.transcription.SaisieFin = 2;
     session.transcription.NouvelExtrait = true;
-    app.PreparerSaisie();
+    app.montrer(Fenetre::FrmSaisie, NouvelExtraitVoulu{});
     cliquer(forme("FrmVisu"), "ImgCorpus");
     QTest::qWait(10);
     cliquer(forme("FrmSaisie"), "Imgbtn0");

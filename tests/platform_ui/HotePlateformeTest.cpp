@@ -50,7 +50,7 @@ std::string boutonsDe(const QMessageBox& boite) {
     return resultat;
 }
 
-class Hote : public testing::Test {
+class HotePlateformeTest : public testing::Test {
   protected:
     static void SetUpTestSuite() { ASSERT_TRUE(installerFrancais(*qApp)); }
     DossierTemporaire dossier;
@@ -58,7 +58,7 @@ class Hote : public testing::Test {
     Dialogues& dialogues = hote.plateforme().dialogues;
 };
 
-TEST_F(Hote, boxesAreFrenchAndEscapeNeverAgrees) {
+TEST_F(HotePlateformeTest, BoxesAreFrenchAndEscapeNeverAgrees) {
     const struct {
         Boutons boutons;
         std::string affiches;
@@ -86,7 +86,7 @@ TEST_F(Hote, boxesAreFrenchAndEscapeNeverAgrees) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(Hote, filesAreOfferedInAnyCaseAndStrangeNamesDoNoHarm) {
+TEST_F(HotePlateformeTest, FilesAreOfferedInAnyCaseAndStrangeNamesDoNoHarm) {
     for (const char* nom : {"Été 1.WAV", "b.wav", "c.txt", "mal\xE9nomm\xE9.wav"})
         dossier.ecrire(nom, "x");
     const auto vus = [](QFileDialog& boite) {
@@ -104,7 +104,7 @@ TEST_F(Hote, filesAreOfferedInAnyCaseAndStrangeNamesDoNoHarm) {
               dossier.chemin("Été 1.WAV"));
 }
 
-TEST_F(Hote, savingAddsTheExtensionAndAsksBeforeOverwriting) {
+TEST_F(HotePlateformeTest, SavingAddsTheExtensionAndAsksBeforeOverwriting) {
     dossier.ecrire("a.Crp", "x");
     const DemandeFichier demande{"Créer", "Fichier projet|*.Crp", "Crp", true, dossier.chemin()};
     const auto taper = [](const QString& nom) {
@@ -128,7 +128,7 @@ TEST_F(Hote, savingAddsTheExtensionAndAsksBeforeOverwriting) {
     EXPECT_TRUE(demandee);
 }
 
-TEST_F(Hote, aLongWaitCanBeGivenUpAndItsBoxGoesAwayWithIt) {
+TEST_F(HotePlateformeTest, ALongWaitCanBeGivenUpAndItsBoxGoesAwayWithIt) {
     Progression& attente = hote.plateforme().progression;
     QElapsedTimer montre;
     montre.start();

@@ -21,13 +21,6 @@ constexpr double CINQ_MS = 0.005;
 
 class LecteurReel : public testing::Test {
   protected:
-    LecteurReel() {
-        lecteur.surChangementEtat = [this](EtatLecture etat) {
-            EXPECT_FALSE(dansUnAppel) << "told from inside a call";
-            etats.push_back(etat);
-        };
-    }
-
     static bool attendre(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 10000); }
     bool attendre(EtatLecture etat) {
         return attendre([&] { return lecteur.playState() == etat; });
@@ -53,9 +46,13 @@ class LecteurReel : public testing::Test {
     LecteurDiffere lecteur{"null"};
     std::vector<EtatLecture> etats;
     bool dansUnAppel = false;
+    Ecoute ecoute = lecteur.ecouter([this](EtatLecture etat) {
+        EXPECT_FALSE(dansUnAppel) << "told from inside a call";
+        etats.push_back(etat);
+    });
 };
 
-TEST_F(LecteurReel, durationsAreThoseOfTheSoundInTheFile) {
+TEST_F(LecteurReel, DurationsAreThoseOfTheSoundInTheFile) {
     constexpr double TRAME = 1152.0 / 44100;
     const FormatWav stereo{16, 2, 44100};
     const struct {
@@ -75,7 +72,7 @@ TEST_F(LecteurReel, durationsAreThoseOfTheSoundInTheFile) {
     }
 }
 
-TEST_F(LecteurReel, whatCantBePlayedSaysWhyAndTheNextFilePlays) {
+TEST_F(LecteurReel, WhatCantBePlayedSaysWhyAndTheNextFilePlays) {
     fs::create_directory(dossier.chemin("dossier.wav"));
     ASSERT_EQ(mkfifo(dossier.chemin("tube.wav").c_str(), 0600), 0);
     enregistrement(1, "bon.wav");
@@ -99,7 +96,7 @@ TEST_F(LecteurReel, whatCantBePlayedSaysWhyAndTheNextFilePlays) {
     }
 }
 
-TEST_F(LecteurReel, playsPausesAndHoldsItsPlace) {
+TEST_F(LecteurReel, PlaysPausesAndHoldsItsPlace) {
     ASSERT_TRUE(charger(enregistrement(5)));
     jouer();
     ASSERT_TRUE(attendrePosition(0.3));
@@ -117,7 +114,7 @@ TEST_F(LecteurReel, playsPausesAndHoldsItsPlace) {
     EXPECT_TRUE(attendre([&] { return etats.back() == EtatLecture::Arrete; }));
 }
 
-TEST_F(LecteurReel, stopsAtTheTrueEndAndStartsAgainFromThere) {
+TEST_F(LecteurReel, StopsAtTheTrueEndAndStartsAgainFromThere) {
     ASSERT_TRUE(charger(enregistrement(3)));
     lecteur.currentPosition(2.2);
     jouer();
@@ -133,7 +130,7 @@ TEST_F(LecteurReel, stopsAtTheTrueEndAndStartsAgainFromThere) {
     ASSERT_TRUE(attendrePosition(0.1));
 }
 
-TEST_F(LecteurReel, aChangeOfRateKeepsThePosition) {
+TEST_F(LecteurReel, AChangeOfRateKeepsThePosition) {
     ASSERT_TRUE(charger(enregistrement(8)));
     jouer();
     ASSERT_TRUE(attendrePosition(0.4));
@@ -146,7 +143,7 @@ TEST_F(LecteurReel, aChangeOfRateKeepsThePosition) {
     EXPECT_LT(lecteur.currentPosition() - avant, 0.1 + 1.25e-3 * static_cast<double>(montre.elapsed()));
 }
 
-TEST_F(LecteurReel, whatIsAskedWhileLoadingIsDoneOnceReady) {
+TEST_F(LecteurReel, WhatIsAskedWhileLoadingIsDoneOnceReady) {
     lecteur.URL(enregistrement(4));
     lecteur.currentPosition(3);
     lecteur.play();
@@ -155,7 +152,7 @@ TEST_F(LecteurReel, whatIsAskedWhileLoadingIsDoneOnceReady) {
     EXPECT_TRUE(attendrePosition(3.1));
 }
 
-TEST_F(LecteurReel, aFileCutAndGoneWhileItPlaysComesToAnEnd) {
+TEST_F(LecteurReel, AFileCutAndGoneWhileItPlaysComesToAnEnd) {
     const Utf8 chemin = enregistrement(600);
     ASSERT_TRUE(charger(chemin));
     jouer();
@@ -167,7 +164,7 @@ TEST_F(LecteurReel, aFileCutAndGoneWhileItPlaysComesToAnEnd) {
     EXPECT_FALSE(charger(chemin));
 }
 
-TEST_F(LecteurReel, startsUnderADecimalCommaAndKeepsTheVolumeAskedBefore) {
+TEST_F(LecteurReel, StartsUnderADecimalCommaAndKeepsTheVolumeAskedBefore) {
     std::setlocale(LC_NUMERIC, "fr_FR.UTF-8"); // where it is installed
     lecteur.volume(40);                        // before the library is there
     ASSERT_TRUE(charger(enregistrement(1)));
@@ -192,7 +189,7 @@ class LecteurVersFichier : public testing::Test {
     DossierTemporaire dossier;
 };
 
-TEST_F(LecteurVersFichier, whatIsHeardBeginsExactlyWhereAskedAtALinearVolume) {
+TEST_F(LecteurVersFichier, WhatIsHeardBeginsExactlyWhereAskedAtALinearVolume) {
     constexpr FormatWav format{16, 1, 8000};
     std::string rampe; // each sample tells its own place
     for (std::uint32_t i = 0; i < 32000; ++i)
@@ -215,7 +212,7 @@ TEST_F(LecteurVersFichier, whatIsHeardBeginsExactlyWhereAskedAtALinearVolume) {
     }
 }
 
-TEST_F(LecteurVersFichier, withoutAnOutputItPlaysSilentlyAndSaysSo) {
+TEST_F(LecteurVersFichier, WithoutAnOutputItPlaysSilentlyAndSaysSo) {
     const DossierTemporaire ailleurs;
     const Utf8 son1 = ailleurs.ecrire("a.wav", wav(son(2), {}));
     fs::remove_all(dossier.chemin()); // no output can be made here

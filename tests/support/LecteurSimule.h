@@ -38,15 +38,7 @@ class LecteurSimule : public LecteurMedia {
     }
 
     Utf8 URL() const override { return url_; }
-    void URL(const Utf8& chemin) override {
-        journal_.push_back("URL " + nomSeul(chemin));
-        url_ = chemin;
-        position_ = duree_ = 0;
-        jouerUneFoisPret_ = false;
-        erreur_.clear();
-        passer(chemin.empty() ? EtatLecture::Indefini : EtatLecture::Chargement);
-        if (!lent && !chemin.empty()) pret();
-    }
+    using LecteurMedia::URL;
     EtatLecture playState() const override { return etat_; }
     void play() override {
         journal_.push_back("play");
@@ -87,6 +79,15 @@ class LecteurSimule : public LecteurMedia {
     bool muet() const override { return sansSon; }
 
   private:
+    void ouvrir(const Utf8& chemin) override {
+        journal_.push_back("URL " + nomSeul(chemin));
+        url_ = chemin;
+        position_ = duree_ = 0;
+        jouerUneFoisPret_ = false;
+        erreur_.clear();
+        passer(chemin.empty() ? EtatLecture::Indefini : EtatLecture::Chargement);
+        if (!lent && !chemin.empty()) pret();
+    }
     static Utf8 nomSeul(const Utf8& chemin) { return chemin.substr(chemin.rfind('/') + 1); }
     void noter(const char* commande, double nombre) {
         std::ostringstream ligne;
@@ -100,7 +101,7 @@ class LecteurSimule : public LecteurMedia {
     void passer(EtatLecture etat) {
         if (etat == etat_) return;
         etat_ = etat;
-        if (surChangementEtat) surChangementEtat(etat);
+        annoncerEtat(etat);
     }
 
     Utf8 url_, erreur_;

@@ -5,6 +5,7 @@
 #include "support/LecteurSimule.h"
 
 #include <ctime>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -40,14 +41,19 @@ class EcranFixe : public Ecran {
     void pointeur(Pointeur voulu) override { pointeurCourant = voulu; }
 };
 
-/// Shows nothing. The person waits patiently `patience` times, then gives up.
+/// Shows nothing. The person waits patiently `patience` times, then gives up; what happens meanwhile is up to
+/// the test.
 class ProgressionMuette : public Progression {
   public:
     int patience = 1000;
+    std::function<void()> pendant;
     void debut(long, long) override {}
     void avance(long) override {}
     void fin() override {}
-    bool patienter(const char*) override { return patience-- > 0; }
+    bool patienter(const char*) override {
+        if (pendant) pendant();
+        return patience-- > 0;
+    }
 };
 
 /// The whole host, simulated; each of its parts stands open to the test. `dossier` is the place "beside the

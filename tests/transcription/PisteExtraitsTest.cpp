@@ -2,6 +2,7 @@
 
 #include "support/MetriquesFixes.h"
 #include "transcription/Entretien.h"
+#include "transcription/Marquage.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -33,6 +34,7 @@ std::string seuls(Elements elements, const std::set<Controle>& controles) {
 
 TEST(ExtractTrack, BarsStandWhereTheirTimesDoInTheirColours) {
     Vue vue(0, 100, "::10.00::002\r\n::30.00::\r\n::60.00::777\r\n::50.00::\r\n");
+    redresserBornes(vue.session);
     const Elements piste = disposerPiste(vue.session, 15000);
     EXPECT_EQ(decrire(piste), R"(ShpXtr[1] 1500,60 3000x210 tag=1 fond=020000 bord=787878
 ShpXtrInt[1] 1515,60 3000x210 tag=1 fond=020000 bord=787878
@@ -62,12 +64,15 @@ TEST(Bubbles, ShowWhatTheSpanReallyTouches) {
 
 TEST(Bubbles, HoldTheirTitleAndTheirWords) {
     const Vue vue(10, 60, "::5.00::001\r\n::6.00::\r\n::20.00::002\r\nun deux\r\n::30.00::\r\n");
-    EXPECT_EQ(seuls(vue.bulles(), {C::ShpXtrIntZ, C::ImgBulleInt, C::ImgBulleBas, C::LblXtrZ, C::LbltitreXtrZ,
-                                   C::LbltxtXtrZ, C::LblMot}),
-              R"(ShpXtrIntZ[1] 3120,0 2760x6000 tag=2 fond=020000 fusion
+    EXPECT_EQ(decrire(vue.bulles()), R"(ShpXtrZ[1] 3120,0 2760x6000 tag=2 bord=020000
+ShpXtrIntZ[1] 3120,0 2760x6000 tag=2 fond=020000 fusion
+ImgBulleBlanche[1] 3000,120 180x180 tag=2 fond=F4F4F6
 ImgBulleInt[1] 3000,120 105x5880 tag=2 fond=F4F4F6
 ImgBulleBas[1] 3000,4825 180x180 tag=2 fond=F4F4F6
+ImgBulleBlanche[2] 3170,120 2640x180 tag=2 fond=F4F4F6
+ImgBulleBlanche[3] 3170,299 2640x4525 tag=2 fond=F4F4F6
 ImgBulleBas[2] 3170,4825 2640x180 tag=2 fond=F4F4F6
+ImgBulleBlanche[4] 5800,120 180x180 tag=2 fond=F4F4F6
 ImgBulleInt[2] 5860,120 105x5880 tag=2 fond=F4F4F6
 ImgBulleBas[3] 5800,4825 180x180 tag=2 fond=F4F4F6
 LblXtrZ[1] 3120,120 2760x4885 tag=2 bulle=002

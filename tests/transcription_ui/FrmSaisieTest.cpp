@@ -39,6 +39,7 @@ class FrmSaisieTest : public testing::Test {
         session.audio.DureeFichier = 60;
         hote.media.URL(dossier.chemin("a.mp3"));
         LireRetranscription(session, hote.plateforme);
+        hote.annonces.surAvis = [this](const Avis& avis) { fenetres.annoncer(avis); };
         fenetre = std::make_unique<FrmSaisie>(session, hote.plateforme, fenetres);
     }
 
@@ -76,7 +77,7 @@ TEST_F(FrmSaisieTest, aNewExtractIsInsertedInTheTranscript) {
     EXPECT_FALSE(fenetre->isVisible());
     EXPECT_EQ(dossier.lire("a.Rtr"),
               std::string(RTR) + "::30.00::000\r\nD\xE9j\xE0\xA0l\xE0\r\nligne 2\r\n::35.00::\r\n");
-    EXPECT_TRUE(demande("rafraichirExtraits"));
+    EXPECT_TRUE(demande("annoncer Extraits"));
 }
 
 TEST_F(FrmSaisieTest, anEditedExtractKeepsAttributesAndTakesTheCaption) {
@@ -172,7 +173,7 @@ TEST_F(FrmSaisieTest, anAddedThematicCodesTheExtractAndReachesTheCorpus) {
     cliquer("LblCoulThm12");
     cliquer("Imgbtn2");
     EXPECT_NE(dossier.lire("c.Crp").find("002,255,M\xE9tier, \"vrai\"\r\n>|THEM|"), std::string::npos);
-    EXPECT_TRUE(demande("ConstruireThematiques"));
+    EXPECT_TRUE(demande("annoncer Thematiques"));
     cliquer("Imgbtn0");
     EXPECT_NE(dossier.lire("a.Rtr").find("::30.00::002\r\n"), std::string::npos);
 }

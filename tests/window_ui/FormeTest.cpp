@@ -11,7 +11,7 @@
 namespace vermo {
 namespace {
 
-class FormeEssai : public testing::Test {
+class FormeTest : public testing::Test {
   protected:
     essai::PlateformeDeTest hote;
     essai::FenetresMuettes fenetres;
@@ -19,7 +19,7 @@ class FormeEssai : public testing::Test {
     Forme forme{"FrmEssai", session, hote.plateforme, fenetres};
 };
 
-TEST_F(FormeEssai, UneFauteDansUnRappelDevientUnMessage) {
+TEST_F(FormeTest, AFaultInACallbackBecomesAMessage) {
     QWidget cadre(&forme);
     Toile toile(QStringLiteral("Picture1"), &cadre);
     toile.resize(20, 20);
@@ -31,7 +31,7 @@ TEST_F(FormeEssai, UneFauteDansUnRappelDevientUnMessage) {
     EXPECT_TRUE(relachee) << "the program goes on";
 }
 
-TEST_F(FormeEssai, UneFauteQuiSeRepeteEstDiteUneFois) {
+TEST_F(FormeTest, AFaultThatRepeatsIsToldOnce) {
     auto tic = [&] { forme.garder([] { throw FauteExecution("encore"); }); };
     hote.dialogues.repondre(Reponse::Ok, "encore").repondre(Reponse::Ok, "autre");
     tic();
@@ -40,7 +40,7 @@ TEST_F(FormeEssai, UneFauteQuiSeRepeteEstDiteUneFois) {
     EXPECT_EQ(hote.dialogues.journal().size(), 2u);
 }
 
-TEST_F(FormeEssai, LOpaciteEstGardee) {
+TEST_F(FormeTest, OpacityIsKept) {
     for (const auto& [voulue, gardee] : {std::pair{230, 230}, {0, 0}, {-5, 0}, {260, 255}}) {
         forme.Transparence(voulue);
         EXPECT_EQ(forme.alpha(), gardee);
@@ -48,7 +48,7 @@ TEST_F(FormeEssai, LOpaciteEstGardee) {
     }
 }
 
-TEST_F(FormeEssai, PlaceeDansLEcranEtSansCadre) {
+TEST_F(FormeTest, PlacedWithinTheScreen) {
     hote.ecran.zone.barreDesTaches = 40;
     forme.placer({27000, -300, 6000, 3000});
     EXPECT_EQ(forme.geometry(), QRect(1520, 0, 400, 200));
@@ -56,7 +56,7 @@ TEST_F(FormeEssai, PlaceeDansLEcranEtSansCadre) {
     EXPECT_EQ(forme.geometry(), QRect(0, 0, 1920, 1040));
 }
 
-TEST_F(FormeEssai, DeplaceeParSonTitre) {
+TEST_F(FormeTest, MovedByItsTitle) {
     QWidget titre(&forme);
     titre.resize(100, 20);
     forme.deplacerPar(&titre);
@@ -72,7 +72,7 @@ TEST_F(FormeEssai, DeplaceeParSonTitre) {
     EXPECT_EQ(forme.pos(), QPoint(130, 120));
 }
 
-TEST_F(FormeEssai, UnBoutonSEnfonceAuClavierEtSeNomme) {
+TEST_F(FormeTest, AButtonAnswersKeysAndHasAName) {
     BoutonImage bouton(QStringLiteral("ImgCroix"), QStringLiteral("Ajouter"), QStringLiteral("Fermer"),
                        &forme);
     int appuis = 0;

@@ -31,7 +31,7 @@ Toile& taille(Toile& toile, int largeur, int hauteur) {
     return toile;
 }
 
-TEST(ToilePeinture, BordsAuPixelEtDecalage) {
+TEST(ToileTest, EdgesFallOnPixelsAndTheSurfaceScrolls) {
     Toile toile(QStringLiteral("Picture1"));
     taille(toile, 20, 10).fond(BLANC);
     toile.decalage(150, 30);
@@ -45,7 +45,7 @@ TEST(ToilePeinture, BordsAuPixelEtDecalage) {
     EXPECT_EQ(peinte(toile, 2).pixelColor(9, 5), QColor(Qt::red)) << "two device pixels to the pixel";
 }
 
-TEST(ToilePeinture, LeTexteTientEntreLesBords) {
+TEST(ToileTest, TextKeepsBetweenItsEdges) {
     Toile toile(QStringLiteral("Picture1"));
     taille(toile, 60, 20).fond(rvb(0, 0, 0));
     Element mot{.cadre = {150, 0, 450, 300}, .texte = "MMMMMMMMMM"};
@@ -59,7 +59,7 @@ TEST(ToilePeinture, LeTexteTientEntreLesBords) {
     EXPECT_EQ(dehors, 0);
 }
 
-TEST(ToileSouris, UnClicVeutLeMemeElement) {
+TEST(ToileTest, AClickTakesOneItemTwice) {
     Toile toile(QStringLiteral("Picture1"));
     taille(toile, 40, 10).decalage(150, 0);
     Element a = barre({150, 0, 150, 150}, ROUGE), b = barre({300, 0, 150, 150}, BLEU);
@@ -92,7 +92,7 @@ TEST(ToileSouris, UnClicVeutLeMemeElement) {
     EXPECT_EQ(journal, "p1@180 r1@180 c1@180 d1@180 r1@180 ");
 }
 
-TEST(Glace, UnTexteTapeRevientEnOctets) {
+TEST(GlaceTest, TypedTextBecomesBytes) {
     EXPECT_EQ(depuisQt(QStringLiteral("e\u0301t\u00E9\nc\u0153ur\u2029\u20AC\r\nfin")),
               "\xE9t\xE9\rc\x9Cur\r\x80\rfin");
     Texte tous;

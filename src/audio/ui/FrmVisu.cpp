@@ -9,7 +9,6 @@
 #include "window/ui/Glace.h"
 
 #include <QCloseEvent>
-#include <QLineEdit>
 #include <QPainter>
 
 namespace vermo {
@@ -76,12 +75,10 @@ void FrmVisu::creerControles() {
     LblXtrBulle_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     LblXtrBulle_->hide();
 
-    TxtCtrl_ = new QLineEdit(this);
-    TxtCtrl_->setObjectName(QStringLiteral("TxtCtrl"));
-    TxtCtrl_->setAccessibleName(QStringLiteral("Commandes de l'entretien"));
-    TxtCtrl_->setAttribute(Qt::WA_InputMethodEnabled, false);
-    TxtCtrl_->setFrame(false);
-    TxtCtrl_->installEventFilter(this);
+    TxtCtrl_ = new CapteurTouches(QStringLiteral("Commandes de l'entretien"), this);
+    TxtCtrl_->surTouche = [this](const QKeyEvent& touche, Frappe frappe) {
+        return frappe == Frappe::Relachement ? relacherTouche(touche) : presserTouche(touche);
+    };
 }
 
 BoutonImage* FrmVisu::creerBouton(const char* nom, const char* icone, const char* bulle,
@@ -133,7 +130,6 @@ void FrmVisu::disposer() {
     poser(Pict_zoom_, {0, 0, largeur, zoomHauteur});
     poser(Pict_tpsZ_, {RETRAIT, zoomHaut + zoomHauteur, largeur, REGLE_ZOOM});
     poser(lblEtat_, {RETRAIT + 30, H - BAS, largeur - 60, BAS - 30});
-    TxtCtrl_->setGeometry(0, 0, 1, 1);
 }
 
 void FrmVisu::disposerTitre(Twips L) {
@@ -204,6 +200,8 @@ bool FrmVisu::OuvrirEntretienVue(Ouverture ouverture) {
              .icone = Icone::Critique});
         return false;
     }
+    ecoute_ =
+        media.ecouter([this](EtatLecture etat) { garder([this, etat] { Media_PlayStateChange(etat); }); });
     disposer(); // the screen may have changed since the window was made
     commencerFondu(ouverture);
     const Texte& nom = entretien().Fichier;
@@ -219,7 +217,7 @@ bool FrmVisu::OuvrirEntretienVue(Ouverture ouverture) {
     if (fichierExiste(cheminCache())) show();
 
     session_.audio.MarqueDebut = 0;
-    session_.transcription.signalement.clear();
+    session_.transcription.signalement.oublier();
     Pict_tps_->dessin(dessinerRegleMinutes(session_.audio.DureeFichier, Picture1_->largeurTwips()));
     remplirVue();
     DessinerZoom();
@@ -254,8 +252,8 @@ void FrmVisu::commencerFondu(Ouverture ouverture) {
     constexpr float DEPART_FONDU = 7;
     ferme_ = false;
     const bool fondu = ouverture == Ouverture::AvecFondu;
-    session_.EtatFondu = fondu ? DEPART_FONDU : FONDU_OPAQUE;
-    Transparence(fondu ? 0 : static_cast<int>(FONDU_OPAQUE));
+    session_.EtatFondu = fondu ? DEPART_FONDU : FONDU_VISU.opaque;
+    Transparence(fondu ? 0 : static_cast<int>(FONDU_VISU.opaque));
     Timer1_.start();
     Timer3_.start();
 }

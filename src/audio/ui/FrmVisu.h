@@ -1,8 +1,9 @@
 #pragma once
 #include "audio/ImageOnde.h"
-#include "audio/Marquage.h"
 #include "audio/Suivi.h"
+#include "transcription/Marquage.h"
 #include "window/Fenetres.h"
+#include "window/ui/CapteurTouches.h"
 #include "window/ui/Forme.h"
 #include "window/ui/Theme.h"
 #include "window/ui/Toile.h"
@@ -13,7 +14,6 @@
 #include <vector>
 
 class QKeyEvent;
-class QLineEdit;
 
 namespace vermo {
 
@@ -22,7 +22,7 @@ namespace vermo {
 /// their spans to the transcription window.
 ///
 /// It shows the interview `EntretienCourant`, whose recording the player has been given. Unloaded when its
-/// closing fade ends, or at once by `ImgCorpus`; both tell the corpus window first (`Fenetres::quitterVisu`).
+/// closing fade ends, or at once by `ImgCorpus`; both leave the interview first (`quitterEntretien`).
 class FrmVisu : public Forme {
     Q_OBJECT
   public:
@@ -43,9 +43,6 @@ class FrmVisu : public Forme {
     void rafraichirExtraits();
     void DessinerVolume();
 
-    /// To be called on each change of the player's state.
-    void Media_PlayStateChange(EtatLecture etat);
-
     // The timers' jobs, one tick each.
     void Timer1_Tick();    ///< follows the player
     void Timer3_Tick();    ///< fades window and sound
@@ -54,7 +51,6 @@ class FrmVisu : public Forme {
     void Timtrait_Tick(); ///< unrolls the extract's text
 
   protected:
-    bool eventFilter(QObject* objet, QEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
     void closeEvent(QCloseEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
@@ -115,11 +111,10 @@ class FrmVisu : public Forme {
     void relacherPoignee(bool debut, Twips x);
     void poserBorne(int k, bool debut, double v);
     void refuserEnglobement();
-    std::vector<Bornes> bornesExtraits() const;
-    std::vector<Bornes> autresBornes(int k) const;
     void ouvrirExtrait(int k);
 
     // FrmVisuLecture.cpp: the player, commands, closing.
+    void Media_PlayStateChange(EtatLecture etat); ///< on each change of the player's state
     void jouer();
     void mettreEnPause();
     void zoomAvant();
@@ -150,9 +145,10 @@ class FrmVisu : public Forme {
     std::array<BoutonImage*, 7> ImgMedia_{}; ///< members 1 to 6
     BoutonImage *ImgCroix_, *ImgCorpus_;
     QLabel *LblCompteur_, *lblfich_, *LblXtrBulle_, *lblEtat_;
-    QLineEdit* TxtCtrl_;
+    CapteurTouches* TxtCtrl_;
     QTimer Timer1_, Timer3_, TimerPlus_, TimerMoins_, Timtrait_;
 
+    Ecoute ecoute_; ///< of the player, once an interview is opened
     MetriquesQt metriques_;
     PointsOnde PointsVue_, PointsZoom_;
     bool dessinEnCours_ = false; ///< the progress shown meanwhile lets other ticks in

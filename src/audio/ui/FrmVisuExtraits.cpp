@@ -1,6 +1,7 @@
 #include "audio/Zoom.h"
 #include "audio/ui/FrmVisu.h"
 #include "audio/ui/GeometrieVisu.h"
+#include "transcription/Marquage.h"
 #include "transcription/PisteExtraits.h"
 #include "transcription/Retranscription.h"
 #include "window/ui/Glace.h"
@@ -64,6 +65,7 @@ void FrmVisu::AfficherExtraits() {
     const Twips W = Picture1_->largeurTwips(), hVue = Picture1_->hauteurTwips();
     const Twips Z = Pict_zoom_->largeurTwips(), hZoom = Pict_zoom_->hauteurTwips();
 
+    redresserBornes(session_);
     Elements piste{forme(Controle::Shp_visu, {0, 0, 0, hVue}, theme::ACCENT, true),
                    gardee(*Picture1_, Controle::TotalSelect, CURSEUR, hVue)};
     Elements barres = disposerPiste(session_, W);

@@ -1,6 +1,7 @@
 #include "audio/Regles.h"
 #include "audio/Zoom.h"
 #include "audio/ui/FrmVisu.h"
+#include "platform/Sablier.h"
 #include "textfile/chemins.h"
 #include "textfile/faute.h"
 #include "textfile/fichier.h"
@@ -8,7 +9,6 @@
 #include "window/JaugeVolume.h"
 #include "window/ui/Glace.h"
 
-#include <QLineEdit>
 #include <QPainter>
 #include <QScopedValueRollback>
 
@@ -112,14 +112,13 @@ QImage FrmVisu::ondeZoom() {
 void FrmVisu::DessinerZoom() {
     if (dessinEnCours_) return;
     const QScopedValueRollback enCours(dessinEnCours_, true);
-    plateforme_.ecran.pointeur(Pointeur::Sablier);
+    const Sablier sablier(plateforme_.ecran);
     cacherSelections();
     const EtatAudio& audio = session_.audio;
     Pict_zoom_->image(ondeZoom());
     Pict_tpsZ_->dessin(dessinerRegleSecondes(audio.DebutZoom, audio.DureeZoom, Pict_zoom_->largeurTwips()));
     garder([this] { LireRetranscription(session_, plateforme_); });
     AfficherExtraits();
-    plateforme_.ecran.pointeur(Pointeur::Normal);
     TxtCtrl_->setFocus();
 }
 

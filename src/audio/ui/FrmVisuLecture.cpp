@@ -5,7 +5,6 @@
 #include "window/ui/Glace.h"
 
 #include <QCoreApplication>
-#include <QLineEdit>
 #include <QPointer>
 
 namespace vermo {
@@ -50,11 +49,12 @@ void FrmVisu::direEtatSon() {
 
 void FrmVisu::Timer3_Tick() {
     if (!isVisible()) return;
-    const Fondu fondu = avancerFondu(session_.EtatFondu, session_.audio.VolumeLecture);
-    if (fondu.alpha) Transparence(*fondu.alpha);
-    if (fondu.volume) plateforme_.media.volume(*fondu.volume);
-    if (fondu.arreter) Timer3_.stop();
-    if (fondu.decharger) dechargerPlusTard();
+    const PasFondu pas = avancer(FONDU_VISU, session_.EtatFondu);
+    if (pas.alpha) Transparence(*pas.alpha);
+    if (const auto volume = volumeFondu(pas.reste, session_.audio.VolumeLecture))
+        plateforme_.media.volume(*volume);
+    if (pas.arreter) Timer3_.stop();
+    if (pas.decharger) dechargerPlusTard();
 }
 
 void FrmVisu::TimerPlus_Tick() {
@@ -67,8 +67,7 @@ void FrmVisu::TimerMoins_Tick() {
 
 void FrmVisu::Media_PlayStateChange(EtatLecture etat) {
     suivreVolume(session_.audio, plateforme_.media);
-    const bool joue = etat == EtatLecture::Lecture || etat == EtatLecture::AvanceRapide ||
-                      etat == EtatLecture::RetourRapide;
+    const bool joue = enMouvement(etat);
     ImgMedia_[4]->setVisible(joue);
     ImgMedia_[1]->setVisible(!joue);
     if (!joue || std::exchange(marqueDemarre_, false)) return;
@@ -158,8 +157,8 @@ bool FrmVisu::quitter() {
 
 void FrmVisu::fermer() {
     if (!quitter()) return;
-    session_.EtatFondu = FONDU_FERMETURE;
-    Transparence(static_cast<int>(FONDU_FIN - FONDU_FERMETURE));
+    session_.EtatFondu = FONDU_VISU.base;
+    Transparence(static_cast<int>(FONDU_VISU.rampe));
     Timer3_.start();
 }
 

@@ -3,19 +3,9 @@
 #include "transcription/Retranscription.h"
 
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <algorithm>
 
 namespace vermo {
-
-bool FrmVisu::eventFilter(QObject* objet, QEvent* evenement) {
-    bool traite = false;
-    if (objet == TxtCtrl_ && evenement->type() == QEvent::KeyPress)
-        garder([&] { traite = presserTouche(*static_cast<QKeyEvent*>(evenement)); });
-    if (objet == TxtCtrl_ && evenement->type() == QEvent::KeyRelease)
-        garder([&] { traite = relacherTouche(*static_cast<QKeyEvent*>(evenement)); });
-    return traite || Forme::eventFilter(objet, evenement);
-}
 
 /// Keys that a focused button leaves to its window.
 void FrmVisu::keyPressEvent(QKeyEvent* evenement) {
@@ -82,7 +72,7 @@ bool FrmVisu::presserRaccourci(const QKeyEvent& touche) {
 bool FrmVisu::relacherTouche(const QKeyEvent& touche) {
     const bool fleche = touche.key() == Qt::Key_Left || touche.key() == Qt::Key_Right;
     const bool nue = !(touche.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-    if (fleche && nue && !touche.isAutoRepeat() && !ferme_) jouer();
+    if (fleche && nue && !ferme_) jouer();
     return true;
 }
 

@@ -2,8 +2,6 @@
 #include "audio/ui/FrmVisu.h"
 #include "transcription/Retranscription.h"
 
-#include <QLineEdit>
-
 namespace vermo {
 
 void FrmVisu::brancherVue() {

@@ -1,11 +1,7 @@
 #include "audio/Zoom.h"
 #include "audio/ui/FrmVisu.h"
-#include "textfile/faute.h"
 #include "textfile/nombres.h"
 #include "transcription/Retranscription.h"
-
-#include <QLineEdit>
-#include <limits>
 
 namespace vermo {
 
@@ -139,25 +135,11 @@ void FrmVisu::creerExtrait(Twips x) {
     const Bornes voulues{tempsZoom(audio, GlisseZoomDebut_, Z), tempsZoom(audio, x, Z)};
     GlisseZoomDebut_ = 0;
     cacherSelections();
-    const Marquage marquage = bornerNouvelExtrait(voulues, bornesExtraits());
+    const Marquage marquage = bornerNouvelExtrait(session_, voulues);
     if (marquage.englobe)
         refuserEnglobement();
     else
         ouvrirSaisie(marquage.bornes);
-}
-
-/// An extract whose times are no numbers keeps nobody off.
-std::vector<Bornes> FrmVisu::bornesExtraits() const {
-    constexpr double NULLE_PART = std::numeric_limits<double>::quiet_NaN();
-    std::vector<Bornes> bornes;
-    for (int i = 1; i <= nombreExtraits(session_); ++i) {
-        try {
-            bornes.push_back({secondesDebut(session_, i), secondesFin(session_, i)});
-        } catch (const FauteExecution&) {
-            bornes.push_back({NULLE_PART, NULLE_PART});
-        }
-    }
-    return bornes;
 }
 
 void FrmVisu::refuserEnglobement() {
@@ -188,42 +170,20 @@ void FrmVisu::relacherPoignee(bool debut, Twips x) {
                tempsZoom(session_.audio, std::max(gauche + x, 0.0), Pict_zoom_->largeurTwips()));
 }
 
-/// Bounds as their text reads: under a decimal comma they count as whole seconds here.
-std::vector<Bornes> FrmVisu::autresBornes(int k) const {
-    const EtatTranscription& etat = session_.transcription;
-    std::vector<Bornes> autres;
-    for (int i = 1; i <= nombreExtraits(session_); ++i) {
-        if (i == k) continue;
-        const auto place = static_cast<std::size_t>(i);
-        autres.push_back({valeurTexte(etat.ExtraitDebut[place], session_.reglages),
-                          valeurTexte(etat.ExtraitFin[place], session_.reglages)});
-    }
-    return autres;
-}
-
 /// An extract that is open in FrmSaisie is opened anew, or its old span would come back when it is validated.
 void FrmVisu::poserBorne(int k, bool debut, double v) {
-    EtatTranscription& etat = session_.transcription;
-    const bool ouvert = fenetres_.visible(Fenetre::FrmSaisie) && !etat.NouvelExtrait &&
-                        static_cast<int>(etat.ExtraitCourant) == k;
+    const EtatTranscription& etat = session_.transcription;
+    const bool ouvert =
+        fenetres_.visible(Fenetre::FrmSaisie) && !etat.NouvelExtrait && extraitCourant(etat) == k;
     if (ouvert && ramenerSaisie(fenetres_.entamee(Fenetre::FrmSaisie))) return AfficherExtraits();
 
-    const auto place = static_cast<std::size_t>(k);
-    const double f0 = secondesFin(session_, k);
-    (debut ? etat.ExtraitDebut : etat.ExtraitFin)[place] = v;
-
-    const Bornes deplacees{secondesDebut(session_, k), secondesFin(session_, k)};
-    const Marquage marquage = bornerExtraitDeplace(deplacees, autresBornes(k));
-    if (marquage.englobe) return refuserEnglobement();
-    if (marquage.bornes.debut != deplacees.debut) etat.ExtraitDebut[place] = marquage.bornes.debut;
-    if (marquage.bornes.fin != deplacees.fin) etat.ExtraitFin[place] = marquage.bornes.fin;
-
-    const bool allonge = marquage.bornes.fin > f0;
-    const bool ecrit = EnregistrerExtraits(
-        session_, plateforme_, nommerExtrait(session_.corpus, "Déplacer une borne de", k, etat.source.slot));
+    const Deplacement deplacement = deplacerBorne(session_, k, debut, v);
+    if (deplacement.englobe) return refuserEnglobement();
+    const Utf8 nom = nommerExtrait(session_.corpus, "Déplacer une borne de", k, etat.source.slot);
+    const bool ecrit = EnregistrerExtraits(session_, plateforme_, nom);
     LireRetranscription(session_, plateforme_);
     AfficherExtraits();
-    if ((allonge || ouvert) && ecrit) ouvrirExtrait(k);
+    if ((deplacement.allonge || ouvert) && ecrit) ouvrirExtrait(k);
 }
 
 } // namespace vermo

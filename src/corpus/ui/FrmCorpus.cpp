@@ -2,10 +2,11 @@
 
 #include "corpus/Panneaux.h"
 #include "corpus/Pistes.h"
-#include "corpus/ui/BarreDefilement.h"
 #include "corpus/ui/CroixDouble.h"
 #include "corpus/ui/ToileEntretiens.h"
 #include "corpus/ui/ToileThematiques.h"
+#include "platform/Sablier.h"
+#include "window/ui/BarreDefilement.h"
 #include "window/ui/Glace.h"
 
 #include <QCloseEvent>
@@ -46,19 +47,19 @@ void FrmCorpus::montrerFrise() {
 
 void FrmCorpus::montrerPistes() {
     Frm_entretiens_->disposer();
-    Frm_thm_->disposer();
+    Frm_thm_->redessiner();
     montrerComptes();
 }
 
 void FrmCorpus::ConstruireThematiques() {
-    Frm_thm_->disposer();
+    Frm_thm_->redessiner();
     montrerComptes();
 }
 
 void FrmCorpus::viderAffichage() {
     lblCaption1_->setText(utf8VersQt(session_.corpus.CheminCorpus));
     Frm_entretiens_->vider();
-    Frm_thm_->elements({});
+    Frm_thm_->redessiner();
     PictTps_->hide();
     LblScroll_->hide();
     LblVide_->hide();
@@ -122,28 +123,20 @@ void FrmCorpus::zoomMoins() {
 void FrmCorpus::zoomer(float hauteur) {
     if (nombreLignes(session_.corpus) == 0) return;
     const Twips rangs = Frm_entretiens_->vue().defilement / session_.corpus.HauteurEntretien;
-    plateforme_.ecran.pointeur(Pointeur::FlecheSablier);
+    const Sablier sablier(plateforme_.ecran, Pointeur::FlecheSablier);
     surface(false);
     session_.corpus.HauteurEntretien = hauteur;
-    garder([this] {
-        RedessinerFrise();
-        RedessinerPistes();
-    });
+    garder([this] { fenetres_.annoncer({Sujet::Entretiens}); });
     surface(true);
     Frm_entretiens_->defiler(rangs * hauteur);
-    plateforme_.ecran.pointeur(Pointeur::Normal);
 }
 
 void FrmCorpus::tailleReelle() {
-    plateforme_.ecran.pointeur(Pointeur::Sablier);
+    const Sablier sablier(plateforme_.ecran);
     surface(false);
     session_.corpus.TailleReelle = !session_.corpus.TailleReelle;
-    garder([this] {
-        RedessinerFrise();
-        RedessinerPistes();
-    });
+    garder([this] { fenetres_.annoncer({Sujet::Entretiens}); });
     surface(true);
-    plateforme_.ecran.pointeur(Pointeur::Normal);
 }
 
 void FrmCorpus::croix() {

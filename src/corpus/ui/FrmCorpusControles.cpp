@@ -1,11 +1,11 @@
 // The controls of the window: made once, placed at each change of its size.
 #include "corpus/Session.h"
-#include "corpus/ui/BarreDefilement.h"
 #include "corpus/ui/CroixDouble.h"
 #include "corpus/ui/FrmCorpus.h"
 #include "corpus/ui/ToileEntretiens.h"
 #include "corpus/ui/ToileThematiques.h"
 #include "window/Placement.h"
+#include "window/ui/BarreDefilement.h"
 #include "window/ui/Glace.h"
 #include "window/ui/Lien.h"
 #include "window/ui/Theme.h"
@@ -165,7 +165,9 @@ void FrmCorpus::construirePanneaux() {
     Frm_fond_entretiens_ = cadre("Frm_fond_entretiens", this);
     Frm_entretiens_ = new ToileEntretiens(session_, fenetres_, Frm_fond_entretiens_);
     Frm_entretiens_->surDefilement = [this] { montrerDefilement(); };
-    LblScroll_ = new BarreDefilement(session_.corpus, Frm_fond_entretiens_);
+    LblScroll_ = new BarreDefilement(QStringLiteral("LblScroll"), session_.corpus.DefilementActif,
+                                     Frm_fond_entretiens_);
+    LblScroll_->setAccessibleName(QStringLiteral("Défilement des entretiens"));
     LblScroll_->surDefilement = [this](Twips voulu) { Frm_entretiens_->defiler(voulu); };
     PictTps_ = new Toile(QStringLiteral("PictTps"), this);
     PictTps_->fond(theme::REGLE);

@@ -170,13 +170,14 @@ void FrmIntro::testerSon() {
     const Utf8 son = plateforme_.emplacements.fichierLu("Vermo de Vermo.mp3");
     if (son.empty()) throw FauteExecution("Le son d'essai est introuvable", "Vermo de Vermo.mp3");
     LblSon_->clear();
-    plateforme_.media.URL(son);
+    plateforme_.media.URL(son, Fenetre::FrmIntro);
     plateforme_.media.play();
     ticsSon_ = 0;
     TimerSon_.start();
 }
 
 void FrmIntro::TimerSon_Tick() {
+    if (plateforme_.media.proprietaire() != Fenetre::FrmIntro) return TimerSon_.stop();
     Utf8 obstacle = plateforme_.media.erreur();
     if (obstacle.empty() && plateforme_.media.muet())
         obstacle = "Aucune sortie son : la lecture est silencieuse.";

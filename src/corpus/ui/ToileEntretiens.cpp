@@ -5,21 +5,18 @@
 #include "window/ui/Theme.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace vermo {
 namespace {
 
 constexpr Couleur SURLIGNAGE = rvb(66, 72, 82);
-constexpr Twips MARGE_LIGNE = 60; ///< half of what parts two rows
 constexpr Twips EPAISSEUR_INSERTION = 45;
 
 } // namespace
 
 ToileEntretiens::ToileEntretiens(Session& session, Fenetres& fenetres, QWidget* parent)
-    : Toile(QStringLiteral("Frm_entretiens"), parent), session_(session), fenetres_(fenetres) {
+    : ToileDefilante(QStringLiteral("Frm_entretiens"), parent), session_(session), fenetres_(fenetres) {
     setAccessibleName(QStringLiteral("Entretiens"));
-    setFocusPolicy(Qt::StrongFocus);
     surPression = [this](const Souris& s) { presser(s); };
     surMouvement = [this](const Souris& s) { bouger(s); };
     surRelachement = [this](const Souris& s) { relacher(s); };
@@ -29,15 +26,11 @@ ToileEntretiens::ToileEntretiens(Session& session, Fenetres& fenetres, QWidget* 
     surDoubleClic = [this](const Souris& s) {
         if (s.element) doubleCliquer(*s.element);
     };
-    surMolette = [this](int crans, Qt::KeyboardModifiers) {
-        const Twips pas = session_.corpus.HauteurEntretien;
-        defiler(defile_ - crans * std::min(pas, hauteurTwips() / 2));
-    };
 }
 
 VueFrise ToileEntretiens::vue() const {
     return {.largeur = largeurTwips(),
-            .defilement = defile_,
+            .defilement = defilement(),
             .hauteur = hauteurTwips(),
             .tailleReelle = tailleReelle_};
 }
@@ -53,28 +46,16 @@ void ToileEntretiens::redessiner() {
     identites_ = std::move(identites);
     vide_ = false;
     tailleReelle_ = session_.corpus.TailleReelle;
-    defiler(defile_);
+    lignes(lignesFrise(session_));
+    defiler(defilement());
     disposer();
 }
 
-void ToileEntretiens::disposer() {
-    listeAJour_ = false;
-    aPeindre_ = rect();
-    update();
-}
-
-const Elements& ToileEntretiens::elements() const {
-    if (!listeAJour_) disposerEntre(liste_, defile_, defile_ + hauteurTwips());
-    listeAJour_ = true;
-    return liste_;
-}
-
-void ToileEntretiens::disposerEntre(Elements& liste, Twips haut, Twips bas) const {
-    VueFrise bande = vue();
-    bande.defilement = haut;
-    bande.hauteur = bas - haut;
-    liste.clear();
+void ToileEntretiens::disposerPartie(Elements& liste, const Rectangle& partie) const {
     if (vide_) return;
+    VueFrise bande = vue();
+    bande.defilement = partie.haut;
+    bande.hauteur = partie.hauteur;
     ajouterSurlignage(liste);
     disposerFrise(session_, bande, vues_, liste);
     disposerPistes(session_, bande, liste);
@@ -85,35 +66,30 @@ void ToileEntretiens::vider() {
     vues_.clear();
     identites_.clear();
     dessin({});
-    defile_ = 0;
-    decalage(0, 0);
+    lignes({});
     vide_ = true;
+    defiler(0);
     disposer();
 }
 
-void ToileEntretiens::defiler(Twips voulu) {
-    const double pas = TWIPS_PAR_PIXEL / devicePixelRatioF();
-    defile_ = std::round(bornerDefilement(AjusterDefilement(session_, hauteurTwips()), voulu) / pas) * pas;
-    decalage(0, defile_);
-    listeAJour_ = false;
-    if (surDefilement) surDefilement();
+Twips ToileEntretiens::hauteurSurface() const {
+    return AjusterDefilement(session_, hauteurTwips()).hauteurSurface;
 }
 
-void ToileEntretiens::resizeEvent(QResizeEvent* evenement) {
-    Toile::resizeEvent(evenement);
-    disposer();
-    defiler(defile_);
+/// A little more than the row, and all that stands above the first.
+std::array<Twips, 2> ToileEntretiens::etendue(int slot) const {
+    const Rectangle barre = cadreImgEnt(session_, slot, vue(), dureeMax(session_.corpus));
+    const Twips marge = slot == 1 ? barre.haut : TAILLES_FRISE.premiereLigne / 2;
+    return {barre.haut - marge, barre.bas() + marge};
 }
 
 Rectangle ToileEntretiens::cadreLigne(int slot) const {
-    const Rectangle barre = cadreImgEnt(session_, slot, vue(), dureeMax(session_.corpus));
-    return {0, barre.haut - MARGE_LIGNE, largeurTwips(), barre.hauteur + 2 * MARGE_LIGNE};
+    return {0, lignes().debut(slot), largeurTwips(), lignes().fin(slot) - lignes().debut(slot)};
 }
 
 void ToileEntretiens::ajouterSurlignage(Elements& liste) const {
-    const EtatCorpus& corpus = session_.corpus;
-    const int slot = corpus.EntretienCourant;
-    if (slot < 1 || slot > nombreLignes(corpus)) return;
+    const int slot = courant();
+    if (slot < 1 || slot > lignes().nombre()) return;
     liste.push_back({.controle = Controle::ImgSurlig,
                      .index = 1,
                      .cadre = cadreLigne(slot),
@@ -126,7 +102,7 @@ void ToileEntretiens::ajouterSurlignage(Elements& liste) const {
 
 /// The line stands where the dragged row will come to lie: above the target, or below it when it moves down.
 void ToileEntretiens::ajouterInsertion(Elements& liste) const {
-    if (!glisse_ || cible_ == 0 || cible_ == source_) return;
+    if (!glisse_ || cible_ == 0 || cible_ == source_ || cible_ > lignes().nombre()) return;
     const Rectangle ligne = cadreLigne(cible_);
     const Twips milieu = cible_ > source_ ? ligne.bas() : ligne.haut;
     liste.push_back({.controle = Controle::ImgSurlig,

@@ -1,11 +1,9 @@
 #include "corpus/Panneaux.h"
 #include "corpus/ui/ToileEntretiens.h"
 #include "window/Fenetres.h"
-#include "window/ui/Forme.h"
 #include "window/ui/Glace.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -41,8 +39,8 @@ void ToileEntretiens::bouger(const Souris& souris) {
     glisse_ = true;
     session_.corpus.LigneSource = static_cast<std::int16_t>(source_);
     const int avant = std::exchange(cible_, ligneVisee(souris));
-    const bool auDessus = souris.y<defile_, auDessous = souris.y> defile_ + hauteurTwips();
-    defiler(defile_ + (auDessous - auDessus) * static_cast<Twips>(session_.corpus.HauteurEntretien));
+    const bool auDessus = souris.y<defilement(), auDessous = souris.y> defilement() + hauteurTwips();
+    defiler(defilement() + (auDessous - auDessus) * static_cast<Twips>(session_.corpus.HauteurEntretien));
     if (cible_ != avant) disposer();
 }
 
@@ -83,20 +81,13 @@ void ToileEntretiens::basculer(int slot, bool seul) {
     fenetres_.annoncer({Sujet::Bascules});
 }
 
-void ToileEntretiens::choisir(int slot) {
-    if (slot < 1 || slot > nombreLignes(session_.corpus)) return;
-    repeindreLigne(std::exchange(session_.corpus.EntretienCourant, static_cast<std::int16_t>(slot)));
-    listeAJour_ = false;
-    repeindreLigne(slot);
-    setAccessibleDescription(versQt(session_.corpus.Entretiens[static_cast<std::size_t>(slot)].Fichier));
-    amenerEnVue(slot);
+void ToileEntretiens::noterCourant(int slot) {
+    session_.corpus.EntretienCourant = static_cast<std::int16_t>(slot);
+    setAccessibleDescription(nomDeLigne(slot));
 }
 
-void ToileEntretiens::amenerEnVue(int slot) {
-    const Rectangle barre = cadreImgEnt(session_, slot, vue(), dureeMax(session_.corpus));
-    const Twips marge = slot == 1 ? barre.haut : TAILLES_FRISE.premiereLigne / 2;
-    defiler(std::clamp(defile_, std::min(barre.haut - marge, barre.bas() + marge - hauteurTwips()),
-                       std::max(barre.haut - marge, barre.bas() + marge - hauteurTwips())));
+QString ToileEntretiens::nomDeLigne(int slot) const {
+    return versQt(entretienDe(session_.corpus, slot).Fichier);
 }
 
 /// A row moved by the keys stays chosen, so that it can be moved on.
@@ -108,65 +99,22 @@ void ToileEntretiens::deplacer(int source, int cible) {
     choisir(cible);
 }
 
-int ToileEntretiens::slotVise(int touche) const {
-    const int courant = session_.corpus.EntretienCourant, nombre = nombreLignes(session_.corpus);
-    const int page = std::max(1, static_cast<int>(hauteurTwips() / session_.corpus.HauteurEntretien) - 1);
-    const auto borne = [&](int slot) { return std::clamp(slot, 1, nombre); };
-    switch (touche) {
-    case Qt::Key_Up:
-        return borne(courant - 1);
-    case Qt::Key_Down:
-        return borne(courant + 1);
-    case Qt::Key_PageUp:
-        return borne(courant - page);
-    case Qt::Key_PageDown:
-        return borne(courant + page);
-    case Qt::Key_Home:
-        return 1;
-    case Qt::Key_End:
-        return nombre;
-    default:
-        return 0;
-    }
-}
-
 bool ToileEntretiens::touche(int touche, Qt::KeyboardModifiers modificateurs) {
-    const int courant = session_.corpus.EntretienCourant;
-    const int vise = slotVise(touche);
     if (modificateurs & Qt::AltModifier) {
         if (touche != Qt::Key_Up && touche != Qt::Key_Down) return false;
-        deplacer(courant, touche == Qt::Key_Up ? courant - 1 : courant + 1);
-    } else if (vise != 0) {
-        choisir(vise);
-    } else if (courant == 0) {
+        deplacer(courant(), touche == Qt::Key_Up ? courant() - 1 : courant() + 1);
+    } else if (ToileDefilante::touche(touche, modificateurs)) {
+        return true;
+    } else if (courant() == 0) {
         return false;
     } else if (touche == Qt::Key_Return || touche == Qt::Key_Enter) {
-        fenetres_.montrer(Fenetre::FrmVisu, EntretienVoulu{courant, Ouverture::AvecFondu});
+        fenetres_.montrer(Fenetre::FrmVisu, EntretienVoulu{courant(), Ouverture::AvecFondu});
     } else if (touche == Qt::Key_Space) {
-        basculer(courant, modificateurs & Qt::ShiftModifier);
+        basculer(courant(), modificateurs & Qt::ShiftModifier);
     } else {
         return false;
     }
     return true;
-}
-
-void ToileEntretiens::keyPressEvent(QKeyEvent* evenement) {
-    bool prise = false;
-    if (nombreLignes(session_.corpus) > 0)
-        garderPour(this, [&] { prise = touche(evenement->key(), evenement->modifiers()); });
-    if (!prise) Toile::keyPressEvent(evenement);
-}
-
-void ToileEntretiens::focusInEvent(QFocusEvent* evenement) {
-    Toile::focusInEvent(evenement);
-    listeAJour_ = false;
-    repeindreLigne(session_.corpus.EntretienCourant);
-}
-
-void ToileEntretiens::focusOutEvent(QFocusEvent* evenement) {
-    Toile::focusOutEvent(evenement);
-    listeAJour_ = false;
-    repeindreLigne(session_.corpus.EntretienCourant);
 }
 
 } // namespace vermo

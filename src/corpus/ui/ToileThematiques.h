@@ -1,5 +1,5 @@
 #pragma once
-#include "window/ui/Toile.h"
+#include "window/ui/ToileDefilante.h"
 
 namespace vermo {
 
@@ -7,29 +7,32 @@ class Fenetres;
 struct Session;
 
 /// `Frm_thm`: the list of thematics. The left button switches one, the right button leaves it alone on.
-/// Keys: up, down, Home and End choose one; Space switches it, Shift+Space leaves it alone on.
-class ToileThematiques : public Toile {
+/// Keys besides those that choose one: Space switches it, Shift+Space leaves it alone on.
+class ToileThematiques : public ToileDefilante {
     Q_OBJECT
   public:
     ToileThematiques(Session& session, Fenetres& fenetres, QWidget* parent);
 
-    void disposer(); ///< lays the list out, from the Session
+    void redessiner(); ///< shows the thematics anew, from the Session
+
+    int courant() const override { return rang_; }
+    QString nomDeLigne(int rang) const override;
 
     std::function<void()> surBascule; ///< before the bars are shown anew
 
   protected:
-    void keyPressEvent(QKeyEvent* evenement) override;
-    void focusInEvent(QFocusEvent* evenement) override;
-    void focusOutEvent(QFocusEvent* evenement) override;
+    void noterCourant(int rang) override;
+    Twips hauteurSurface() const override { return hauteurTwips(); } ///< the rows share it
+    void disposerPartie(Elements& liste, const Rectangle& partie) const override;
+    bool touche(int touche, Qt::KeyboardModifiers modificateurs) override;
     void resizeEvent(QResizeEvent* evenement) override;
 
   private:
-    bool touche(int touche, bool seule);
     void basculer(int rang, bool seule);
 
     Session& session_;
     Fenetres& fenetres_;
-    int rang_ = 1; ///< chosen by the keys
+    int rang_ = 1;
 };
 
 } // namespace vermo

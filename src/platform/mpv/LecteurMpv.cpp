@@ -103,7 +103,7 @@ void LecteurMpv::ouvrirBibliotheque(const std::string& sortieAudio) {
 
 // Loading.
 
-void LecteurMpv::URL(const Utf8& chemin) {
+void LecteurMpv::ouvrir(const Utf8& chemin) {
     url_ = chemin;
     oublier();
     erreur_.clear();
@@ -178,11 +178,7 @@ void LecteurMpv::changerEtat(EtatLecture etat) {
     if (etat == etat_) return;
     etat_ = etat;
     QMetaObject::invokeMethod(
-        this,
-        [this, etat] {
-            if (surChangementEtat) surChangementEtat(etat);
-        },
-        Qt::QueuedConnection);
+        this, [this, etat] { annoncerEtat(etat); }, Qt::QueuedConnection);
 }
 
 // Playing.

@@ -18,7 +18,7 @@ namespace vermo {
 ///
 /// All members are called on the interface thread. The library works on threads of its own and wakes this
 /// object through the event queue, so states follow its events; a command of the caller shows in `playState`
-/// at once. `surChangementEtat` is always called from the event loop, never from inside a call.
+/// at once. Listeners are always called from the event loop, never from inside a call.
 ///
 /// At the end of the recording the state becomes Arrete and the position stays at the duration; `play()`
 /// there starts from 0. A file that can't be played leaves the state Indefini and says why in `erreur()`.
@@ -29,8 +29,8 @@ class LecteurMpv final : public QObject, public LecteurMedia {
     explicit LecteurMpv(const std::string& sortieAudio);
     ~LecteurMpv() override;
 
+    using LecteurMedia::URL;
     Utf8 URL() const override { return url_; }
-    void URL(const Utf8& chemin) override;
     EtatLecture playState() const override { return etat_; }
     void play() override;
     void pause() override;
@@ -46,6 +46,7 @@ class LecteurMpv final : public QObject, public LecteurMedia {
     bool muet() const override;
 
   private:
+    void ouvrir(const Utf8& chemin) override;
     void ouvrirBibliotheque(const std::string& sortieAudio);
     void charger();
     void lancerChargement();

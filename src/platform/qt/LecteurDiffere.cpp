@@ -29,17 +29,15 @@ void LecteurDiffere::preparer() {
                   : "Le lecteur audio n'a pas pu être chargé : " + bibliotheque.errorString().toStdString();
         return;
     }
-    lecteur_->surChangementEtat = [this](EtatLecture etat) {
-        if (surChangementEtat) surChangementEtat(etat);
-    };
+    ecoute_ = lecteur_->ecouter([this](EtatLecture etat) { annoncerEtat(etat); });
     lecteur_->volume(volume_);
     lecteur_->rate(vitesse_);
 }
 
-void LecteurDiffere::URL(const Utf8& chemin) {
+void LecteurDiffere::ouvrir(const Utf8& chemin) {
     url_ = chemin;
     if (!chemin.empty()) preparer();
-    if (lecteur_) lecteur_->URL(chemin);
+    if (lecteur_) lecteur_->URL(chemin, proprietaire());
 }
 
 void LecteurDiffere::play() {

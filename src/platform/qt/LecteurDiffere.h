@@ -17,8 +17,8 @@ class LecteurDiffere final : public LecteurMedia {
 
     void preparer() override;
 
+    using LecteurMedia::URL;
     Utf8 URL() const override { return lecteur_ ? lecteur_->URL() : url_; }
-    void URL(const Utf8& chemin) override;
     EtatLecture playState() const override {
         return lecteur_ ? lecteur_->playState() : EtatLecture::Indefini;
     }
@@ -36,10 +36,13 @@ class LecteurDiffere final : public LecteurMedia {
     bool muet() const override { return lecteur_ && lecteur_->muet(); }
 
   private:
+    void ouvrir(const Utf8& chemin) override;
+
     std::string sortieAudio_;
     std::unique_ptr<LecteurMedia> lecteur_;
-    Utf8 url_;   ///< asked for without a player
-    Utf8 panne_; ///< why there is no player; empty until it was tried
+    Ecoute ecoute_; ///< passes on what it says
+    Utf8 url_;      ///< asked for without a player
+    Utf8 panne_;    ///< why there is no player; empty until it was tried
     int volume_ = 100;
     double vitesse_ = 1;
 };

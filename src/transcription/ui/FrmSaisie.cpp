@@ -6,6 +6,7 @@
 #include "transcription/Saisie.h"
 #include "transcription/ui/EditeurRtr.h"
 #include "transcription/ui/FrmSaisieTailles.h"
+#include "window/Fondu.h"
 #include "window/ui/Glace.h"
 #include "window/ui/Lien.h"
 
@@ -17,6 +18,12 @@
 namespace vermo {
 
 namespace t = tailles_saisie;
+
+namespace {
+
+constexpr Fondu FONDU{.pas = 50};
+
+} // namespace
 
 FrmSaisie::FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent)
     : Forme("FrmSaisie", session, plateforme, fenetres, parent) {
@@ -116,7 +123,7 @@ void FrmSaisie::PreparerSaisie() {
 void FrmSaisie::OuvrirExtrait(int n) {
     saisie::ouvrirSpan(session_, n);
     Transparence(0);
-    fondu_ = 0;
+    fondu_ = -FONDU.pas; // the first tick shows nothing yet
     Timer2_.start(1);
     preparer();
     const auto thematique =
@@ -347,9 +354,9 @@ void FrmSaisie::supprimer() {
 }
 
 void FrmSaisie::Timer2_Tick() {
-    if (fondu_ >= 260) return Timer2_.stop();
-    Transparence(fondu_);
-    fondu_ += 50;
+    const PasFondu pas = avancer(FONDU, fondu_);
+    if (pas.alpha) Transparence(*pas.alpha);
+    if (pas.arreter) Timer2_.stop();
 }
 
 } // namespace vermo

@@ -47,9 +47,6 @@ class FrmSaisie : public Forme {
     void Timer3_Tick(); ///< 1 s: countdown of the automatic dictation
     void Timer4_Tick(); ///< 1 s: lengthening of the span
 
-    /// The player changed its state: the play button shows it.
-    void suivreEtat(bool joue);
-
   protected:
     bool event(QEvent* evenement) override;
     bool eventFilter(QObject* objet, QEvent* evenement) override;
@@ -74,6 +71,7 @@ class FrmSaisie : public Forme {
 
     // FrmSaisieEcoute.cpp, FrmSaisieOptions.cpp
     void creerEcoute();
+    void Media_PlayStateChange(EtatLecture etat); ///< the play button shows it
     void creerOptions();
     void creerBoutonsDictee();
     void creerSecondes();
@@ -108,6 +106,7 @@ class FrmSaisie : public Forme {
     void reinitialiserAjout();
     void ajouterThematique();
 
+    Ecoute ecoute_; ///< of the player
     PointsOnde PointsSaisie_;
     Toile* Picture1_ = nullptr; ///< the window's ground, by which it is moved
     Toile* Pict_saisie_ = nullptr;
@@ -138,7 +137,7 @@ class FrmSaisie : public Forme {
     bool pressionSecondes_ = false, pressionVitesse_ = false;
     int tagSecondes_ = 5; ///< tag of LblSec
     int secondes_ = 5;    ///< caption of LblSec
-    int fondu_ = 0;       ///< tag of Timer2
+    float fondu_ = 0;     ///< counter of the fade
     int rangSurvole_ = 1; ///< row of the panel that the keyboard stands on
     Twips defilementPanneau_ = 0, hauteurPanneau_ = 0;
 };

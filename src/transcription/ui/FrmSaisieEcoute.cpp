@@ -48,12 +48,14 @@ void FrmSaisie::creerEcoute() {
     connect(&Timer2_, &QTimer::timeout, this, [this] { garder([this] { Timer2_Tick(); }); });
     connect(&Timer3_, &QTimer::timeout, this, [this] { garder([this] { Timer3_Tick(); }); });
     connect(&Timer4_, &QTimer::timeout, this, [this] { garder([this] { Timer4_Tick(); }); });
+    ecoute_ = plateforme_.media.ecouter(
+        [this](EtatLecture etat) { garder([this, etat] { Media_PlayStateChange(etat); }); });
     Timer3_.setInterval(1000);
     Timer4_.setInterval(1000);
 }
 
-void FrmSaisie::suivreEtat(bool joue) {
-    ImgMedia_->icone(joue ? QStringLiteral("Pause") : QStringLiteral("Lecture"));
+void FrmSaisie::Media_PlayStateChange(EtatLecture etat) {
+    ImgMedia_->icone(enMouvement(etat) ? QStringLiteral("Pause") : QStringLiteral("Lecture"));
 }
 
 void FrmSaisie::positionner(double secondes) {

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 namespace vermo {
 
@@ -77,15 +78,13 @@ void Forme::deplacer(QEvent* evenement) {
 
 void Forme::signaler(const std::exception& faute) noexcept {
     const auto maintenant = std::chrono::steady_clock::now();
-    const bool repetee = derniereFaute_ == faute.what() && maintenant - derniereFois_ < REPIT;
-    derniereFois_ = maintenant;
-    if (signale_ || repetee) return;
-    derniereFaute_ = faute.what();
+    const bool recente = maintenant - std::exchange(derniereFois_, maintenant) < REPIT;
+    if (signale_ || (!derniereFaute_.nouveau(faute.what()) && recente)) return;
     signale_ = true;
     try {
-        plateforme_.dialogues.demander({.texte = derniereFaute_, .icone = Icone::Exclamation});
+        plateforme_.dialogues.demander({.texte = faute.what(), .icone = Icone::Exclamation});
     } catch (const std::exception& seconde) {
-        qCritical("%s (%s)", derniereFaute_.c_str(), seconde.what());
+        qCritical("%s (%s)", faute.what(), seconde.what());
     }
     signale_ = false;
     derniereFois_ = std::chrono::steady_clock::now();

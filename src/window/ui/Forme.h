@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/DejaDit.h"
 #include "platform/Plateforme.h"
 #include "textfile/faute.h"
 #include "window/Element.h"
@@ -72,7 +73,7 @@ class Forme : public QWidget {
     QPoint prise_;         ///< of the press, from the window's corner
     bool glisse_ = false;  ///< moved by hand, where the system can't
     bool signale_ = false; ///< a message stands
-    std::string derniereFaute_;
+    DejaDit derniereFaute_;
     std::chrono::steady_clock::time_point derniereFois_;
 };
 

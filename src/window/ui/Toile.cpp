@@ -73,12 +73,16 @@ void Toile::oublierImage(const std::string& chemin) {
     update();
 }
 
-void Toile::peindre(QPainter& peintre, const QRectF& zone, const Elements& elements) {
+void Toile::peindre(QPainter& peintre, const QRectF& zone) {
+    peindre(peintre, zone, elements(), {decalageX_, decalageY_});
+}
+
+void Toile::peindre(QPainter& peintre, const QRectF& zone, const Elements& elements, QPointF origine) {
     peintre.save();
     peindreFond(peintre, zone);
-    const QPointF origine(enPixels(decalageX_), enPixels(decalageY_));
-    const QRectF exposee = zone.translated(origine);
-    peintre.translate(-origine);
+    const QPointF coin(enPixels(origine.x()), enPixels(origine.y()));
+    const QRectF exposee = zone.translated(coin);
+    peintre.translate(-coin);
     peindreDessin(peintre, dessin_, exposee);
     PeintreElements pinceau(peintre, exposee);
     for (const Element& element : elements)

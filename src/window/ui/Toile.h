@@ -47,7 +47,7 @@ class Toile : public QWidget {
     void decalage(Twips x, Twips y);
 
     /// Where a part of the surface stands in the canvas as it is scrolled now.
-    Rectangle dansLaToile(const Rectangle& partie) const {
+    virtual Rectangle dansLaToile(const Rectangle& partie) const {
         return {partie.gauche - decalageX_, partie.haut - decalageY_, partie.largeur, partie.hauteur};
     }
 
@@ -55,13 +55,13 @@ class Toile : public QWidget {
     Twips hauteurTwips() const;
 
     /// Repaints one part of the surface only, after a change of the items in it.
-    void repeindre(const Rectangle& partie);
+    virtual void repeindre(const Rectangle& partie);
 
     /// Forgets a picture of the disk that was read for items, so that it is read again.
     void oublierImage(const std::string& chemin);
 
     /// Paints ground and items onto any device, as on the screen; `zone` in pixels of the canvas.
-    void peindre(QPainter& peintre, const QRectF& zone) { peindre(peintre, zone, elements()); }
+    virtual void peindre(QPainter& peintre, const QRectF& zone);
 
     // What the window does of the mouse. A click is a press and a release of the left button on the same item
     // (or on none both times); it follows the release. A double click comes instead of the second press where
@@ -81,8 +81,10 @@ class Toile : public QWidget {
     void leaveEvent(QEvent* evenement) override;
     bool event(QEvent* evenement) override; ///< tooltips of items
 
-    /// The same with `elements` in the place of the canvas's own: those that meet `zone` are enough.
-    void peindre(QPainter& peintre, const QRectF& zone, const Elements& elements);
+    virtual QPointF surface(QPointF pixels) const; ///< twips
+    /// Paints `elements` (those that meet `zone` are enough) where `origine`, twips of the surface, stands in
+    /// the canvas's corner.
+    void peindre(QPainter& peintre, const QRectF& zone, const Elements& elements, QPointF origine);
 
   private:
     struct Presse {
@@ -92,7 +94,6 @@ class Toile : public QWidget {
     };
 
     Souris souris(QMouseEvent* evenement) const;
-    QPointF surface(QPointF pixels) const; ///< twips
     void appeler(const std::function<void(const Souris&)>& action, QMouseEvent* evenement);
     void peindreFond(QPainter& peintre, const QRectF& zone);
     void montrerBulle(QPoint ici, QPoint ecran);

@@ -1,15 +1,16 @@
 #pragma once
-#include "corpus/Frise.h"
+#include "window/Defilement.h"
 #include "window/ui/Toile.h"
 
 namespace vermo {
 
-/// The timeline's scroll bar: LigneScroll and on it the thumb LblScroll. A press on the thumb drags it, one
-/// above or below it scrolls by a page. Coordinates are those of Frm_fond_entretiens.
+/// A scroll bar: LigneScroll and on it the thumb LblScroll. A press on the thumb drags it, one above or below
+/// it scrolls by a page. Coordinates are those of its parent.
 class BarreDefilement : public Toile {
     Q_OBJECT
   public:
-    BarreDefilement(EtatCorpus& corpus, QWidget* parent);
+    /// `actif`: where it is kept that the thumb is being dragged.
+    BarreDefilement(const QString& nom, bool& actif, QWidget* parent);
 
     /// `ligne`: where LigneScroll stands, as wide as the thumb.
     void placer(Rectangle ligne);
@@ -20,7 +21,7 @@ class BarreDefilement : public Toile {
   private:
     void presser(const Souris& souris);
 
-    EtatCorpus& corpus_;
+    bool& actif_;
     Rectangle ligne_;
     Defilement defilement_;
     Twips defile_ = 0, page_ = 0, prise_ = 0;

@@ -1,6 +1,12 @@
-#include "audio/Marquage.h"
+#include "transcription/Marquage.h"
 
+#include "textfile/faute.h"
+#include "transcription/Entretien.h"
+#include "transcription/Retranscription.h"
+
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <tuple>
 #include <vector>
 
 using namespace vermo;
@@ -30,4 +36,25 @@ TEST(Marking, AMovedBoundStopsAtTheFirstHit) {
     EXPECT_EQ(bornerExtraitDeplace({15, 30}, autres), (Marquage{{20, 30}, false})); // the second would refuse
     EXPECT_EQ(bornerExtraitDeplace({5, 30}, autres), (Marquage{{5, 30}, true}));
     EXPECT_EQ(bornerExtraitDeplace({20, 30}, autres), (Marquage{{20, 30}, true}));
+}
+
+TEST(Marking, ABoundThatIsMovedStaysInTheArraysEvenWhenItIsRefused) {
+    const std::string octets = "100\r\n::10.60::000\r\n::20.00::\r\n::30.60::000\r\n::40.00::\r\n";
+    using Cas = std::tuple<char, bool, double, Deplacement, Bornes>;
+    for (const auto& [separateur, debut, v, attendu, bornes] : {
+             Cas{'.', true, 5, {}, {5, 20}}, Cas{'.', false, 25, {.allonge = true}, {10.6, 25}},
+             Cas{'.', false, 15, {}, {10.6, 15}},
+             Cas{'.', false, 35, {.allonge = true}, {10.6, 30.6}}, // to the neighbour's edge
+             Cas{'.', false, 50, {.englobe = true}, {10.6, 50}},
+             Cas{',', false, 35, {.allonge = true}, {10.6, 30}}, // whole seconds under a decimal comma
+         }) {
+        const bool virgule = separateur == ',';
+        std::string texte = octets;
+        if (virgule) std::replace(texte.begin(), texte.end(), '.', ',');
+        essai::EntretienOuvert e(texte, {}, separateur);
+        EXPECT_EQ(deplacerBorne(e.session, 1, debut, v), attendu) << v;
+        EXPECT_EQ(bornesExtrait(e.session, 1), bornes) << v;
+        EXPECT_EQ(secondesFin(e.session, 2), 40);
+        EXPECT_THROW(deplacerBorne(e.session, 3, debut, v), FauteExecution);
+    }
 }

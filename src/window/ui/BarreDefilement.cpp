@@ -1,4 +1,4 @@
-#include "corpus/ui/BarreDefilement.h"
+#include "window/ui/BarreDefilement.h"
 
 #include "window/ui/Forme.h"
 #include "window/ui/Glace.h"
@@ -11,15 +11,14 @@ constexpr Twips EPAISSEUR_LIGNE = 30;
 
 } // namespace
 
-BarreDefilement::BarreDefilement(EtatCorpus& corpus, QWidget* parent)
-    : Toile(QStringLiteral("LblScroll"), parent), corpus_(corpus) {
-    setAccessibleName(QStringLiteral("Défilement des entretiens"));
+BarreDefilement::BarreDefilement(const QString& nom, bool& actif, QWidget* parent)
+    : Toile(nom, parent), actif_(actif) {
     surPression = [this](const Souris& s) { presser(s); };
     surMouvement = [this](const Souris& s) {
-        if (corpus_.DefilementActif) surDefilement(defilementDe(defilement_, s.y - prise_));
+        if (actif_) surDefilement(defilementDe(defilement_, s.y - prise_));
     };
     surRelachement = [this](const Souris&) {
-        corpus_.DefilementActif = false;
+        actif_ = false;
         montrer(defilement_, defile_, page_);
     };
 }
@@ -47,7 +46,7 @@ void BarreDefilement::montrer(const Defilement& defilement, Twips defile, Twips 
          {.controle = Controle::LblScroll,
           .cadre = {ligne_.gauche, hautPouce(defilement, defile), ligne_.largeur, defilement.hauteurPouce},
           .tag = {},
-          .fond = corpus_.DefilementActif ? theme::ACCENT : theme::TEXTE_DISCRET,
+          .fond = actif_ ? theme::ACCENT : theme::TEXTE_DISCRET,
           .rempli = true,
           .sensible = true}});
 }
@@ -56,7 +55,7 @@ void BarreDefilement::presser(const Souris& souris) {
     if (souris.bouton != Qt::LeftButton) return;
     const Twips haut = hautPouce(defilement_, defile_);
     if (souris.element) {
-        corpus_.DefilementActif = true;
+        actif_ = true;
         prise_ = souris.y - haut;
     } else {
         surDefilement(defile_ + (souris.y < haut ? -page_ : page_));
