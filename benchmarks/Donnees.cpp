@@ -127,6 +127,26 @@ std::string ondeDe(const std::string& donnees, int heures) {
     return chemin;
 }
 
+namespace {
+
+std::vector<std::string> motsEnCp1252() {
+    std::vector<std::string> mots;
+    for (const char* mot : MOTS)
+        mots.push_back(enCp1252(mot));
+    return mots;
+}
+
+/// A corpus file up to its interviews: eight thematics, one variable.
+std::string debutDeCorpus(Hasard& hasard) {
+    std::string liste = "Banc\r\n<|THEM|\r\n" + enCp1252("000,&H0, Pas de thématique\r\n");
+    for (int i = 1; i < 8; ++i)
+        liste += "00" + std::to_string(i) + "," + std::to_string(hasard.sous(0xFFFFFF)) + ", Theme " +
+                 std::to_string(i) + "\r\n";
+    return liste + ">|THEM|\r\n<|POS|\r\n1,Sexe\r\n>|POS|\r\n<|DIC|\r\n1,1,Femme\r\n>|DIC|\r\n<|ENTR|\r\n";
+}
+
+} // namespace
+
 std::string corpusDe(const std::string& donnees, int entretiens, int extraits) {
     const fs::path rep =
         fs::path(donnees) / ("corpus" + std::to_string(entretiens) + "x" + std::to_string(extraits));
@@ -134,14 +154,8 @@ std::string corpusDe(const std::string& donnees, int entretiens, int extraits) {
     if (fs::exists(crp)) return crp;
     fs::create_directories(rep);
     Hasard hasard(19701301);
-    std::vector<std::string> mots;
-    for (const char* mot : MOTS)
-        mots.push_back(enCp1252(mot));
-    std::string liste = "Banc\r\n<|THEM|\r\n" + enCp1252("000,&H0, Pas de thématique\r\n");
-    for (int i = 1; i < 8; ++i)
-        liste += "00" + std::to_string(i) + "," + std::to_string(hasard.sous(0xFFFFFF)) + ", Theme " +
-                 std::to_string(i) + "\r\n";
-    liste += ">|THEM|\r\n<|POS|\r\n1,Sexe\r\n>|POS|\r\n<|DIC|\r\n1,1,Femme\r\n>|DIC|\r\n<|ENTR|\r\n";
+    const std::vector<std::string> mots = motsEnCp1252();
+    std::string liste = debutDeCorpus(hasard);
     const std::string onde = enTete(8000, 1, 8000, 8) + std::string(8000, char(128));
     for (int i = 1; i <= entretiens; ++i) {
         const std::string nom = "Entretien" + std::to_string(i);
@@ -152,6 +166,18 @@ std::string corpusDe(const std::string& donnees, int entretiens, int extraits) {
     }
     ecrire(crp, liste + ">|ENTR|\r\n");
     return crp;
+}
+
+std::string corpusDUneHeure(const std::string& donnees) {
+    const fs::path rep = fs::path(donnees) / "corpus1h";
+    fs::create_directories(rep);
+    const fs::path onde = ondeDe(donnees, 1);
+    if (!fs::exists(rep / "Entretien.wav")) fs::create_hard_link(onde, rep / "Entretien.wav");
+    fs::remove(rep / "Entretien.Bmp");
+    Hasard hasard(18500212);
+    ecrire(rep / "Entretien.Rtr", retranscription(hasard, 120, motsEnCp1252()));
+    ecrire(rep / "Banc.Crp", debutDeCorpus(hasard) + "Entretien.wav\r\n>|ENTR|\r\n");
+    return rep / "Banc.Crp";
 }
 
 } // namespace bancs

@@ -11,4 +11,8 @@ std::string ondeDe(const std::string& donnees, int heures);
 /// recordings, and pictures for the first forty. Returns the path of its .Crp.
 std::string corpusDe(const std::string& donnees, int entretiens, int extraits);
 
+/// A corpus of one interview, "Entretien.wav", whose recording is `ondeDe(donnees, 1)`, with 120 extracts and
+/// without a picture. Returns the path of its .Crp.
+std::string corpusDUneHeure(const std::string& donnees);
+
 } // namespace bancs

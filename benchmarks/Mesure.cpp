@@ -5,7 +5,11 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <sstream>
 #include <stdexcept>
+#include <unistd.h>
 
 namespace bancs {
 
@@ -45,6 +49,26 @@ std::string sortieDe(const std::string& ligne) {
         sortie.append(morceau.data(), lu);
     if (pclose(tube) != 0) throw std::runtime_error("failed: " + ligne);
     return sortie;
+}
+
+void oublierPages(const std::string& fichier) {
+    const int descripteur = ::open(fichier.c_str(), O_RDONLY | O_CLOEXEC);
+    if (::fdatasync(descripteur) != 0 || ::posix_fadvise(descripteur, 0, 0, POSIX_FADV_DONTNEED) != 0)
+        throw std::runtime_error("its pages can't be dropped: " + fichier);
+    ::close(descripteur);
+}
+
+std::vector<NomMesure> mesuresSeules() {
+    return {{"--balayer", balayerSeul}, {"--reveils", compterReveils}, {"--usage", mesurerUsage}};
+}
+
+std::vector<double> mesurerSeul(const char* nom, const std::string& corpus) {
+    const std::string moi = std::filesystem::read_symlink("/proc/self/exe");
+    std::istringstream sortie(sortieDe(moi + " " + nom + " " + corpus));
+    std::vector<double> valeurs;
+    for (double valeur; sortie >> valeur;)
+        valeurs.push_back(valeur);
+    return valeurs;
 }
 
 } // namespace bancs

@@ -1,15 +1,11 @@
 // The jobs with windows: timeline, scroll, an interview's opening, the start.
 #include "Donnees.h"
+#include "Fenetres.h"
 #include "Mesure.h"
 
-#include "app/Demarrage.h"
-#include "window/ui/Toile.h"
+#include <QWheelEvent>
 
-#include <QtTest>
-
-#include <chrono>
 #include <filesystem>
-#include <optional>
 
 namespace bancs {
 
@@ -18,80 +14,56 @@ using namespace vermo;
 
 namespace {
 
-/// A corpus open in the program's own windows, at 1920 x 1080.
-class CorpusOuvert {
-  public:
-    CorpusOuvert(Programme& programme, const std::string& crp) : programme_(programme) {
-        auto& emplacements = programme.hote().plateforme().emplacements;
-        emplacements.programme = fs::path(crp).parent_path().string() + "/";
-        programme.session().corpus = {};
-        programme.session().corpus.CheminCorpus = crp;
-        programme.session().corpus.OuvertureDirecte = true;
-        programme.application().montrer(Fenetre::FrmCorpus);
-        corpus().resize(1920, 1080);
-        programme.application().OuvrirCorpus();
-        (void)QTest::qWaitForWindowExposed(&corpus());
-        QTest::qWait(50);
-    }
-    ~CorpusOuvert() {
-        programme_.application().decharger(Fenetre::FrmCorpus),
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    CorpusOuvert(const CorpusOuvert&) = delete;
-    CorpusOuvert& operator=(const CorpusOuvert&) = delete;
+/// The timeline laid out and painted, once.
+double redessiner(Programme& programme, CorpusOuvert& ouvert) {
+    return chronometrer([&] {
+        programme.application().annoncer({Sujet::Bascules});
+        ouvert.corpus().repaint();
+    });
+}
 
-    QWidget& corpus() {
-        for (QWidget* fenetre : QApplication::topLevelWidgets())
-            if (fenetre->objectName() == QLatin1String("FrmCorpus")) return *fenetre;
-        throw std::runtime_error("no corpus window");
-    }
-    Toile& rangees() { return *corpus().findChild<Toile*>(QStringLiteral("Frm_entretiens")); }
+/// One notch of the wheel, up to the painted rows.
+double defiler(CorpusOuvert& ouvert, int crans) {
+    Toile& toile = ouvert.rangees();
+    const QPointF milieu = toile.rect().center();
+    QWheelEvent molette(milieu, toile.mapToGlobal(milieu), {}, {0, 120 * crans}, Qt::NoButton, {},
+                        Qt::NoScrollPhase, false);
+    return chronometrer([&] {
+        QCoreApplication::sendEvent(&toile, &molette);
+        toile.repaint();
+    });
+}
 
-    /// The timeline laid out and painted, once.
-    double redessiner() {
-        return chronometrer([this] {
-            programme_.application().RedessinerPistes();
-            corpus().repaint();
-        });
-    }
-
-    /// One notch of the wheel, up to the painted rows.
-    double defiler(int crans) {
-        Toile& toile = rangees();
-        const QPointF milieu = toile.rect().center();
-        QWheelEvent molette(milieu, toile.mapToGlobal(milieu), {}, {0, 120 * crans}, Qt::NoButton, {},
-                            Qt::NoScrollPhase, false);
-        return chronometrer([&] {
-            QCoreApplication::sendEvent(&toile, &molette);
-            toile.repaint();
-        });
-    }
-
-  private:
-    Programme& programme_;
-};
-
-/// Median of many redraws or scroll steps, the first few left out.
-double medianeDe(int fois, const std::function<double(int)>& mesure) {
-    std::vector<double> valeurs;
-    for (int i = 0; i < fois; ++i)
-        valeurs.push_back(mesure(i));
-    valeurs.erase(valeurs.begin(), valeurs.begin() + fois / 5);
-    return mediane(valeurs);
+/// One click on a zoom button, up to the painted window.
+double zoomer(CorpusOuvert& ouvert, const char* bouton) {
+    return chronometrer([&] {
+        controle(ouvert.corpus(), bouton).click();
+        ouvert.corpus().repaint();
+    });
 }
 
 double redessins(Programme& programme, const std::string& crp) {
     CorpusOuvert ouvert(programme, crp);
-    return medianeDe(25, [&](int) { return ouvert.redessiner(); });
+    return medianeDe(25, [&](int) { return redessiner(programme, ouvert); });
+}
+
+/// Rows of 450 twips: the small corpus scrolls too, and both show the same number of them.
+void rangeesBasses(Programme& programme) {
+    programme.session().corpus.HauteurEntretien = 450;
+    programme.application().annoncer({Sujet::Entretiens});
+    programme.application().annoncer({Sujet::Bascules});
 }
 
 double defilements(Programme& programme, const std::string& crp) {
     CorpusOuvert ouvert(programme, crp);
-    // Zoomed in as far as needed for the small corpus to scroll; the same rows a screen in both.
-    programme.session().corpus.HauteurEntretien = 450;
-    programme.application().RedessinerFrise();
-    programme.application().RedessinerPistes();
-    return medianeDe(40, [&](int i) { return ouvert.defiler(i % 10 < 5 ? -1 : 1); });
+    rangeesBasses(programme);
+    return medianeDe(40, [&](int i) { return defiler(ouvert, i % 10 < 5 ? -1 : 1); });
+}
+
+double zooms(Programme& programme, const std::string& crp) {
+    CorpusOuvert ouvert(programme, crp);
+    rangeesBasses(programme);
+    return medianeDe(20, [&](int i) { return zoomer(ouvert, i % 2 == 0 ? "ImgZoom0" : "ImgZoom1"); });
 }
 
 Resultat frise(Programme& programme, const std::string& donnees) {
@@ -106,62 +78,30 @@ Resultat defilement(Programme& programme, const std::string& donnees) {
     return {.notre = grand, .autre = petit, .aCote = "our own 40 x 120", .atteinte = 1.5};
 }
 
-/// Notes when a window that is to come has been painted for the first time.
-class GuetteurDeDessin : public QObject {
-  public:
-    explicit GuetteurDeDessin(QString nom) : nom_(std::move(nom)) { qApp->installEventFilter(this); }
-    std::optional<std::chrono::steady_clock::time_point> peinte;
-
-  protected:
-    bool eventFilter(QObject* objet, QEvent* evenement) override {
-        // What is posted during a paint comes once the window and its children stand on the screen.
-        if (evenement->type() == QEvent::Paint && objet->objectName() == nom_)
-            QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
-        return false;
-    }
-    bool event(QEvent* evenement) override {
-        if (evenement->type() == QEvent::User && !peinte) peinte = std::chrono::steady_clock::now();
-        return QObject::event(evenement);
-    }
-
-  private:
-    QString nom_;
-};
-
-double jusquAuDessin(const QString& nom, const std::function<void()>& action) {
-    GuetteurDeDessin guetteur(nom);
-    const auto debut = std::chrono::steady_clock::now();
-    action();
-    while (!guetteur.peinte)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return std::chrono::duration<double>(*guetteur.peinte - debut).count();
-}
-
-/// A bare Qt window as large as the interview's, opened second in the running process, to its first paint.
-double fenetreNue() {
-    std::optional<QWidget> fenetre;
-    return jusquAuDessin(QStringLiteral("nue"), [&] {
-        fenetre.emplace();
-        fenetre->setObjectName(QStringLiteral("nue"));
-        fenetre->resize(1668, 969);
-        fenetre->show();
-    });
+Resultat zoom(Programme& programme, const std::string& donnees) {
+    const double grand = zooms(programme, corpusDe(donnees, 999, 999));
+    const double petit = zooms(programme, corpusDe(donnees, 40, 120));
+    return {.notre = grand, .autre = petit, .aCote = "our own 40 x 120", .atteinte = 2};
 }
 
 double ouvrirEntretien(Programme& programme) {
-    const double duree = jusquAuDessin(
-        QStringLiteral("FrmVisu"), [&] { programme.application().ouvrirEntretien(1, Ouverture::SansFondu); });
-    QTest::qWait(200);
+    const double duree = jusquAuDessin("FrmVisu", [&] {
+        programme.application().montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
+    });
+    laisser(200);
     programme.application().decharger(Fenetre::FrmVisu);
-    QTest::qWait(800); // the corpus window idles
+    laisser(800); // the corpus window idles
     return duree;
 }
 
 Resultat entretien(Programme& programme, const std::string& donnees) {
     CorpusOuvert ouvert(programme, corpusDe(donnees, 40, 120));
-    QTest::qWait(800); // the corpus window idles
+    laisser(800); // the corpus window idles
     const Paire paire = apparier(
-        7, [&] { return ouvrirEntretien(programme); }, fenetreNue);
+        7, [&] { return ouvrirEntretien(programme); },
+        [] {
+            return fenetreNue({1668, 969});
+        });
     return {.notre = paire.notre,
             .autre = paire.autre,
             .aCote = "first paint of a bare Qt window opened second",
@@ -197,14 +137,10 @@ Resultat memoireRepos(Programme&, const std::string&) {
 } // namespace
 
 std::vector<NomTravail> travauxFenetres(Programme& programme) {
-    const auto avec = [&programme](Resultat (*travail)(Programme&, const std::string&)) {
-        return [&programme, travail](const std::string& donnees) { return travail(programme, donnees); };
-    };
-    return {{"frise-999x999", avec(frise)},
-            {"defilement-999x999", avec(defilement)},
-            {"entretien-cache", avec(entretien)},
-            {"demarrage", avec(demarrage)},
-            {"memoire-repos", avec(memoireRepos)}};
+    const auto avec = [&programme](auto* travail) { return lier(programme, travail); };
+    return {{"frise-999x999", avec(frise)}, {"defilement-999x999", avec(defilement)},
+            {"zoom-999x999", avec(zoom)},   {"entretien-cache", avec(entretien)},
+            {"demarrage", avec(demarrage)}, {"memoire-repos", avec(memoireRepos)}};
 }
 
 } // namespace bancs

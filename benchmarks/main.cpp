@@ -36,8 +36,9 @@ void imprimer(const bancs::Resultat& r) {
 
 int main(int argc, char** argv) {
     vermo::Programme programme(argc, argv, "null");
-    if (argc == 3 && std::string(argv[1]) == "--balayer") {
-        std::printf("%.0f\n", bancs::balayerDansUnFils(argv[2]));
+    for (const auto& [nom, mesure] : bancs::mesuresSeules()) {
+        if (argc != 3 || std::string(argv[1]) != nom) continue;
+        mesure(programme, argv[2]);
         return 0;
     }
     if (argc < 3) {
@@ -47,8 +48,9 @@ int main(int argc, char** argv) {
     std::filesystem::create_directories(argv[1]);
     std::vector<std::string> lignes;
     auto travaux = bancs::travauxFichiers();
-    for (auto& travail : bancs::travauxFenetres(programme))
-        travaux.push_back(travail);
+    for (auto* autres : {bancs::travauxFenetres, bancs::travauxAttente, bancs::travauxRepos})
+        for (auto& travail : autres(programme))
+            travaux.push_back(travail);
     for (const auto& [nom, travail] : travaux) {
         if (!voulu(nom, argc, argv)) continue;
         bancs::Resultat resultat = travail(argv[1]);

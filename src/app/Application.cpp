@@ -18,7 +18,10 @@ Application::Application(Session& session, Plateforme& plateforme,
     repos_.setSingleShot(true);
     repos_.setInterval(reposMs);
     connect(&repos_, &QTimer::timeout, this, [this] {
-        if (Forme* corpus = formes_.ouverte(Fenetre::FrmCorpus)) corpus->garder([this] { preparerVisu(); });
+        if (Forme* corpus = formes_.ouverte(Fenetre::FrmCorpus))
+            corpus->garder([this] { preparerVisu(); });
+        else if (Forme* intro = formes_.ouverte(Fenetre::FrmIntro))
+            intro->garder([this] { formes_.mettreEnReserve(Fenetre::FrmCorpus); });
     });
 }
 
@@ -28,6 +31,7 @@ Application::~Application() {
 
 void Application::demarrer() {
     montrer(Fenetre::FrmIntro);
+    repos_.start();
 }
 
 FrmCorpus& Application::corpus() {

@@ -55,6 +55,7 @@ class Application final : public QObject, public Fenetres {
     void montrerEtape(Etape etape);
     void rouvrirCorpus();
     void suivreListe(const SuiteListe& suite);
+    void montrerCorpusVide();
     void importer();
     void ouvrirEntretien(const EntretienVoulu& voulu);
     void montrerEntretien(Ouverture ouverture);
@@ -67,7 +68,7 @@ class Application final : public QObject, public Fenetres {
     std::function<void(QProgressBar*)> brancherProgression_;
     Formes formes_;
     bool importEnCours_ = false;
-    QTimer repos_; ///< runs out when an interview may be opened next
+    QTimer repos_; ///< runs out when a corpus or an interview may be opened next
 };
 
 } // namespace vermo

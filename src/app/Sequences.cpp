@@ -6,8 +6,12 @@
 #include "sequences/Import.h"
 #include "sequences/Ouverture.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QTimer>
+#include <QWindow>
 
 namespace vermo {
 
@@ -18,12 +22,15 @@ void Application::NouveauCorpus() {
 }
 
 void Application::OuvrirCorpus() {
+    const auto progression = qScopeGuard([this] { plateforme_.progression.fin(); });
     const Spectateur spectateur{corpus().hauteurFond(), [this](Etape etape) { montrerEtape(etape); }};
     if (ouvrirCorpus(session_, plateforme_, spectateur) == IssueOuverture::Ouverte) repos_.start();
 }
 
 void Application::montrerEtape(Etape etape) {
     switch (etape) {
+    case Etape::Debut:
+        return montrerCorpusVide();
     case Etape::Vide:
         return corpus().viderAffichage();
     case Etape::Thematiques:
@@ -33,6 +40,18 @@ void Application::montrerEtape(Etape etape) {
     case Etape::Pistes:
         return corpus().montrerPistes();
     }
+}
+
+/// The window on the screen before the files are read: empty, and its bar says that there is more to come.
+void Application::montrerCorpusVide() {
+    constexpr int attenteMs = 200;
+    if (visible(Fenetre::FrmCorpus)) return;
+    montrer(Fenetre::FrmCorpus);
+    plateforme_.progression.montrer();
+    const QDeadlineTimer limite(attenteMs);
+    QTimer::singleShot(attenteMs, &corpus(), [] {}); // wakes the loop when the system doesn't show the window
+    while (!corpus().windowHandle()->isExposed() && !limite.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
 }
 
 /// What is on the disk counts again, without a question.

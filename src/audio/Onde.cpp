@@ -16,6 +16,7 @@ namespace {
 constexpr std::size_t TAILLE_ENTETE = 44;
 constexpr std::size_t TAILLE_DEBUT = 255;
 constexpr long PAS_AVANCE = 360;
+constexpr long POINTS_ANNONCES = 256;
 
 std::int16_t echantillon16(const unsigned char* octets) {
     return static_cast<std::int16_t>(octets[0] | octets[1] << 8);
@@ -65,6 +66,10 @@ std::size_t FichierOnde::lire(std::int64_t position, void* octets, std::size_t t
     return position < 1 ? 0 : source_.lireA(position - 1, static_cast<char*>(octets), taille);
 }
 
+void FichierOnde::annoncer(std::int64_t position, std::size_t taille) const noexcept {
+    if (position >= 1) source_.annoncer(position - 1, taille);
+}
+
 LieuDonnees localiserDonnees(const FichierOnde& fichier) {
     std::array<char, TAILLE_DEBUT> DebutFichier{};
     const std::size_t lus = fichier.lire(1, DebutFichier.data(), DebutFichier.size());
@@ -96,6 +101,12 @@ namespace {
 class LectureSerree {
   public:
     LectureSerree(const FichierOnde& fichier, std::int64_t pas) : fichier_(fichier), serree_(pas <= 512) {}
+
+    /// What is to be read later: the disk fetches many points at once, or one after the other if it is asked
+    /// for them one by one. Points that lie close together come in blocks, which the system reads ahead.
+    void annoncer(std::int64_t position, std::size_t taille) const {
+        if (!serree_) fichier_.annoncer(position, taille);
+    }
 
     std::size_t lire(std::int64_t position, unsigned char* octets, std::size_t taille) {
         if (!serree_) return fichier_.lire(position, octets, taille);
@@ -141,9 +152,13 @@ void lirePoints(const FichierOnde& fichier, const EnTeteWav& entete, const Empan
             points.octets[static_cast<std::size_t>(i)] = *octets;
     };
     LectureSerree lecture(fichier, pas.PasOctets);
+    const auto place = [&](long i) { return pas.PosDonnees + i * pas.PasOctets; };
+    long annonces = 0;
     for (long i = 0; i <= largeur - 2; ++i) {
+        for (; annonces <= std::min(i + POINTS_ANNONCES, largeur - 2); ++annonces)
+            lecture.annoncer(place(annonces), 2 * taille);
         std::array<unsigned char, 4> octets{};
-        const std::size_t lus = lecture.lire(pas.PosDonnees + i * pas.PasOctets, octets.data(), 2 * taille);
+        const std::size_t lus = lecture.lire(place(i), octets.data(), 2 * taille);
         if (lus >= taille) ranger(i, octets.data());
         if (lus == 2 * taille) ranger(largeur + i, octets.data() + taille);
         if (avance && i % PAS_AVANCE == 0) avance(i);

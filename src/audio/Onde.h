@@ -36,6 +36,9 @@ class FichierOnde {
     /// Reads at a position counted from 1. Gives the number of bytes read, 0 when there are none.
     std::size_t lire(std::int64_t position, void* octets, std::size_t taille) const noexcept;
 
+    /// Tells the system that these bytes are to be read soon; waits for nothing.
+    void annoncer(std::int64_t position, std::size_t taille) const noexcept;
+
   private:
     Source source_;
 };

@@ -71,24 +71,28 @@ std::optional<FauteExecution> lireTable(ExtraitsEntretien& table, const Utf8& ch
 
 /// What comes of one interview's files before anything is told of them.
 struct Releve {
-    std::optional<DatesDeFichier> dates; ///< of the recording
+    std::optional<DatesDeFichier> dates;  ///< of the recording
+    std::optional<IdentiteFichier> neuve; ///< of a transcript that isn't the one that was read last
     std::optional<FauteExecution> faute;
     std::exception_ptr autre; ///< no fault of the file, as memory that runs out
 };
 
-/// The recording's dates, and the transcript again if it isn't the one that was read last.
-Releve relever(ExtraitsEntretien& table, const Fichiers& fichiers, const Reglages& reglages) noexcept {
+Releve relever(const ExtraitsEntretien& table, const Fichiers& fichiers) {
     Releve releve;
+    releve.dates = datesFichier(fichiers.enregistrement);
+    if (!fichiers.rtr) return releve;
+    const IdentiteFichier identite = identiteFichier(*fichiers.rtr);
+    if (table.chemin != *fichiers.rtr || table.identite != identite) releve.neuve = identite;
+    return releve;
+}
+
+void lireNeuve(Releve& releve, ExtraitsEntretien& table, const Utf8& chemin,
+               const Reglages& reglages) noexcept {
     try {
-        releve.dates = datesFichier(fichiers.enregistrement);
-        if (!fichiers.rtr) return releve;
-        const IdentiteFichier identite = identiteFichier(*fichiers.rtr);
-        if (table.chemin != *fichiers.rtr || table.identite != identite)
-            releve.faute = lireTable(table, *fichiers.rtr, identite, reglages);
+        releve.faute = lireTable(table, chemin, *releve.neuve, reglages);
     } catch (...) {
         releve.autre = std::current_exception();
     }
-    return releve;
 }
 
 /// Calls `faire` with 0 to `nombre` - 1, each once, on as many threads as the machine runs at a time.
@@ -144,6 +148,24 @@ void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const
     prendreTable(entretien, table);
 }
 
+/// Up to LOT interviews from `debut` on. Threads come for transcripts that are to be read, not to find that
+/// none is.
+std::vector<Releve> releverLot(EtatCorpus& corpus, const std::vector<Fichiers>& fichiers, int premier,
+                               std::size_t debut, const Reglages& reglages) {
+    std::vector<Releve> releves(std::min(LOT, fichiers.size() - debut));
+    std::vector<std::size_t> aLire;
+    ExtraitsEntretien* tables = &ligneDe(corpus.extraits, premier + static_cast<int>(debut));
+    for (std::size_t i = 0; i < releves.size(); ++i) {
+        releves[i] = relever(tables[i], fichiers[debut + i]);
+        if (releves[i].neuve) aLire.push_back(i);
+    }
+    enParallele(aLire.size(), [&](std::size_t k) {
+        const std::size_t i = aLire[k];
+        lireNeuve(releves[i], tables[i], *fichiers[debut + i].rtr, reglages);
+    });
+    return releves;
+}
+
 } // namespace
 
 void AnalyserEntretiens(Session& session, Plateforme& plateforme, int premier, int dernier) {
@@ -158,11 +180,7 @@ void AnalyserEntretiens(Session& session, Plateforme& plateforme, int premier, i
     reprendreAnciens(corpus, fichiers, premier);
     std::vector<Releve> releves;
     for (std::size_t debut = 0; debut < fichiers.size(); debut += releves.size()) {
-        releves.assign(std::min(LOT, fichiers.size() - debut), {});
-        enParallele(releves.size(), [&](std::size_t i) {
-            releves[i] = relever(ligneDe(corpus.extraits, premier + static_cast<int>(debut + i)),
-                                 fichiers[debut + i], session.reglages);
-        });
+        releves = releverLot(corpus, fichiers, premier, debut, session.reglages);
         for (std::size_t i = 0; i < releves.size(); ++i) {
             const int slot = premier + static_cast<int>(debut + i);
             analyserEntretien(session, plateforme, slot, fichiers[debut + i], releves[i]);

@@ -27,8 +27,29 @@ constexpr bool enMouvement(EtatLecture etat) {
     return etat >= EtatLecture::Lecture && etat <= EtatLecture::RetourRapide;
 }
 
-/// A listener to the state of the player: hears it for as long as this is held.
-using Ecoute = std::shared_ptr<const std::function<void(EtatLecture)>>;
+/// Listens for as long as it is held.
+using Ecoute = std::shared_ptr<const void>;
+
+/// Those who listen to one thing, told in the order in which they came. One may come or go while it is told.
+template <class... Arguments>
+class Ecoutes {
+  public:
+    using Action = std::function<void(Arguments...)>;
+
+    [[nodiscard]] Ecoute ajouter(Action action) {
+        auto ecoute = std::make_shared<const Action>(std::move(action));
+        presentes_.push_back(ecoute);
+        return ecoute;
+    }
+    void dire(Arguments... arguments) {
+        std::erase_if(presentes_, [](const auto& presente) { return presente.expired(); });
+        for (const auto& presente : std::vector(presentes_))
+            if (const auto action = presente.lock()) (*action)(arguments...);
+    }
+
+  private:
+    std::vector<std::weak_ptr<const Action>> presentes_;
+};
 
 /// The media control: plays one file. Windows poll it; only state changes are told. It belongs to the window
 /// that last gave it a file; any number of windows may listen.
@@ -75,12 +96,14 @@ class LecteurMedia {
     /// True when there is no sound device: it plays silently.
     virtual bool muet() const = 0;
 
-    /// `action` is called after each change of `playState`, on the interface thread; listeners in the order
-    /// in which they came.
+    /// `action` is called after each change of `playState`, on the interface thread.
     [[nodiscard]] Ecoute ecouter(std::function<void(EtatLecture)> action) {
-        auto ecoute = std::make_shared<const std::function<void(EtatLecture)>>(std::move(action));
-        ecoutes_.push_back(ecoute);
-        return ecoute;
+        return etats_.ajouter(std::move(action));
+    }
+    /// `action` is called after each position that is asked for: who follows a player that stands still looks
+    /// then.
+    [[nodiscard]] Ecoute ecouterDeplacements(std::function<void()> action) {
+        return deplacements_.ajouter(std::move(action));
     }
 
     bool enLecture() const { return playState() == EtatLecture::Lecture; }
@@ -88,16 +111,13 @@ class LecteurMedia {
   protected:
     virtual void ouvrir(const Utf8& chemin) = 0;
 
-    /// Tells the listeners. One may come or go while it is told.
-    void annoncerEtat(EtatLecture etat) {
-        std::erase_if(ecoutes_, [](const auto& ecoute) { return ecoute.expired(); });
-        for (const auto& presente : std::vector(ecoutes_))
-            if (const Ecoute ecoute = presente.lock()) (*ecoute)(etat);
-    }
+    void annoncerEtat(EtatLecture etat) { etats_.dire(etat); }
+    void annoncerDeplacement() { deplacements_.dire(); }
 
   private:
     std::optional<Fenetre> proprietaire_;
-    std::vector<std::weak_ptr<const std::function<void(EtatLecture)>>> ecoutes_;
+    Ecoutes<EtatLecture> etats_;
+    Ecoutes<> deplacements_;
 };
 
 } // namespace vermo

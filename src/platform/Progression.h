@@ -8,6 +8,8 @@ constexpr const char* ATTENTE_DUREE = "La durée du fichier se fait attendre..."
 class Progression {
   public:
     virtual ~Progression() = default;
+    /// Shows at once that there is something to wait for, before it is known how much.
+    virtual void montrer() {}
     virtual void debut(long minimum, long maximum) = 0;
     /// Shows the value and lets the windows repaint. Cheap enough to be called at every step of a scan.
     virtual void avance(long valeur) = 0;

@@ -14,6 +14,7 @@ namespace {
 
 /// False when the corpus could not be opened: the window stays emptied and its pointer the hourglass.
 bool lireCorpus(Session& session, Plateforme& plateforme, const Spectateur& spectateur) {
+    spectateur.montrer(Etape::Debut);
     nommerCorpus(session);
     MettreAJourProjets(session, plateforme);
     viderCorpus(session);

@@ -14,6 +14,7 @@ namespace vermo {
 
 /// What an opening has just made ready to be shown.
 enum class Etape {
+    Debut,       ///< nothing yet: a corpus was chosen, and long work begins
     Vide,        ///< nothing of the corpus that was open is left
     Thematiques, ///< the thematic table
     Frise,       ///< the interviews, scanned, and the height of their rows

@@ -100,6 +100,18 @@ TEST(FrmVisu, FollowsThePlayerAndTurnsThePage) {
     EXPECT_EQ(essai.session.corpus.Entretiens[1].Reprise, 61);
 }
 
+TEST(FrmVisu, FollowsThePlayerOnlyWhileItPlays) {
+    EntretienDEssai essai(60);
+    ASSERT_TRUE(essai.ouvrir());
+    const auto* timer = essai.visu->findChild<QTimer*>(QStringLiteral("Timer1"));
+    for (const bool joue : {false, true, false}) {
+        joue ? essai.plateforme.media.play() : essai.plateforme.media.pause();
+        EXPECT_TRUE(timer->isActive()) << "once more, to show what the change brought";
+        essai.visu->Timer1_Tick();
+        EXPECT_EQ(timer->isActive(), joue);
+    }
+}
+
 TEST(FrmVisu, KeysDriveThePlayerAndTheZoom) {
     EntretienDEssai essai(600);
     ASSERT_TRUE(essai.ouvrir());

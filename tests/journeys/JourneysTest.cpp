@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <algorithm>
 #include <cerrno>
+#include <cmath>
 
 namespace vermo {
 namespace {
@@ -130,6 +131,20 @@ TEST_F(JourneysTest, AnExtractMarkedAndTypedIsOnTheTimelineAfterTheClosing) {
     EXPECT_EQ(extraits(1), 2);
     EXPECT_EQ(CorpusTexte(session, 1, 2), "bonjour\r");
     EXPECT_TRUE(forme("FrmCorpus").isEnabled());
+}
+
+TEST_F(JourneysTest, TheOpenExtractShowsWhereAPausedPlayerIsSent) {
+    ouvrirCorpus();
+    app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
+    app.montrer(Fenetre::FrmSaisie, ExtraitVoulu{1}); // 1 s to 3 s
+    hote.media.pause();
+    auto* onde = membre<Toile>(forme("FrmSaisie"), "Pict_saisie");
+    for (const double part : {0.25, 0.75, 0.5}) {
+        hote.media.currentPosition(1 + 2 * part);
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            return std::abs(onde->elements().back().cadre.gauche - part * onde->largeurTwips()) < 30;
+        })) << part;
+    }
 }
 
 TEST_F(JourneysTest, NothingOpensOverATextThatIsBeingTyped) {

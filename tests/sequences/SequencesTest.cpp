@@ -27,11 +27,12 @@ struct Sequences : testing::Test {
         essai.corpus().OuvertureDirecte = true;
     }
     IssueOuverture ouvrir() {
-        return ouvrirCorpus(essai.session, essai.hote,
-                            {3000, [this](Etape etape) {
-                                 constexpr const char* NOMS[] = {"vide", "thematiques", "frise", "pistes"};
-                                 etapes.push_back(NOMS[static_cast<int>(etape)]);
-                             }});
+        return ouvrirCorpus(
+            essai.session, essai.hote,
+            {3000, [this](Etape etape) {
+                 constexpr const char* NOMS[] = {"debut", "vide", "thematiques", "frise", "pistes"};
+                 etapes.push_back(NOMS[static_cast<int>(etape)]);
+             }});
     }
     std::string crp() const { return lireFichier(essai.dossier().chemin("c/Essai.Crp")); }
 };
@@ -56,12 +57,15 @@ TEST_F(Sequences, AnOpeningShowsItsStepsAsFarAsItComes) {
     using Lignes = std::vector<std::string>;
     const std::string entier = crp();
     const std::tuple<std::string, IssueOuverture, Lignes, Pointeur> cas[] = {
-        {entier, IssueOuverture::Ouverte, {"vide", "thematiques", "frise", "pistes"}, Pointeur::Normal},
+        {entier,
+         IssueOuverture::Ouverte,
+         {"debut", "vide", "thematiques", "frise", "pistes"},
+         Pointeur::Normal},
         {entier.substr(0, entier.find("<|ENTR|")),
          IssueOuverture::Echouee,
-         {"vide", "thematiques"},
+         {"debut", "vide", "thematiques"},
          Pointeur::Sablier},
-        {"Projet\r\n", IssueOuverture::Echouee, {"vide"}, Pointeur::Sablier}};
+        {"Projet\r\n", IssueOuverture::Echouee, {"debut", "vide"}, Pointeur::Sablier}};
     for (const auto& [octets, issue, montrees, pointeur] : cas) {
         essai.dossier().ecrire("c/Essai.Crp", octets);
         etapes.clear();

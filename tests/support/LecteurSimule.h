@@ -63,6 +63,7 @@ class LecteurSimule : public LecteurMedia {
         noter("position", secondes);
         position_ =
             etat_ == EtatLecture::Chargement ? std::max(0.0, secondes) : std::clamp(secondes, 0.0, duree_);
+        annoncerDeplacement();
     }
     double duration() const override { return duree_; }
     int volume() const override { return volume_; }

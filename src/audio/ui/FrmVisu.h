@@ -1,17 +1,17 @@
 #pragma once
 #include "audio/ImageOnde.h"
 #include "audio/Suivi.h"
+#include "audio/ui/ToileLecture.h"
+#include "audio/ui/ToileVue.h"
+#include "audio/ui/ToileZoom.h"
 #include "transcription/Marquage.h"
 #include "window/Fenetres.h"
 #include "window/ui/CapteurTouches.h"
 #include "window/ui/Forme.h"
-#include "window/ui/Theme.h"
-#include "window/ui/Toile.h"
 
 #include <QLabel>
 #include <QTimer>
 #include <array>
-#include <vector>
 
 class QKeyEvent;
 
@@ -48,7 +48,6 @@ class FrmVisu : public Forme {
     void Timer3_Tick();    ///< fades window and sound
     void TimerPlus_Tick(); ///< moves the span while the button is held
     void TimerMoins_Tick();
-    void Timtrait_Tick(); ///< unrolls the extract's text
 
   protected:
     void changeEvent(QEvent* evenement) override;
@@ -57,21 +56,23 @@ class FrmVisu : public Forme {
     void paintEvent(QPaintEvent* evenement) override;
 
   private:
-    // FrmVisu.cpp: controls, places, opening.
+    // FrmVisu.cpp: opening.
+    void reglerTimers();
+    bool attendreDuree();
+    void commencerFondu(Ouverture ouverture);
+    Entretien& entretien();
+
+    // FrmVisuControles.cpp: controls and their places.
     void creerControles();
+    void creerEtiquettes();
     void creerBoutons();
     BoutonImage* creerBouton(const char* nom, const char* icone, const char* bulle,
                              void (FrmVisu::*action)());
     void disposer();
     void disposerTitre(Twips L);
     void brancherTitre();
-    void reglerTimers();
-    bool attendreDuree();
-    void commencerFondu(Ouverture ouverture);
-    Entretien& entretien();
 
     // FrmVisuImages.cpp: pictures and rulers.
-    Utf8 cheminCache() const; ///< the picture of Picture1, beside the recording
     void remplirVue();
     void DessinerVueEtCache(const Utf8& cache);
     void dessinerRegleEnVue(const Utf8& cache);
@@ -79,36 +80,22 @@ class FrmVisu : public Forme {
     QImage ondeZoom();
     double densite() const; ///< device pixels a twip
 
-    // FrmVisuExtraits.cpp: shapes and the extract told.
-    void deplacerForme(Toile& toile, Controle controle, Etendue place, bool visible = true);
-    void cacherForme(Toile& toile, Controle controle);
-    void cacherSelections();
-    void suivreShpVisu();
-    void placerCurseurZoom(Twips largeur);
-    void AfficherBulleExtrait(int k);
-    void entourer(int k);
-    void poserLblXtrBulle(int k);
-
-    // FrmVisuVue.cpp: gestures on the overview.
-    void brancherVue();
-    void presserVue(const Souris& souris);
-    void survolerVue(const Souris& souris);
-    void relacherVue(const Souris& souris);
-    void allerSurVue(Twips debut, Twips x);
-    void direExtraitSous(Twips x);
-    void zoomerExtrait(int k);
-
-    // FrmVisuZoom.cpp: gestures on the zoom band.
-    void brancherZoom();
-    void presserZoom(const Souris& souris);
-    void survolerZoom(const Souris& souris);
-    void glisserSelection(Twips x);
-    void relacherZoom(const Souris& souris);
-    void creerExtrait(Twips x);
+    // FrmVisuGestes.cpp: what the mouse asks for.
+    template <class... Valeurs>
+    auto ouverte(void (FrmVisu::*action)(Valeurs...));
+    void brancherImages();
+    void survolerExtrait(int k, bool surBarre);
+    void choisir(const GesteVue& geste);
+    void agir(const GesteZoom& geste);
+    void selectionner(Twips& debut, Twips x);
+    void rouler(int crans, Qt::KeyboardModifiers touches);
     void chercher(Twips x);
-    void presserElement(const Element& element, Twips x);
-    void deplacerPoignee(Twips x);
-    void relacherPoignee(bool debut, Twips x);
+    void cacherSelections();
+
+    // FrmVisuExtraits.cpp: extracts told, made, moved, opened.
+    void AfficherBulleExtrait(int k);
+    void zoomerExtrait(int k);
+    void creerExtrait(Bornes voulues);
     void poserBorne(int k, bool debut, double v);
     void refuserEnglobement();
     void ouvrirExtrait(int k);
@@ -140,35 +127,22 @@ class FrmVisu : public Forme {
     void decalerBorne(bool debut, double secondes);
     void sauterSurVue(double secondes);
 
-    Toile *Picture1_, *Pict_tps_, *PictLect_, *Pict_zoom_, *Pict_tpsZ_, *PictVol_, *Imagetitre_;
+    ToileVue* Picture1_;
+    ToileLecture* PictLect_;
+    ToileZoom* Pict_zoom_;
+    Toile *Imagetitre_, *Pict_tps_, *Pict_tpsZ_, *PictVol_;
     QWidget* Frm_zoom_;
     std::array<BoutonImage*, 7> ImgMedia_{}; ///< members 1 to 6
     BoutonImage *ImgCroix_, *ImgCorpus_;
-    QLabel *LblCompteur_, *lblfich_, *LblXtrBulle_, *lblEtat_;
+    QLabel *LblCompteur_, *lblfich_, *lblEtat_;
     CapteurTouches* TxtCtrl_;
-    QTimer Timer1_, Timer3_, TimerPlus_, TimerMoins_, Timtrait_;
+    QTimer Timer1_, Timer3_, TimerPlus_, TimerMoins_;
 
-    Ecoute ecoute_; ///< of the player, once an interview is opened
-    MetriquesQt metriques_;
     PointsOnde PointsVue_, PointsZoom_;
+    Ecoute ecoute_;              ///< of the player, once an interview is opened
     bool dessinEnCours_ = false; ///< the progress shown meanwhile lets other ticks in
     bool ferme_ = false;         ///< the closing fade runs, or is done
     bool marqueDemarre_ = false; ///< the Enter key has started the player and set the mark
-    int extraitDit_ = 0;         ///< extract told in PictLect; 0: none
-    Twips RevelationBulle_ = 0;
-
-    /// What a press took hold of; the release belongs to it wherever it ends.
-    struct Prise {
-        Controle controle = Controle::Aucun;
-        int index = 0;
-        Twips gauche = 0;
-        bool tenue = false;
-    };
-    Prise priseVue_, priseZoom_;
-    Twips GlisseVueDebut_ = 0, GlisseVueFin_ = 0; ///< a start of 0: no press under way
-    Twips GlisseZoomDebut_ = 0, GlisseZoomFin_ = 0;
-    Twips PoigneeTenue_ = 0; ///< the handle's Left; 0: none
-    int IndexPoignee_ = 0, ExtraitPoignee_ = 0;
 };
 
 } // namespace vermo

@@ -1,8 +1,7 @@
 #include "audio/Regles.h"
-#include "audio/Zoom.h"
+#include "audio/Vues.h"
 #include "audio/ui/FrmVisu.h"
 #include "platform/Sablier.h"
-#include "textfile/chemins.h"
 #include "textfile/faute.h"
 #include "textfile/fichier.h"
 #include "transcription/Retranscription.h"
@@ -34,32 +33,24 @@ double FrmVisu::densite() const {
     return devicePixelRatioF() / TWIPS_PAR_PIXEL;
 }
 
-Utf8 FrmVisu::cheminCache() const {
-    return cheminReel(compagnon(plateforme_.media.URL(), "Bmp"));
-}
-
 void FrmVisu::remplirVue() {
-    const Utf8 cache = cheminCache();
+    const Utf8 enregistrement = plateforme_.media.URL(), cache = cheminCache(enregistrement);
     const QImage gardee = fichierExiste(cache) ? QImage(utf8VersQt(cache)) : QImage();
-    if (!gardee.isNull())
-        Picture1_->image(gardee.convertToFormat(QImage::Format_RGB32));
-    else if (estWav(plateforme_.media.URL()))
-        DessinerVueEtCache(cache);
-    else
-        dessinerRegleEnVue(cache);
+    switch (sourceVue(enregistrement, !gardee.isNull())) {
+    case SourceVue::Cache:
+        return Picture1_->image(gardee.convertToFormat(QImage::Format_RGB32));
+    case SourceVue::Onde:
+        return DessinerVueEtCache(cache);
+    case SourceVue::Regle:
+        return dessinerRegleEnVue(cache);
+    }
 }
 
 void FrmVisu::DessinerVueEtCache(const Utf8& cache) {
     const Twips largeur = Picture1_->largeurTwips();
     PointsVue_.allouer(static_cast<std::size_t>(2 * largeur) + 1);
     Bitmap8 image = fondUni(largeur, HAUTEUR_PICTURE1, densite(), theme::ONDE);
-    session_.audio.EnteteWav = dessinerOnde(image, 0,
-                                            {.vue = Vue::Picture1,
-                                             .fichier = plateforme_.media.URL(),
-                                             .empan = {},
-                                             .largeur = largeur,
-                                             .hauteur = HAUTEUR_PICTURE1,
-                                             .densite = densite()},
+    session_.audio.EnteteWav = dessinerOnde(image, 0, demandeVue(plateforme_.media.URL(), largeur, densite()),
                                             PointsVue_, &plateforme_.progression);
     Picture1_->image(versQImage(image));
     enregistrerCache(cache, image);
@@ -67,14 +58,12 @@ void FrmVisu::DessinerVueEtCache(const Utf8& cache) {
 
 void FrmVisu::dessinerRegleEnVue(const Utf8& cache) {
     Pict_tps_->dessin({});
-    const Texte nom = entretien().Fichier;
     QImage image(Picture1_->size() * devicePixelRatioF(), QImage::Format_RGB32);
     image.setDevicePixelRatio(devicePixelRatioF());
     image.fill(couleurQt(theme::ONDE));
     QPainter peintre(&image);
-    peindreDessin(peintre,
-                  dessinerRegleMinutes(session_.audio.DureeFichier, Picture1_->largeurTwips(),
-                                       nom.substr(nom.size() - std::min<std::size_t>(nom.size(), 3))));
+    peindreDessin(peintre, dessinerRegleMinutes(session_.audio.DureeFichier, Picture1_->largeurTwips(),
+                                                etiquetteRegle(entretien().Fichier)));
     peintre.end();
     Picture1_->image(image);
     enregistrerCache(cache, versBitmap8(image));
@@ -82,26 +71,18 @@ void FrmVisu::dessinerRegleEnVue(const Utf8& cache) {
 
 /// A directory that can't be written costs a message, not the opening.
 void FrmVisu::enregistrerCache(const Utf8& cache, const Bitmap8& image) {
-    if (fichierExiste(cache)) return;
-    garder([&] { remplacerFichier(cache, ecrireBmp(image)); });
+    garder([&] { garderCache(cache, image); });
 }
 
 QImage FrmVisu::ondeZoom() {
-    const EtatAudio& audio = session_.audio;
     const Twips largeur = Pict_zoom_->largeurTwips(), hauteur = Pict_zoom_->hauteurTwips();
     Bitmap8 image = fondZoom(largeur, hauteur, densite());
-    if (!estWav(plateforme_.media.URL())) return versQImage(image);
+    const Utf8 enregistrement = plateforme_.media.URL();
+    if (!estWav(enregistrement)) return versQImage(image);
     PointsZoom_.allouer(static_cast<std::size_t>(2 * largeur) + 1);
     try {
         session_.audio.EnteteWav =
-            dessinerOnde(image, 0,
-                         {.vue = Vue::Pict_zoom,
-                          .fichier = plateforme_.media.URL(),
-                          .empan = {.debut = audio.DebutZoom == 0 ? 0 : audio.DebutZoom / audio.DureeFichier,
-                                    .part = 1 / static_cast<double>(audio.FacteurZoom)},
-                          .largeur = largeur,
-                          .hauteur = hauteur,
-                          .densite = densite()},
+            dessinerOnde(image, 0, demandeZoom(session_.audio, enregistrement, largeur, hauteur, densite()),
                          PointsZoom_, &plateforme_.progression);
     } catch (const FauteExecution&) {
         // A recording that has gone leaves an empty band; the player's own line says so.

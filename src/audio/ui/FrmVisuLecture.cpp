@@ -12,20 +12,20 @@ namespace vermo {
 void FrmVisu::Timer1_Tick() {
     direEtatSon();
     LecteurMedia& media = plateforme_.media;
+    if (!media.enLecture()) Timer1_.stop(); // until its state changes
     if (ferme_ || !media.enLecture() || fenetres_.visible(Fenetre::FrmSaisie)) return;
     EtatAudio& audio = session_.audio;
     const double p = media.currentPosition();
     const SuiviLecture suivi = suivreLecture(audio, p, Picture1_->largeurTwips(), Pict_zoom_->largeurTwips());
     LblCompteur_->setText(versQt(suivi.LblCompteur));
-    placerCurseurZoom(suivi.largeurCurseurZoom);
-    if (suivi.TotalSelect) deplacerForme(*Picture1_, Controle::TotalSelect, *suivi.TotalSelect);
-    if (suivi.ZoomSelect) deplacerForme(*Pict_zoom_, Controle::ZoomSelect, *suivi.ZoomSelect);
-    if (suivi.pageFinie && GlisseZoomDebut_ == 0) {
+    Pict_zoom_->curseur(suivi.largeurCurseurZoom);
+    if (suivi.TotalSelect) Picture1_->montrerSelection(*suivi.TotalSelect);
+    if (suivi.ZoomSelect) Pict_zoom_->montrerSelection(*suivi.ZoomSelect);
+    if (suivi.pageFinie && !Pict_zoom_->glisse()) {
         tournerPage(audio, p);
-        suivreShpVisu();
-        DessinerZoom();
+        apresZoom();
     }
-    deplacerForme(*Picture1_, Controle::Curseur, {suivi.gaucheCurseur, TWIPS_PAR_PIXEL});
+    Picture1_->curseur(suivi.gaucheCurseur);
     entretien().Reprise = suivi.Reprise;
 }
 
@@ -67,6 +67,7 @@ void FrmVisu::TimerMoins_Tick() {
 
 void FrmVisu::Media_PlayStateChange(EtatLecture etat) {
     suivreVolume(session_.audio, plateforme_.media);
+    Timer1_.start();
     const bool joue = enMouvement(etat);
     ImgMedia_[4]->setVisible(joue);
     ImgMedia_[1]->setVisible(!joue);
@@ -102,7 +103,7 @@ void FrmVisu::empanAvant() {
 }
 
 void FrmVisu::apresZoom() {
-    suivreShpVisu();
+    Picture1_->suivreEmpan();
     DessinerZoom();
 }
 

@@ -59,7 +59,7 @@ bool FrmVisu::presserRaccourci(const QKeyEvent& touche) {
     else if (cle == Qt::Key_PageUp || cle == Qt::Key_PageDown)
         sauterSurVue(cle == Qt::Key_PageUp ? -GRILLE : GRILLE);
     else if (cle == Qt::Key_F2)
-        ouvrirExtrait(extraitDit_);
+        ouvrirExtrait(PictLect_->extraitDit());
     else if (cle == Qt::Key_F4 && !alt)
         montrerVolume();
     else if (cle == Qt::Key_Home && alt)
@@ -79,22 +79,23 @@ bool FrmVisu::relacherTouche(const QKeyEvent& touche) {
 void FrmVisu::extraitVoisin(int sens) {
     const int nombre = nombreExtraits(session_);
     if (nombre == 0) return;
-    const int k = std::clamp(extraitDit_ + sens, 1, nombre);
+    const int k = std::clamp(PictLect_->extraitDit() + sens, 1, nombre);
     zoomerExtrait(k);
     AfficherBulleExtrait(k);
 }
 
 void FrmVisu::decalerBorne(bool debut, double secondes) {
-    if (extraitDit_ < 1 || extraitDit_ > nombreExtraits(session_)) return;
-    const double avant = debut ? secondesDebut(session_, extraitDit_) : secondesFin(session_, extraitDit_);
-    poserBorne(extraitDit_, debut, std::max(avant + secondes, 0.0));
+    const int k = PictLect_->extraitDit();
+    if (k < 1 || k > nombreExtraits(session_)) return;
+    const double avant = debut ? secondesDebut(session_, k) : secondesFin(session_, k);
+    poserBorne(k, debut, std::max(avant + secondes, 0.0));
 }
 
 void FrmVisu::sauterSurVue(double secondes) {
     const EtatAudio& audio = session_.audio;
     const double t = std::clamp(audio.DebutZoom + secondes, 0.0, audio.DureeFichier);
     const Twips x = xVue(audio, t, Picture1_->largeurTwips());
-    allerSurVue(x, x);
+    choisir({x, x});
 }
 
 } // namespace vermo

@@ -14,6 +14,7 @@ constexpr Twips RETRAIT_VUE = 130; ///< of Picture1, which the cursor's 30 twips
 // The title row.
 constexpr Twips TITRE_HAUT = 90, TITRE_HAUTEUR = 540;
 constexpr Twips BOUTON = 510, BOUTON_CROIX = 540;
+constexpr int CORPS_FICHIER = 10; ///< points
 constexpr Twips COMPTEUR = 1500, FICHIER = 6000, VOLUME = 900;
 
 // The pictures, from top to bottom. The zoom band takes what is left.

@@ -217,7 +217,7 @@ void FrmCorpus::resizeEvent(QResizeEvent* evenement) {
     if (isMinimized()) return;
     garder([this] {
         placerControles();
-        if (!session_.corpus.CheminCorpus.empty()) RedessinerFrise();
+        if (!session_.corpus.CheminCorpus.empty()) montrerFrise();
     });
 }
 

@@ -27,6 +27,10 @@ constexpr std::pair<const char*, const char*> OPTIONS[] = {
     {"config", "no"},
     {"terminal", "no"},
     {"load-scripts", "no"},
+    {"osc", "no"}, // its built-in scripts are threads that wake for a picture that there isn't
+    {"load-stats-overlay", "no"},
+    {"load-osd-console", "no"},
+    {"load-auto-profiles", "no"},
     {"ytdl", "no"},
     {"vid", "no"},
     {"sid", "no"},

@@ -54,6 +54,7 @@ void LecteurDiffere::stop() {
 
 void LecteurDiffere::currentPosition(double secondes) {
     if (lecteur_) lecteur_->currentPosition(secondes);
+    annoncerDeplacement();
 }
 
 void LecteurDiffere::volume(int part) {

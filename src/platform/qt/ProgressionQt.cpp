@@ -35,6 +35,13 @@ ProgressionQt::~ProgressionQt() {
     delete boite_;
 }
 
+void ProgressionQt::montrer() {
+    if (!barre_) return;
+    barre_->setRange(0, 1);
+    barre_->setValue(0);
+    barre_->show();
+}
+
 void ProgressionQt::debut(long minimum, long maximum) {
     depuisDessin_.start();
     if (!barre_) return;

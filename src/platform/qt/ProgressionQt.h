@@ -20,6 +20,7 @@ class ProgressionQt final : public Progression {
     /// The bar to show and hide; it may go away before this object. Null: none.
     void brancher(QProgressBar* barre) { barre_ = barre; }
 
+    void montrer() override;
     void debut(long minimum, long maximum) override;
     void avance(long valeur) override;
     void fin() override;

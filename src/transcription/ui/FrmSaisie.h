@@ -47,6 +47,9 @@ class FrmSaisie : public Forme {
     void Timer3_Tick(); ///< 1 s: countdown of the automatic dictation
     void Timer4_Tick(); ///< 1 s: lengthening of the span
 
+    /// The play loop looks at the player, and goes on as long as it plays.
+    void suivreLecteur();
+
   protected:
     bool event(QEvent* evenement) override;
     bool eventFilter(QObject* objet, QEvent* evenement) override;
@@ -106,7 +109,7 @@ class FrmSaisie : public Forme {
     void reinitialiserAjout();
     void ajouterThematique();
 
-    Ecoute ecoute_; ///< of the player
+    Ecoute ecoute_, deplacements_; ///< of the player
     PointsOnde PointsSaisie_;
     Toile* Picture1_ = nullptr; ///< the window's ground, by which it is moved
     Toile* Pict_saisie_ = nullptr;

@@ -48,6 +48,7 @@ void FrmSaisie::creerEcoute() {
     connect(&Timer2_, &QTimer::timeout, this, [this] { garder([this] { Timer2_Tick(); }); });
     connect(&Timer3_, &QTimer::timeout, this, [this] { garder([this] { Timer3_Tick(); }); });
     connect(&Timer4_, &QTimer::timeout, this, [this] { garder([this] { Timer4_Tick(); }); });
+    deplacements_ = plateforme_.media.ecouterDeplacements([this] { garder([this] { suivreLecteur(); }); });
     ecoute_ = plateforme_.media.ecouter(
         [this](EtatLecture etat) { garder([this, etat] { Media_PlayStateChange(etat); }); });
     Timer3_.setInterval(1000);
@@ -56,6 +57,12 @@ void FrmSaisie::creerEcoute() {
 
 void FrmSaisie::Media_PlayStateChange(EtatLecture etat) {
     ImgMedia_->icone(enMouvement(etat) ? QStringLiteral("Pause") : QStringLiteral("Lecture"));
+    suivreLecteur();
+}
+
+/// Lengthening follows the player by a timer of its own.
+void FrmSaisie::suivreLecteur() {
+    if (!Timer4_.isActive()) Timer1_.start();
 }
 
 void FrmSaisie::positionner(double secondes) {
@@ -76,8 +83,9 @@ void FrmSaisie::basculerLecture() {
 
 void FrmSaisie::Timer1_Tick() {
     LblTimer_->hide();
-    if (!isVisible()) return;
     LecteurMedia& media = plateforme_.media;
+    if (!media.enLecture()) Timer1_.stop(); // until it plays again or is sent elsewhere
+    if (!isVisible()) return;
     const bool arrete = media.playState() == EtatLecture::Arrete;
     const auto boucle =
         saisie::suivreBoucle(session_, media.currentPosition(), Pict_saisie_->largeurTwips(), arrete);
@@ -97,6 +105,7 @@ void FrmSaisie::Timer3_Tick() {
     const auto decompte = saisie::compter(session_, isVisible(), secondes_);
     LblTimer_->setVisible(decompte.montrer);
     LblTimer_->setText(versQt(decompte.LblTimer));
+    suivreLecteur(); // the next tick hides the count again
     if (decompte.arreter) Timer3_.stop();
     if (!decompte.position) return;
     positionner(*decompte.position);
@@ -116,6 +125,7 @@ void FrmSaisie::portionSuivante() {
 
 void FrmSaisie::MontrerPortion(double debut, double fin) {
     portion_ = saisie::MontrerPortion(session_, debut, fin, Pict_saisie_->largeurTwips());
+    suivreLecteur();
     rafraichirOnde();
 }
 

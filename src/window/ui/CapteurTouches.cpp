@@ -11,6 +11,7 @@ CapteurTouches::CapteurTouches(const QString& nomLu, QWidget* fenetre) : QLineEd
     setAccessibleName(nomLu);
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setFrame(false);
+    setReadOnly(true); // its cursor has nothing to blink for
     setGeometry(0, 0, 1, 1);
 }
 
