@@ -17,11 +17,12 @@ std::string contenu(const fs::path& chemin) {
 
 TEST(Writers, AreTheDoorAndThoseNamedHere) {
     const std::set<std::string> permis = {
-        "textfile/fichier.h",         "textfile/fichier.cpp",
+        "textfile/fichier.h",
+        "textfile/fichier.cpp",
         "corpus/Porte.cpp",           // corpus file and transcripts
         "corpus/OuvertureCorpus.cpp", // the recent list
         "corpus/Import.cpp",          // the copy of a recording
-        "audio/ui/FrmVisuImages.cpp"  // pictures
+        "audio/Vues.cpp"              // pictures
     };
     const fs::path racine = fs::path(VERMO_RACINE) / "src";
     std::set<std::string> ecrivains;
