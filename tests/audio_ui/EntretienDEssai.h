@@ -1,97 +1,88 @@
 #pragma once
 #include "audio/OndeDEssai.h"
 #include "audio/ui/FrmVisu.h"
-#include "support/FenetresMuettes.h"
-#include "support/PlateformeDeTest.h"
+#include "support/Gestes.h"
 
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMouseEvent>
-#include <QTest>
 #include <QTimer>
-#include <cmath>
 #include <iomanip>
 #include <memory>
-#include <sstream>
-#include <vector>
 
 namespace vermo::essai {
 
 /// A corpus of one interview with three thematics, its recording on the disk and in the player, and FrmVisu
-/// on it.
-class EntretienDEssai {
+/// on it. Places on Picture1, Pict_zoom and Pict_tpsZ are seconds.
+class EntretienDEssai : public Scene {
   public:
-    Session session;
-    PlateformeDeTest plateforme;
-    FenetresMuettes fenetres;
     std::unique_ptr<FrmVisu> visu;
 
     explicit EntretienDEssai(double duree, const Utf8& nom = "entretien1.wav") {
         session.reglages.separateurDecimal = '.';
         EtatCorpus& corpus = session.corpus;
-        corpus.RepCorpus = plateforme.dossier.chemin();
+        corpus.RepCorpus = hote.dossier.chemin();
         corpus.Entretiens.resize(2);
         corpus.Entretiens[1].Fichier = nom, corpus.Entretiens[1].Duree = static_cast<float>(duree);
         corpus.NbEntretiens = corpus.EntretienCourant = 1;
         corpus.ThmCode = {"", "000", "001", "002"};
         corpus.ThmNom = corpus.ThmCouleur = {"", "6513507", "16744448", "4227327"};
         corpus.ThmVisible = {0, 1, 1, 1}, corpus.NbThm = 3;
-        chemin = plateforme.dossier.ecrire(nom, wav(1, 8, sons(duree)));
-        plateforme.media.dureeParDefaut = duree;
-        plateforme.media.URL(chemin);
+        chemin = hote.dossier.ecrire(nom, wav(1, 8, sons(duree)));
+        hote.media.dureeParDefaut = duree;
+        hote.media.URL(chemin);
+        montres = {"Shp_visu0", "Curseur0", "TotalSelect0", "ZoomSelect0", "shp_curseur_zoom0"};
+        verbes["tic"] = [this](const std::string& timer) {
+            timer == "Timer1" ? visu->Timer1_Tick() : visu->Timer3_Tick();
+        };
+        verbes["saisie"] = [this](const std::string& etat) {
+            fenetres.enSaisie = etat == "entamée";
+            fenetres.montrer(Fenetre::FrmSaisie);
+        };
+        verbes["volume"] = [this](const std::string& part) { session.audio.VolumeLecture = std::stof(part); };
+        verbes["tardif"] = [this](const std::string&) { hote.media.tardif = true; };
+        verbes["reponse"] = [this](const std::string&) { hote.media.repondre(); };
+        verbes["attend"] = [](const std::string&) { QApplication::processEvents(); };
     }
-
     /// Writes a transcript with these spans, coded in turn 001 and 002.
     void transcrire(const std::vector<Bornes>& extraits, const Texte& texte = "Un texte.") {
         std::ostringstream rtr;
-        rtr << std::fixed << std::setprecision(2) << " 60 \r\n<|OBS|\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n";
+        rtr << std::fixed << std::setprecision(2)
+            << " 600 \r\n<|OBS|\r\n\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n";
         for (std::size_t i = 0; i < extraits.size(); ++i)
             rtr << "::" << extraits[i].debut << (i % 2 ? "::002\r\n" : "::001\r\n") << texte
-                << "\r\n::" << extraits[i].fin << "::\r\n";
-        plateforme.dossier.ecrire("entretien1.Rtr", rtr.str());
+                << "\r\r\n::" << extraits[i].fin << "::\r\n";
+        hote.dossier.ecrire("entretien1.Rtr", rtr.str());
     }
 
     bool ouvrir() {
-        visu = std::make_unique<FrmVisu>(session, plateforme, fenetres);
+        visu = std::make_unique<FrmVisu>(session, hote, fenetres);
         for (QTimer* timer : visu->findChildren<QTimer*>())
-            timer->setInterval(3600 * 1000); // ticks are given by hand
+            if (!timer->objectName().endsWith(QLatin1String("s"))) // those of the held buttons run
+                timer->setInterval(3600 * 1000);                   // ticks are given by hand
         if (!visu->OuvrirEntretienVue()) return false;
         visu->show();
+        QApplication::processEvents();
         return true;
     }
 
-    Toile& toile(const char* nom) { return *visu->findChild<Toile*>(QLatin1String(nom)); }
-    QWidget* touches() { return visu->findChild<QLineEdit*>(QStringLiteral("TxtCtrl")); }
-    std::string texte(const char* nom) {
-        return visu->findChild<QLabel*>(QLatin1String(nom))->text().toStdString();
-    }
-
-    /// Place of a time on the zoom band.
-    QPoint ici(double temps) {
-        const EtatAudio& audio = session.audio;
-        return {qRound((temps - audio.DebutZoom) / audio.DureeZoom * toile("Pict_zoom").width()), 400};
-    }
-    void survoler(const char* nom, QPoint ou, Qt::MouseButtons tenus = {}) {
-        Toile& cible = toile(nom);
-        QMouseEvent evenement(QEvent::MouseMove, QPointF(ou), QPointF(cible.mapToGlobal(ou)), Qt::NoButton,
-                              tenus, {});
-        QApplication::sendEvent(&cible, &evenement);
-    }
-    void glisser(const char* nom, QPoint de, QPoint a) {
-        Toile& cible = toile(nom);
-        QTest::mousePress(&cible, Qt::LeftButton, {}, de);
-        survoler(nom, (de + a) / 2, Qt::LeftButton);
-        survoler(nom, a, Qt::LeftButton);
-        QTest::mouseRelease(&cible, Qt::LeftButton, {}, a);
+    Forme& fenetre() override { return *visu; }
+    QPoint lieu(const Toile& toile, const std::string& ou) override {
+        const EtatAudio& a = session.audio;
+        const bool vue = toile.objectName() == QLatin1String("Picture1");
+        const double t = std::stod(ou), part = vue ? t / a.DureeFichier : (t - a.DebutZoom) / a.DureeZoom;
+        return {qRound(part * toile.width()), std::min(400, toile.height() - 20)};
     }
 
     Utf8 chemin; ///< of the recording
 
   private:
-    static std::string sons(double duree) {
-        return echantillons(static_cast<int>(duree * 200), 8,
-                            [](int i) { return 128 + static_cast<int>(100 * std::sin(i * 1.9)); });
+    /// A thousand samples a second, louder and softer.
+    static const std::string& sons(double duree) {
+        static std::map<double, std::string> faits;
+        std::string& octets = faits[duree];
+        if (octets.empty())
+            octets = echantillons(static_cast<int>(duree * 1000), 8, [](int i) {
+                return 128 + static_cast<int>((i / 1000 % 10 * 10 + 20) * std::sin(i * 1.9));
+            });
+        return octets;
     }
 };
 

@@ -9,6 +9,10 @@
 //  - before: impatient; muet SLOT (no duration is known); pendant STEP,STEP (at the first wait; after lent:
 //    for the player)
 #include "Programme.h"
+#include "corpus/ui/FrmCorpus.h"
+#include "corpus/ui/FrmIntro.h"
+#include "corpus/ui/FrmMenu.h"
+#include "support/CommandesCouvertes.h"
 
 #include <QWheelEvent>
 #include <algorithm>
@@ -208,6 +212,7 @@ tape Alt+V -> fenetres=FrmCorpus FrmMenu:FrmMnu5
 clic PictVol -> fenetres=FrmCorpus FrmMenu:FrmMnu5
 survol PictVol 5 5 -> fenetres=FrmCorpus FrmMenu:FrmMnu5
 touche PictVol Return -> fenetres=FrmCorpus FrmMenu:FrmMnu5
+touche PictVol Space -> fenetres=FrmCorpus FrmMenu:FrmMnu5
 clic ImgCroix0 48 10 -> fenetres= | fini=oui | rangs=
 clic ImgCroix0 4 10 -> fenetres=FrmCorpus_
 touche ImgCroix0 Left;touche ImgCroix0 Return -> fenetres=FrmCorpus_
@@ -273,6 +278,8 @@ tape End | clic lblmenu1;clic ImgPlay -> c/c.Bmp + | fenetres=FrmCorpus- FrmVisu
 tape End | clic lblmenu1;clic ImgOnOff -> eteints=c | etq1=(2/3)
 clic lblmenu1;clic lblmenu10;clic lblmenu12;clic ImgPlay;clic ImgOnOff;tape Escape ->
 clic lblmenu1;touche lblmenu3 Down;tape Return -> taille=vraie
+clic lblmenu1;tape Down;tape Down;tape Return -> taille=vraie
+clic lblmenu1;tape Up;tape Return -> taille=vraie
 clic PictVol;clic LblVol 32 90 -> fenetres=FrmCorpus FrmMenu:FrmMnu5 | jauge=Volume : 41 % | volume=41/41
 clic PictVol;tire LblVol 32 41 32 540 -> fenetres=FrmCorpus FrmMenu:FrmMnu5 | jauge=Volume : 0 % | volume=0/0
 clic PictVol;tape Down -> fenetres=FrmCorpus FrmMenu:FrmMnu5 | jauge=Volume : 95 % | volume=95/95
@@ -321,6 +328,7 @@ TEST(CommandsTest, OfTheCorpusWindow) {
     Programme programme;
     programme.ouvrirCorpus();
     verifierControles(forme("FrmCorpus"), DE_FRMCORPUS);
+    couvrir(FrmCorpus::commandes(), DE_FRMCORPUS);
 }
 
 TEST(CommandsTest, OfTheMenus) {
@@ -332,6 +340,7 @@ TEST(CommandsTest, OfTheMenus) {
         verifierControles(forme("FrmMenu"), DE_FRMMENU);
         forme("FrmMenu").hide();
     }
+    couvrir(FrmMenu::commandes(), DE_FRMMENU);
 }
 
 TEST(CommandsTest, OfTheStartWindow) {
@@ -339,6 +348,7 @@ TEST(CommandsTest, OfTheStartWindow) {
     Programme programme;
     programme.app.demarrer();
     verifierControles(forme("FrmIntro"), DE_FRMINTRO);
+    couvrir(FrmIntro::commandes(), DE_FRMINTRO);
 }
 
 TEST(RefusalsTest, LeaveEverythingAsItWas) {

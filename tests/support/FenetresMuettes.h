@@ -11,6 +11,8 @@ namespace vermo::essai {
 /// a request: "montrer FrmVisu", "montrer FrmVisu 3 SansFondu", "montrer FrmMenu 5", "annoncer Bascules".
 class FenetresMuettes : public Fenetres {
   public:
+    bool enSaisie = false; ///< a text is being typed
+
     const std::vector<std::string>& journal() const { return journal_; }
     void effacerJournal() { journal_.clear(); }
 
@@ -21,7 +23,7 @@ class FenetresMuettes : public Fenetres {
     void cacher(Fenetre f) override { noter("cacher " + nom(f)), visibles_[f] = false; }
     void decharger(Fenetre f) override { noter("decharger " + nom(f)), visibles_[f] = false; }
     bool visible(Fenetre f) const override { return visibles_.contains(f) && visibles_.at(f); }
-    bool entamee(Fenetre) const override { return false; }
+    bool entamee(Fenetre) const override { return enSaisie; }
     void finir() override { noter("finir"); }
     void annoncer(const Avis& avis) override {
         constexpr const char* SUJETS[] = {"Thematiques", "Bascules",  "Entretiens",

@@ -17,6 +17,9 @@ class LecteurSimule : public LecteurMedia {
     double dureeParDefaut = 60;    ///< of a recording that the table doesn't name; 0: it can't be loaded
     bool lent = false;
     bool sansSon = false;
+    bool tardif = false; ///< `play` is answered by `repondre()` only
+
+    void repondre() { passer(EtatLecture::Lecture); }
 
     /// Commands in order: "URL a.wav", "play", "pause", "stop", "position 12.5", "volume 80", "rate 1.5".
     const std::vector<std::string>& journal() const { return journal_; }
@@ -45,7 +48,7 @@ class LecteurSimule : public LecteurMedia {
         jouerUneFoisPret_ = etat_ == EtatLecture::Chargement;
         if (duree_ <= 0) return;
         if (position_ >= duree_) position_ = 0;
-        passer(EtatLecture::Lecture);
+        if (!tardif) passer(EtatLecture::Lecture);
     }
     void pause() override {
         journal_.push_back("pause");
@@ -76,6 +79,7 @@ class LecteurSimule : public LecteurMedia {
         noter("rate", facteur);
         vitesse_ = facteur;
     }
+    double vitesse() const { return vitesse_; }
     Utf8 erreur() const override { return erreur_; }
     bool muet() const override { return sansSon; }
 

@@ -25,6 +25,7 @@ FrmVisu::FrmVisu(Session& session, Plateforme& plateforme, Fenetres& fenetres, Q
     brancherTitre();
     brancherImages();
     reglerTimers();
+    commandes_.ecouter();
     Transparence(0);
     TxtCtrl_->setFocus();
 }

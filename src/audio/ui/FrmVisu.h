@@ -7,13 +7,12 @@
 #include "transcription/Marquage.h"
 #include "window/Fenetres.h"
 #include "window/ui/CapteurTouches.h"
+#include "window/ui/Commandes.h"
 #include "window/ui/Forme.h"
 
 #include <QLabel>
 #include <QTimer>
 #include <array>
-
-class QKeyEvent;
 
 namespace vermo {
 
@@ -27,6 +26,7 @@ class FrmVisu : public Forme {
     Q_OBJECT
   public:
     FrmVisu(Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent = nullptr);
+    static TableCommandes commandes();
 
     /// Loads the interview, starts playing and shows the window. With the fade it comes in
     /// from nearly nothing, otherwise it is opaque at once. False when the opening was given up: a recording
@@ -52,7 +52,6 @@ class FrmVisu : public Forme {
   protected:
     void changeEvent(QEvent* evenement) override;
     void closeEvent(QCloseEvent* evenement) override;
-    void keyPressEvent(QKeyEvent* evenement) override;
     void paintEvent(QPaintEvent* evenement) override;
 
   private:
@@ -66,8 +65,6 @@ class FrmVisu : public Forme {
     void creerControles();
     void creerEtiquettes();
     void creerBoutons();
-    BoutonImage* creerBouton(const char* nom, const char* icone, const char* bulle,
-                             void (FrmVisu::*action)());
     void disposer();
     void disposerTitre(Twips L);
     void brancherTitre();
@@ -86,7 +83,7 @@ class FrmVisu : public Forme {
     void brancherImages();
     void survolerExtrait(int k, bool surBarre);
     void choisir(const GesteVue& geste);
-    void agir(const GesteZoom& geste);
+    void suivreGeste(const GesteZoom& geste);
     void selectionner(Twips& debut, Twips x);
     void rouler(int crans, Qt::KeyboardModifiers touches);
     void chercher(Twips x);
@@ -119,14 +116,18 @@ class FrmVisu : public Forme {
     void retournerAuCorpus();
     void dechargerPlusTard();
 
-    // FrmVisuTouches.cpp: the keyboard.
-    bool presserTouche(const QKeyEvent& touche);
-    bool presserRaccourci(const QKeyEvent& touche);
-    bool relacherTouche(const QKeyEvent& touche);
-    void extraitVoisin(int sens);
-    void decalerBorne(bool debut, double secondes);
-    void sauterSurVue(double secondes);
+    // FrmVisuCommandes.cpp: what has no place elsewhere of what buttons and keys do.
+    void basculerLecture();
+    void ouvrirExtraitDit();
+    template <int sens>
+    void extraitVoisin();
+    template <bool debut, int sens>
+    void decalerBorne();
+    template <int sens>
+    void sauterSurVue();
 
+    static const Commande COMMANDES[];
+    Commandes commandes_{*this, commandes()};
     ToileVue* Picture1_;
     ToileLecture* PictLect_;
     ToileZoom* Pict_zoom_;

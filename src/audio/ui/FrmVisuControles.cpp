@@ -23,7 +23,7 @@ void FrmVisu::creerControles() {
     Pict_zoom_ = habiller(new ToileZoom(session_, Frm_zoom_), "Zoom de l'enregistrement", rvb(45, 44, 45));
     Pict_tpsZ_ = habiller(new Toile(QStringLiteral("Pict_tpsZ"), this), "Secondes du zoom", theme::REGLE);
     PictVol_ = habiller(new Toile(QStringLiteral("PictVol"), this), "Volume sonore", theme::PANNEAU);
-    PictVol_->setToolTip(QStringLiteral("Volume sonore (F4)"));
+    PictVol_->setToolTip(commandes_.bulle("volume"));
 }
 
 void FrmVisu::creerEtiquettes() {
@@ -34,35 +34,21 @@ void FrmVisu::creerEtiquettes() {
     lblEtat_ = creerEtiquette("lblEtat", 8, false, theme::TEXTE_DISCRET, this);
 
     TxtCtrl_ = new CapteurTouches(QStringLiteral("Commandes de l'entretien"), this);
-    TxtCtrl_->surTouche = [this](const QKeyEvent& touche, Frappe frappe) {
-        return frappe == Frappe::Relachement ? relacherTouche(touche) : presserTouche(touche);
-    };
-}
-
-BoutonImage* FrmVisu::creerBouton(const char* nom, const char* icone, const char* bulle,
-                                  void (FrmVisu::*action)()) {
-    auto* bouton = new BoutonImage(QLatin1String(nom), QLatin1String(icone), QString::fromUtf8(bulle), this);
-    connect(bouton, &QAbstractButton::clicked, this, [this, action] {
-        TxtCtrl_->setFocus();
-        garder([&] { (this->*action)(); });
-    });
-    return bouton;
+    commandes_.capter(*TxtCtrl_);
+    commandes_.avantBouton = [this] { TxtCtrl_->setFocus(); };
+    commandes_.enService = [this] { return !ferme_; };
 }
 
 void FrmVisu::creerBoutons() {
-    ImgMedia_[5] =
-        creerBouton("ImgMedia5", "Precedent", "Reculer dans l'entretien (←)", &FrmVisu::empanArriere);
-    ImgMedia_[1] = creerBouton("ImgMedia1", "Lecture", "Lire (Espace)", &FrmVisu::jouer);
-    ImgMedia_[4] = creerBouton("ImgMedia4", "Pause", "Pause (Espace)", &FrmVisu::mettreEnPause);
-    ImgMedia_[6] = creerBouton("ImgMedia6", "Suivant", "Avancer dans l'entretien (→)", &FrmVisu::empanAvant);
-    ImgMedia_[3] = creerBouton("ImgMedia3", "ZoomMoins", "Zoom arrière (-)", &FrmVisu::zoomArriere);
-    ImgMedia_[2] = creerBouton("ImgMedia2", "ZoomPlus", "Zoom avant (+)", &FrmVisu::zoomAvant);
+    ImgMedia_[5] = commandes_.bouton("reculer", this);
+    ImgMedia_[1] = commandes_.bouton("lire", this);
+    ImgMedia_[4] = commandes_.bouton("pause", this);
+    ImgMedia_[6] = commandes_.bouton("avancer", this);
+    ImgMedia_[3] = commandes_.bouton("zoom-arriere", this);
+    ImgMedia_[2] = commandes_.bouton("zoom-avant", this);
     ImgMedia_[4]->hide();
-    ImgCorpus_ = creerBouton("ImgCorpus", "RetourCorpus", "Revenir au corpus (Alt + Origine)",
-                             &FrmVisu::retournerAuCorpus);
-    ImgCroix_ = new BoutonImage(QStringLiteral("ImgCroix"), QStringLiteral("Croix"),
-                                QStringLiteral("Fermer l'entretien (Échap)"), this);
-    connect(ImgCroix_, &QAbstractButton::pressed, this, [this] { garder([this] { fermer(); }); });
+    ImgCorpus_ = commandes_.bouton("corpus", this);
+    ImgCroix_ = commandes_.bouton("fermer", this);
 
     for (const auto& [bouton, timer] :
          {std::pair(ImgMedia_[5], &TimerMoins_), std::pair(ImgMedia_[6], &TimerPlus_)}) {

@@ -17,7 +17,7 @@ void FrmVisu::brancherImages() {
     Picture1_->surChoix = ouverte(&FrmVisu::choisir);
     Picture1_->surSurvol = ouverte(&FrmVisu::survolerExtrait);
     Picture1_->surExtrait = ouverte(&FrmVisu::zoomerExtrait);
-    Pict_zoom_->surGeste = ouverte(&FrmVisu::agir);
+    Pict_zoom_->surGeste = ouverte(&FrmVisu::suivreGeste);
     Pict_zoom_->surSelection = ouverte(&FrmVisu::selectionner);
     Pict_zoom_->surMolette = ouverte(&FrmVisu::rouler);
     Picture1_->surOuverture = Pict_zoom_->surOuverture = PictLect_->surOuverture =
@@ -38,7 +38,7 @@ void FrmVisu::choisir(const GesteVue& geste) {
     apresZoom();
 }
 
-void FrmVisu::agir(const GesteZoom& geste) {
+void FrmVisu::suivreGeste(const GesteZoom& geste) {
     EtatAudio& audio = session_.audio;
     const Twips Z = Pict_zoom_->largeurTwips();
     switch (geste.acte) {

@@ -33,13 +33,9 @@ void FrmVisu::direEtatSon() {
     const LecteurMedia& media = plateforme_.media;
     const Utf8 erreur = media.erreur();
     const bool alerte = !erreur.empty() || media.muet();
-    const QString texte =
-        !erreur.empty() ? utf8VersQt(erreur)
-        : media.muet()
-            ? QStringLiteral("Pas de sortie son : la lecture est silencieuse")
-            : QStringLiteral(
-                  "Espace : lecture, pause    ← → : déplacer    + - : zoom    Entrée : marquer un extrait    "
-                  "F2 : ouvrir l'extrait    Échap : fermer");
+    const QString texte = !erreur.empty() ? utf8VersQt(erreur)
+                          : media.muet()  ? QStringLiteral("Pas de sortie son : la lecture est silencieuse")
+                                          : commandes_.indices();
     if (texte == lblEtat_->text()) return;
     QPalette palette = lblEtat_->palette();
     palette.setColor(QPalette::WindowText, couleurQt(alerte ? rvb(255, 196, 110) : theme::TEXTE_DISCRET));

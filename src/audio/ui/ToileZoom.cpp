@@ -82,7 +82,7 @@ void ToileZoom::curseur(Twips largeur) {
 
 void ToileZoom::presserZoom(const Souris& souris) {
     appuyer();
-    if (souris.bouton == Qt::LeftButton) agir(presser(prise_, souris.element, souris.x));
+    if (souris.bouton == Qt::LeftButton) suivreGeste(presser(prise_, souris.element, souris.x));
 }
 
 void ToileZoom::survoler(const Souris& souris) {
@@ -97,10 +97,10 @@ void ToileZoom::relacherZoom(const Souris& souris) {
     appuyer();
     if (souris.bouton != Qt::LeftButton) return;
     setCursor(pointeurSur(souris.element));
-    agir(relacher(prise_, souris.x, session_.audio.MarqueDebut != 0));
+    suivreGeste(relacher(prise_, souris.x, session_.audio.MarqueDebut != 0));
 }
 
-void ToileZoom::agir(const GesteZoom& geste) {
+void ToileZoom::suivreGeste(const GesteZoom& geste) {
     if (geste.acte == ActeZoom::Aucun) return;
     if (geste.acte != ActeZoom::Elargir) return surGeste(geste);
     if (Element* label = modifiable(Controle::LblXtrZ, geste.index)) label->cadre.largeur = geste.x;

@@ -25,7 +25,7 @@ class ToileZoom : public ToileOnde {
     void presserZoom(const Souris& souris);
     void survoler(const Souris& souris);
     void relacherZoom(const Souris& souris);
-    void agir(const GesteZoom& geste);
+    void suivreGeste(const GesteZoom& geste);
     void tirerPoignee(Twips x);
 
     MetriquesQt metriques_;

@@ -14,15 +14,16 @@ constexpr int COTE_ICONE = 20, ARRONDI = 3; // pixels
 
 } // namespace
 
-CroixDouble::CroixDouble(const QString& nom, QWidget* parent)
-    : BoutonImage(nom, QStringLiteral("CroixReduire"), QStringLiteral("Quitter Vermo"), parent) {
+CroixDouble::CroixDouble(const QString& nom, const QString& reduire, const QString& quitter, QWidget* parent)
+    : BoutonImage(nom, QStringLiteral("CroixReduire"), quitter, parent), reduire_(reduire),
+      quitter_(quitter) {
     setMouseTracking(true);
     setCursor(Qt::PointingHandCursor);
 }
 
 void CroixDouble::choisir(bool gauche) {
     gauche_ = gauche;
-    bulle(gauche ? QStringLiteral("Réduire la fenêtre") : QStringLiteral("Quitter Vermo"));
+    bulle(gauche ? reduire_ : quitter_);
     update();
 }
 

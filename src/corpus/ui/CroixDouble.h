@@ -8,7 +8,8 @@ namespace vermo {
 class CroixDouble : public BoutonImage {
     Q_OBJECT
   public:
-    CroixDouble(const QString& nom, QWidget* parent);
+    /// With the tooltips of its halves.
+    CroixDouble(const QString& nom, const QString& reduire, const QString& quitter, QWidget* parent);
     bool gauche() const { return gauche_; } ///< the half that a click means
 
   protected:
@@ -20,6 +21,7 @@ class CroixDouble : public BoutonImage {
   private:
     void choisir(bool gauche);
 
+    QString reduire_, quitter_;
     bool gauche_ = false;
 };
 

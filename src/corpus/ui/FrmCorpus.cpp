@@ -140,10 +140,7 @@ void FrmCorpus::tailleReelle() {
 }
 
 void FrmCorpus::croix() {
-    if (ImgCroix_->gauche())
-        showMinimized();
-    else
-        fenetres_.finir();
+    ImgCroix_->gauche() ? reduire() : quitter();
 }
 
 void FrmCorpus::closeEvent(QCloseEvent* evenement) {

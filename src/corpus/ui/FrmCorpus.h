@@ -1,5 +1,7 @@
 #pragma once
 #include "corpus/DispositionCorpus.h"
+#include "window/Fenetres.h"
+#include "window/ui/Commandes.h"
 #include "window/ui/Forme.h"
 
 #include <array>
@@ -24,12 +26,11 @@ class ToileThematiques;
 /// ImgCroix0, lblmenu0 to lblmenu3, Imgbtn0 to Imgbtn8 (2 stands for no command and isn't there), ImgZoom0,
 /// ImgZoom1, etq0, etq1, ImgOnOffthm0, ImgOnOffent, Frm_fond_thm with Frm_thm, Frm_fond_entretiens with
 /// Frm_entretiens and LblScroll, PictTps, ProgressBar1, LblVide (what to do first).
-///
-/// Keys of the window: Alt+C, E, T, A open the menus, Alt+V the volume, + and - zoom.
 class FrmCorpus : public Forme {
     Q_OBJECT
   public:
     FrmCorpus(Session& session, Plateforme& plateforme, Fenetres& fenetres);
+    static TableCommandes commandes();
 
     void surAvis(const Avis& avis) override;
     /// Scans the interviews, then shows rows, bars, ruler and counters anew.
@@ -55,7 +56,6 @@ class FrmCorpus : public Forme {
     void resizeEvent(QResizeEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
     void closeEvent(QCloseEvent* evenement) override;
-    void keyPressEvent(QKeyEvent* evenement) override;
     void paintEvent(QPaintEvent* evenement) override;
 
   private:
@@ -63,12 +63,23 @@ class FrmCorpus : public Forme {
     void construireMenus();
     void construireBoutons();
     void construirePanneaux();
-    BoutonImage* ajouterBouton(const QString& nom, const QString& icone, const QString& bulle,
-                               void (FrmCorpus::*action)());
+    BoutonImage* ajouterBouton(std::string_view commande);
     void placerControles();
-    void ouvrirMenu(int index);
+    template <Panneau panneau>
+    void ouvrirMenu();
     void ouvrirVolume();
+    bool rangChoisi() const;
+    void ouvrirRang();
+    template <bool seul>
+    void basculerRang();
+    template <int pas>
+    void deplacerRang();
+    bool listeThematiques() const;
+    template <bool seule>
+    void basculerThematique();
     void croix();
+    void quitter() { fenetres_.finir(); }
+    void reduire() { showMinimized(); }
     void tailleReelle();
     void ajouterEntretien() { fenetres_.ImporterEntretien(); }
     void zoomPlus();
@@ -81,6 +92,8 @@ class FrmCorpus : public Forme {
     void montrerInvite();
     Rectangle surEcran(const QWidget* controle) const;
 
+    static const Commande COMMANDES[];
+    Commandes commandes_{*this, commandes()};
     DispositionCorpus disposition_;
     QWidget *ImgTop_, *Frm_fond_thm_, *Frm_fond_entretiens_, *FrmBtnEntr_;
     ToileThematiques* Frm_thm_;

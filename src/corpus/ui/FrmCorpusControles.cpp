@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QProgressBar>
-#include <QShortcut>
 
 namespace vermo {
 namespace {
@@ -21,18 +20,6 @@ namespace {
 // Sizes in pixels.
 constexpr QRect MARQUE{16, 8, 22, 22}, TITRE{46, 6, 70, 26}, VERSION{112, 8, 50, 24};
 constexpr int GAUCHE_CHEMIN = 250, ARRONDI = 8;
-
-struct Bouton {
-    int index;
-    const char *icone, *bulle;
-    void (FrmCorpus::*action)();
-};
-
-struct Titre {
-    const char *texte, *raccourci;
-};
-constexpr Titre MENUS[] = {
-    {"Corpus", "Alt+C"}, {"Entretiens", "Alt+E"}, {"Thématiques", "Alt+T"}, {"Attributs", "Alt+A"}};
 
 QLabel* etiquette(const QString& nom, QWidget* parent, int corps, Couleur encre) {
     auto* label = new QLabel(parent);
@@ -63,6 +50,7 @@ FrmCorpus::FrmCorpus(Session& session, Plateforme& plateforme, Fenetres& fenetre
     placerControles();
     montrerComptes();
     montrerInvite();
+    commandes_.ecouter();
     Frm_entretiens_->setFocus();
 }
 
@@ -94,64 +82,32 @@ void FrmCorpus::construireTitre() {
     PictVol_->surMouvement = [this](const Souris&) {
         if (!fenetres_.visible(Fenetre::FrmMenu)) ouvrirVolume();
     };
-    ImgCroix_ = new CroixDouble(QStringLiteral("ImgCroix0"), this);
+    ImgCroix_ = new CroixDouble(QStringLiteral("ImgCroix0"), commandes_.bulle("reduire"),
+                                commandes_.bulle("quitter"), this);
     connect(ImgCroix_, &QAbstractButton::clicked, this, [this] { garder([this] { croix(); }); });
 }
 
 void FrmCorpus::construireMenus() {
-    for (int i = 0; i < 4; ++i) {
-        const Titre& titre = MENUS[i];
-        auto* menu = new Lien(QStringLiteral("lblmenu%1").arg(i), QString::fromUtf8(titre.texte), this);
-        menu->setToolTip(QString::fromLatin1(titre.raccourci));
-        const auto ouvrir = [this, i] { garder([this, i] { ouvrirMenu(i); }); };
-        connect(menu, &QAbstractButton::clicked, this, ouvrir);
-        connect(new QShortcut(QKeySequence(QString::fromLatin1(titre.raccourci)), this),
-                &QShortcut::activated, this, ouvrir);
-        lblmenu_[static_cast<std::size_t>(i)] = menu;
-    }
-    connect(new QShortcut(QKeySequence(QStringLiteral("Alt+V")), this), &QShortcut::activated, this,
-            [this] { garder([this] { ouvrirVolume(); }); });
+    lblmenu_ = {commandes_.ligne("menu-corpus", this), commandes_.ligne("menu-entretiens", this),
+                commandes_.ligne("menu-thematiques", this), commandes_.ligne("menu-attributs", this)};
 }
 
-BoutonImage* FrmCorpus::ajouterBouton(const QString& nom, const QString& icone, const QString& bulle,
-                                      void (FrmCorpus::*action)()) {
-    auto* bouton = new BoutonImage(nom, icone, bulle, this);
-    bouton->setEnabled(action != nullptr);
-    if (!action) return bouton;
-    bouton->setCursor(Qt::PointingHandCursor);
-    connect(bouton, &QAbstractButton::clicked, this,
-            [this, action] { garder([this, action] { (this->*action)(); }); });
+BoutonImage* FrmCorpus::ajouterBouton(std::string_view commande) {
+    BoutonImage* bouton = commandes_.bouton(commande, this);
+    if (bouton->isEnabled()) bouton->setCursor(Qt::PointingHandCursor);
     return bouton;
 }
 
 void FrmCorpus::construireBoutons() {
-    constexpr Bouton BOUTONS[] = {
-        {0, "Donnees", "Base de données des attributs", nullptr},
-        {1, "Stats", "Statistiques du corpus", nullptr},
-        {4, "Synthese", "Synthèse des extraits choisis", nullptr},
-        {8, "Paquet", "Lire le corpus comme un paquet (*.Vrm)", nullptr},
-        {7, "Ajouter", "Ajouter un entretien", &FrmCorpus::ajouterEntretien},
-        {6, "Tri", "Trier les entretiens", nullptr},
-        {3, "Taille0", "Afficher ou non la taille réelle des entretiens", &FrmCorpus::tailleReelle},
-        {5, "TriAPlat", "Tri à plat des attributs", nullptr},
-    };
+    constexpr std::pair<std::size_t, std::string_view> BOUTONS[] = {
+        {0, "donnees"}, {1, "stats"}, {4, "synthese"},      {8, "paquet"},
+        {7, "ajouter"}, {6, "trier"}, {3, "taille-reelle"}, {5, "tri-a-plat"}};
     FrmBtnEntr_ = cadre("FrmBtnEntr", this);
-    ImgOnOffthm_ = ajouterBouton(QStringLiteral("ImgOnOffthm0"), QStringLiteral("ImgOn"),
-                                 QStringLiteral("Activer ou désactiver toutes les thématiques"),
-                                 &FrmCorpus::basculerThematiques);
-    ImgOnOffent_ = ajouterBouton(QStringLiteral("ImgOnOffent"), QStringLiteral("ImgOn"),
-                                 QStringLiteral("Activer ou désactiver tous les entretiens"),
-                                 &FrmCorpus::basculerEntretiens);
-    for (const Bouton& b : BOUTONS)
-        Imgbtn_[static_cast<std::size_t>(b.index)] =
-            ajouterBouton(QStringLiteral("Imgbtn%1").arg(b.index), QString::fromLatin1(b.icone),
-                          QString::fromUtf8(b.bulle), b.action);
-    ImgZoom_ = {ajouterBouton(QStringLiteral("ImgZoom0"), QStringLiteral("ZoomPlus"),
-                              QStringLiteral("Agrandir les lignes (double clic : au plus grand)"),
-                              &FrmCorpus::zoomPlus),
-                ajouterBouton(QStringLiteral("ImgZoom1"), QStringLiteral("ZoomMoins"),
-                              QStringLiteral("Réduire les lignes (double clic : au plus petit)"),
-                              &FrmCorpus::zoomMoins)};
+    ImgOnOffthm_ = ajouterBouton("thematiques");
+    ImgOnOffent_ = ajouterBouton("entretiens");
+    for (const auto& [index, commande] : BOUTONS)
+        Imgbtn_.at(index) = ajouterBouton(commande);
+    ImgZoom_ = {ajouterBouton("zoom-avant"), ajouterBouton("zoom-arriere")};
     for (BoutonImage* zoom : ImgZoom_)
         zoom->installEventFilter(this);
 }

@@ -9,7 +9,6 @@
 #include "window/ui/Theme.h"
 #include "window/ui/Toile.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <vector>
 
@@ -34,6 +33,45 @@ constexpr int TIC_SON_MS = 100, TICS_SON_MAX = 30;
 
 } // namespace
 
+constinit const Commande FrmIntro::COMMANDES[] = {
+    {.id = "creer",
+     .ligne = "lblcorpus0",
+     .texte = "Créer un nouveau projet...",
+     .faire = agir<&FrmIntro::creer>},
+    {.id = "ouvrir",
+     .ligne = "lblcorpus1",
+     .texte = "Ouvrir un projet...",
+     .faire = agir<&FrmIntro::choisir>},
+    {.id = "modele", .ligne = "lblcorpus2", .texte = "Modèle"},
+    {.id = "son",
+     .bouton = "ImgTestSon",
+     .icone = "TestSon",
+     .bulle = "Tester le volume sonore",
+     .faire = agir<&FrmIntro::testerSon>},
+    {.id = "continuer",
+     .bouton = "ImgBtn1",
+     .icone = "Suivant",
+     .bulle = "Continuer sans ouvrir de corpus",
+     .faire = agir<&FrmIntro::continuer>},
+    {.id = "arreter",
+     .bouton = "Image1",
+     .icone = "Fermer",
+     .bulle = "Arrêt du programme",
+     .faire = agir<&FrmIntro::arreter>},
+    {.id = "ligne-precedente",
+     .aide = "Ligne précédente",
+     .touches = {{"↑", {}, TOUS}},
+     .faire = agir<&FrmIntro::lignePrecedente>},
+    {.id = "ligne-suivante",
+     .aide = "Ligne suivante",
+     .touches = {{"↓", {}, TOUS}},
+     .faire = agir<&FrmIntro::ligneSuivante>},
+};
+
+TableCommandes FrmIntro::commandes() {
+    return COMMANDES;
+}
+
 FrmIntro::FrmIntro(Session& session, Plateforme& plateforme, Fenetres& fenetres)
     : Forme("FrmIntro", session, plateforme, fenetres),
       Picture1_(new Toile(QStringLiteral("Picture1"), this)), LblSon_(new QLabel(this)) {
@@ -48,6 +86,7 @@ FrmIntro::FrmIntro(Session& session, Plateforme& plateforme, Fenetres& fenetres)
     deplacerPar(Picture1_);
     ajouterBoutons();
     listerCorpus();
+    commandes_.ecouter();
     Picture1_->surMouvement = [this](const Souris&) { Lien::soulignerSeul(this, nullptr); };
     TimerSon_.setInterval(TIC_SON_MS);
     connect(&TimerSon_, &QTimer::timeout, this, [this] { garder([this] { TimerSon_Tick(); }); });
@@ -99,35 +138,31 @@ void FrmIntro::ajouterBoutons() {
     LblSon_->setGeometry(TEXTE_SON);
     LblSon_->setFont(theme::police(9));
 
-    const auto bouton = [this](const char* nom, const char* icone, const QString& bulle, QRect place) {
-        auto* b = new BoutonImage(QString::fromLatin1(nom), QString::fromLatin1(icone), bulle, this);
+    const auto bouton = [this](std::string_view commande, QRect place) {
+        BoutonImage* b = commandes_.bouton(commande, this);
         b->setGeometry(place);
         b->setCursor(Qt::PointingHandCursor);
-        return b;
     };
-    connect(bouton("ImgTestSon", "TestSon", QStringLiteral("Tester le volume sonore"), SON),
-            &QAbstractButton::clicked, this, [this] { garder([this] { testerSon(); }); });
-    connect(bouton("ImgBtn1", "Suivant", QStringLiteral("Continuer sans ouvrir de corpus"), SUIVANT),
-            &QAbstractButton::clicked, this, [this] {
-                garder([this] {
-                    fenetres_.montrer(Fenetre::FrmCorpus);
-                    fenetres_.decharger(Fenetre::FrmIntro);
-                });
-            });
-    connect(bouton("Image1", "Fermer", QStringLiteral("Arrêt du programme"), FERMER),
-            &QAbstractButton::clicked, this, [this] { garder([this] { fenetres_.finir(); }); });
+    bouton("son", SON);
+    bouton("continuer", SUIVANT);
+    bouton("arreter", FERMER);
+}
+
+void FrmIntro::continuer() {
+    fenetres_.montrer(Fenetre::FrmCorpus);
+    fenetres_.decharger(Fenetre::FrmIntro);
 }
 
 void FrmIntro::listerCorpus() {
-    ajouterLigne(0, QStringLiteral("Créer un nouveau projet..."));
-    ajouterLigne(1, QStringLiteral("Ouvrir un projet..."))->setFocus();
-    ajouterLigne(2, QStringLiteral("Modèle"))->setEnabled(false);
+    placerLigne(0, commandes_.ligne("creer", this));
+    placerLigne(1, commandes_.ligne("ouvrir", this))->setFocus();
+    placerLigne(2, commandes_.ligne("modele", this));
     Elements puces;
     int index = PREMIER_RECENT;
     std::vector<Utf8> recents;
     garder([&] { recents = listeProjets(plateforme_.emplacements); });
     for (const Utf8& chemin : recents) {
-        const QRect ligne = ajouterLigne(index, utf8VersQt(chemin))->geometry();
+        const QRect ligne = ajouterRecent(index, chemin)->geometry();
         const QRectF puce(ligne.left() - BANDE_PUCE, ligne.center().y() - COTE_PUCE / 2.0, COTE_PUCE,
                           COTE_PUCE);
         puces.push_back({.controle = Controle::ImgPuce,
@@ -139,31 +174,47 @@ void FrmIntro::listerCorpus() {
     Picture1_->elements(std::move(puces));
 }
 
-Lien* FrmIntro::ajouterLigne(int index, const QString& texte) {
-    auto* ligne = new Lien(QStringLiteral("lblcorpus%1").arg(index), texte, this);
+Lien* FrmIntro::placerLigne(int index, Lien* ligne) {
     ligne->setGeometry(LIGNES.translated(0, index * LIGNES.height()));
     connect(ligne, &QAbstractButton::pressed, ligne, [ligne] { ligne->setCursor(Qt::WaitCursor); });
     connect(ligne, &QAbstractButton::released, ligne, [ligne] {
         ligne->encre(BLANC);
         ligne->setCursor(Qt::PointingHandCursor);
     });
-    const Utf8 chemin = index >= PREMIER_RECENT ? utf8DepuisQt(texte) : Utf8();
-    connect(ligne, &QAbstractButton::clicked, this, [this, index, chemin] { clicCorpus(index, chemin); });
     return ligne;
 }
 
+Lien* FrmIntro::ajouterRecent(int index, const Utf8& chemin) {
+    auto* ligne = new Lien(QStringLiteral("lblcorpus%1").arg(index), utf8VersQt(chemin), this);
+    connect(ligne, &QAbstractButton::clicked, this, [this, chemin] { ouvrir(chemin); });
+    return placerLigne(index, ligne);
+}
+
+void FrmIntro::creer() {
+    garder([&] { fenetres_.montrer(Fenetre::FrmCorpus); });
+    quitter([&] { fenetres_.NouveauCorpus(); });
+}
+
+void FrmIntro::choisir() {
+    garder([&] { fenetres_.montrer(Fenetre::FrmCorpus); });
+    quitter([&] {
+        session_.corpus.OuvertureDirecte = false;
+        fenetres_.OuvrirCorpus();
+    });
+}
+
+void FrmIntro::ouvrir(const Utf8& chemin) {
+    quitter([&] {
+        session_.corpus.CheminCorpus = chemin;
+        session_.corpus.OuvertureDirecte = true;
+        fenetres_.OuvrirCorpus();
+    });
+}
+
 /// Leaving this window is one-way: whatever comes of the opening, the corpus window takes over.
-void FrmIntro::clicCorpus(int index, const Utf8& chemin) {
-    if (index <= 1) garder([&] { fenetres_.montrer(Fenetre::FrmCorpus); });
-    garder([&] {
-        if (index >= PREMIER_RECENT) session_.corpus.CheminCorpus = chemin;
-        if (index != 0) session_.corpus.OuvertureDirecte = index >= PREMIER_RECENT;
-        index == 0 ? fenetres_.NouveauCorpus() : fenetres_.OuvrirCorpus();
-    });
-    garder([&] {
-        fenetres_.montrer(Fenetre::FrmCorpus);
-        fenetres_.decharger(Fenetre::FrmIntro);
-    });
+void FrmIntro::quitter(const std::function<void()>& ouverture) {
+    garder(ouverture);
+    garder([&] { continuer(); });
 }
 
 void FrmIntro::testerSon() {
@@ -183,13 +234,6 @@ void FrmIntro::TimerSon_Tick() {
         obstacle = "Aucune sortie son : la lecture est silencieuse.";
     LblSon_->setText(utf8VersQt(obstacle));
     if (!obstacle.empty() || ++ticsSon_ >= TICS_SON_MAX) TimerSon_.stop();
-}
-
-void FrmIntro::keyPressEvent(QKeyEvent* evenement) {
-    if (evenement->key() == Qt::Key_Up || evenement->key() == Qt::Key_Down)
-        focusNextPrevChild(evenement->key() == Qt::Key_Down);
-    else
-        Forme::keyPressEvent(evenement);
 }
 
 } // namespace vermo

@@ -1,8 +1,10 @@
 #pragma once
+#include "window/ui/Commandes.h"
 #include "window/ui/Forme.h"
 
 #include <QLabel>
 #include <QTimer>
+#include <functional>
 
 namespace vermo {
 
@@ -20,22 +22,30 @@ class FrmIntro : public Forme {
     Q_OBJECT
   public:
     FrmIntro(Session& session, Plateforme& plateforme, Fenetres& fenetres);
+    static TableCommandes commandes();
 
     /// Tells what hinders the sound that is being tested.
     void TimerSon_Tick();
-
-  protected:
-    void keyPressEvent(QKeyEvent* evenement) override;
 
   private:
     void peindreFond();
     void decouper();
     void ajouterBoutons();
     void listerCorpus();
-    Lien* ajouterLigne(int index, const QString& texte);
-    void clicCorpus(int index, const Utf8& chemin);
+    Lien* placerLigne(int index, Lien* ligne);
+    Lien* ajouterRecent(int index, const Utf8& chemin);
+    void creer();
+    void choisir();
+    void ouvrir(const Utf8& chemin);
+    void quitter(const std::function<void()>& ouverture);
+    void continuer();
+    void arreter() { fenetres_.finir(); }
     void testerSon();
+    void lignePrecedente() { focusNextPrevChild(false); }
+    void ligneSuivante() { focusNextPrevChild(true); }
 
+    static const Commande COMMANDES[];
+    Commandes commandes_{*this, commandes()};
     Toile* Picture1_;
     QLabel* LblSon_;
     QTimer TimerSon_;

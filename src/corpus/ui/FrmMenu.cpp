@@ -7,7 +7,6 @@
 #include "window/ui/Theme.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QWindow>
 #include <algorithm>
@@ -23,7 +22,9 @@ FrmMenu::FrmMenu(Session& session, Plateforme& plateforme, Fenetres& fenetres)
     : Forme("FrmMenu", session, plateforme, fenetres) {
     setWindowTitle(QStringLiteral("Menu"));
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+    commandes_.avantBouton = [this] { hide(); };
     construirePanneaux();
+    commandes_.ecouter();
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &FrmMenu::suivreActivation);
     Timer1_.setInterval(1);
     connect(&Timer1_, &QTimer::timeout, this, [this] { garder([this] { Timer1_Tick(); }); });
@@ -74,22 +75,6 @@ void FrmMenu::suivreActivation(const QWindow* fenetre) {
         active_ = true;
     else if (active_ && isVisible())
         hide();
-}
-
-void FrmMenu::keyPressEvent(QKeyEvent* evenement) {
-    switch (evenement->key()) {
-    case Qt::Key_Escape:
-        hide();
-        break;
-    case Qt::Key_Up:
-        focusNextPrevChild(false);
-        break;
-    case Qt::Key_Down:
-        focusNextPrevChild(true);
-        break;
-    default:
-        Forme::keyPressEvent(evenement);
-    }
 }
 
 void FrmMenu::hideEvent(QHideEvent* evenement) {

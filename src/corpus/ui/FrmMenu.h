@@ -1,4 +1,6 @@
 #pragma once
+#include "window/Fenetres.h"
+#include "window/ui/Commandes.h"
 #include "window/ui/Forme.h"
 
 #include <QFrame>
@@ -23,6 +25,7 @@ class FrmMenu : public Forme {
     Q_OBJECT
   public:
     FrmMenu(Session& session, Plateforme& plateforme, Fenetres& fenetres);
+    static TableCommandes commandes();
 
     void montrer(const Contenu& contenu) override;
     /// Shows the panel under `ancre` (twips of the screen), brought within the screen. A title's panel fades
@@ -34,26 +37,37 @@ class FrmMenu : public Forme {
     void Timer1_Tick();
 
   protected:
-    void keyPressEvent(QKeyEvent* evenement) override;
     void hideEvent(QHideEvent* evenement) override;
     void leaveEvent(QEvent* evenement) override;
     void paintEvent(QPaintEvent* evenement) override;
 
   private:
-    using Action = void (*)(Session&, Fenetres&);
-
     void construirePanneaux();
     QVBoxLayout* ajouterPanneau(Panneau panneau, const QString& titre);
-    void ajouterCommande(QVBoxLayout* colonne, int index);
-    BoutonImage* ajouterIcone(const char* nom, const char* image, const QString& bulle, QWidget* parent,
-                              Action action);
+    void ajouterCommande(QVBoxLayout* colonne, std::string_view commande);
+    BoutonImage* ajouterIcone(std::string_view commande, QWidget* parent);
     void ajouterEntretienCourant(QVBoxLayout* colonne);
     void ajouterVolume(QVBoxLayout* colonne);
     void listerCorpus();
     void montrerEntretienCourant();
     void suivreActivation(const QWindow* fenetre);
-    void executer(Action action);
 
+    // What the commands do.
+    bool entretienChoisi() const;
+    void ouvrirParDialogue();
+    void ouvrirRecent(const Utf8& chemin);
+    void lire();
+    void basculer();
+    void nouveauCorpus() { fenetres_.NouveauCorpus(); }
+    void ajouterEntretien() { fenetres_.ImporterEntretien(); }
+    void tailleReelle();
+    void retirer() { fenetres_.retirerEntretien(); }
+    void fermer() { hide(); }
+    void lignePrecedente() { focusNextPrevChild(false); }
+    void ligneSuivante() { focusNextPrevChild(true); }
+
+    static const Commande COMMANDES[];
+    Commandes commandes_{*this, commandes()};
     std::map<Panneau, QFrame*> FrmMnu_;
     Panneau ouvert_ = Panneau::Corpus;
     QVBoxLayout* colonneRecents_ = nullptr;

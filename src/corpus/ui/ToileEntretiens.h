@@ -14,8 +14,7 @@ class Fenetres;
 ///
 /// Mouse: switch (click, double click), play button, double click on a name, a click on a bar or an extract
 /// chooses its interview, a row dragged by its number, name or switch onto another moves there.
-/// Keys besides those that choose: Enter opens the current row; Space switches it, Shift+Space leaves it
-/// alone on; Alt with an arrow moves it.
+/// What keys do with the current row is the window's commands'.
 class ToileEntretiens : public ToileDefilante {
     Q_OBJECT
   public:
@@ -25,6 +24,11 @@ class ToileEntretiens : public ToileDefilante {
     void redessiner();
     /// Shows nothing, scrolled to the top.
     void vider();
+
+    // For the window's commands; there must be a current row.
+    void ouvrirCourant();
+    void basculerCourant(bool seul);
+    void deplacerCourant(int pas); ///< by so many rows
 
     VueFrise vue() const;
     int courant() const override { return session_.corpus.EntretienCourant; }

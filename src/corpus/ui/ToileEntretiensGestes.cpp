@@ -99,22 +99,21 @@ void ToileEntretiens::deplacer(int source, int cible) {
     choisir(cible);
 }
 
+void ToileEntretiens::ouvrirCourant() {
+    fenetres_.montrer(Fenetre::FrmVisu, EntretienVoulu{courant(), Ouverture::AvecFondu});
+}
+
+void ToileEntretiens::basculerCourant(bool seul) {
+    basculer(courant(), seul);
+}
+
+void ToileEntretiens::deplacerCourant(int pas) {
+    deplacer(courant(), courant() + pas);
+}
+
+/// Alt with an arrow moves a row: where none is current, it chooses none either.
 bool ToileEntretiens::touche(int touche, Qt::KeyboardModifiers modificateurs) {
-    if (modificateurs & Qt::AltModifier) {
-        if (touche != Qt::Key_Up && touche != Qt::Key_Down) return false;
-        deplacer(courant(), touche == Qt::Key_Up ? courant() - 1 : courant() + 1);
-    } else if (ToileDefilante::touche(touche, modificateurs)) {
-        return true;
-    } else if (courant() == 0) {
-        return false;
-    } else if (touche == Qt::Key_Return || touche == Qt::Key_Enter) {
-        fenetres_.montrer(Fenetre::FrmVisu, EntretienVoulu{courant(), Ouverture::AvecFondu});
-    } else if (touche == Qt::Key_Space) {
-        basculer(courant(), modificateurs & Qt::ShiftModifier);
-    } else {
-        return false;
-    }
-    return true;
+    return !(modificateurs & Qt::AltModifier) && ToileDefilante::touche(touche, modificateurs);
 }
 
 } // namespace vermo

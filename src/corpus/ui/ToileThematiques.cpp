@@ -55,10 +55,8 @@ void ToileThematiques::basculer(int rang, bool seule) {
     fenetres_.annoncer({Sujet::Bascules});
 }
 
-bool ToileThematiques::touche(int touche, Qt::KeyboardModifiers modificateurs) {
-    if (touche != Qt::Key_Space) return ToileDefilante::touche(touche, modificateurs);
-    basculer(std::min(rang_, lignes().nombre()), modificateurs & Qt::ShiftModifier);
-    return true;
+void ToileThematiques::basculerChoisie(bool seule) {
+    basculer(std::min(rang_, lignes().nombre()), seule);
 }
 
 void ToileThematiques::resizeEvent(QResizeEvent* evenement) {

@@ -7,13 +7,14 @@ class Fenetres;
 struct Session;
 
 /// `Frm_thm`: the list of thematics. The left button switches one, the right button leaves it alone on.
-/// Keys besides those that choose one: Space switches it, Shift+Space leaves it alone on.
+/// What keys do with the current one is the window's commands'.
 class ToileThematiques : public ToileDefilante {
     Q_OBJECT
   public:
     ToileThematiques(Session& session, Fenetres& fenetres, QWidget* parent);
 
-    void redessiner(); ///< shows the thematics anew, from the Session
+    void redessiner();                ///< shows the thematics anew, from the Session
+    void basculerChoisie(bool seule); ///< for the window's commands; there must be a current one
 
     int courant() const override { return rang_; }
     QString nomDeLigne(int rang) const override;
@@ -24,7 +25,6 @@ class ToileThematiques : public ToileDefilante {
     void noterCourant(int rang) override;
     Twips hauteurSurface() const override { return hauteurTwips(); } ///< the rows share it
     void disposerPartie(Elements& liste, const Rectangle& partie) const override;
-    bool touche(int touche, Qt::KeyboardModifiers modificateurs) override;
     void resizeEvent(QResizeEvent* evenement) override;
 
   private:

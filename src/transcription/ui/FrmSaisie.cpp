@@ -11,7 +11,7 @@
 #include "window/ui/Lien.h"
 
 #include <QCloseEvent>
-#include <QKeyEvent>
+#include <QEvent>
 #include <QLabel>
 #include <utility>
 
@@ -41,6 +41,8 @@ FrmSaisie::FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetre
     creerTexte();
     creerPanneau();
     creerAjout();
+    commandes_.ecouter();
+    TextRtr_->installEventFilter(this); // after the commands, so as to hear of a key before one takes it
     Timer1_.start(50);
     placerLargeur(false);
 }
@@ -59,45 +61,32 @@ void FrmSaisie::creerEntete() {
     etiquette("lblfich", t::FICHIER, Qt::AlignHCenter);
     etat_ = etiquette("etat", t::ETAT, Qt::AlignHCenter);
     theme::habiller(etat_);
-    const auto fermer = [this](const char* nom, const QString& icone, const QString& bulle,
-                               const Rectangle& cadre) {
-        auto* bouton = new BoutonImage(QLatin1String(nom), icone, bulle, this);
-        poser(bouton, cadre);
-        return bouton;
-    };
-    connect(fermer("lbl_fermer0", QStringLiteral("Fermer"),
-                   QStringLiteral("Quitter sans enregistrer (Échap)"), t::LBL_FERMER_0),
-            &BoutonImage::clicked, this, [this] { garder([this] { FermerSaisie(); }); });
-    connect(fermer("lbl_fermer1", QStringLiteral("Plier"), QStringLiteral("Replier le volet des thématiques"),
-                   t::LBL_FERMER_1),
-            &BoutonImage::clicked, this, [this] { placerLargeur(false); });
+    creerBouton("quitter", t::LBL_FERMER_0);
+    creerBouton("replier", t::LBL_FERMER_1);
+}
+
+BoutonImage* FrmSaisie::creerBouton(std::string_view commande, const Rectangle& cadre) {
+    BoutonImage* bouton = commandes_.bouton(commande, this);
+    poser(bouton, cadre);
+    return bouton;
 }
 
 void FrmSaisie::creerTexte() {
     lbl_thm_ = new Lien(QStringLiteral("lbl_thm"), QString(), this, 11);
-    lbl_thm_->setToolTip(QStringLiteral("Choisir la thématique de l'extrait"));
+    lbl_thm_->setToolTip(commandes_.bulle("deplier"));
     poser(lbl_thm_, t::LBL_THM);
-    connect(lbl_thm_, &Lien::clicked, this, [this] { placerLargeur(true); });
+    commandes_.relier("deplier", lbl_thm_);
     TextRtr_ = new EditeurRtr(this);
     theme::habiller(TextRtr_);
     poser(TextRtr_, t::TEXTRTR);
-    TextRtr_->installEventFilter(this);
     connect(TextRtr_, &EditeurRtr::refusesChanges, this, [this](int nombre) {
         etat_->setText(
             nombre == 0
                 ? QString()
                 : QStringLiteral("Caractères impossibles à enregistrer, marqués en rouge : %1").arg(nombre));
     });
-    Imgsuppr_ = new BoutonImage(QStringLiteral("Imgsuppr"), QStringLiteral("Supprimer"),
-                                QStringLiteral("Supprimer l'extrait"), this);
-    Imgsuppr_->iconePressee(QStringLiteral("SupprimerPresse"));
-    poser(Imgsuppr_, t::IMGSUPPR);
-    connect(Imgsuppr_, &BoutonImage::clicked, this, [this] { garder([this] { supprimer(); }); });
-    Imgbtn0_ = new BoutonImage(QStringLiteral("Imgbtn0"), QStringLiteral("Valider"),
-                               QStringLiteral("Valider l'extrait (Ctrl + Entrée)"), this);
-    Imgbtn0_->iconePressee(QStringLiteral("ValiderPresse"));
-    poser(Imgbtn0_, t::IMGBTN_0);
-    connect(Imgbtn0_, &BoutonImage::clicked, this, [this] { garder([this] { valider(); }); });
+    Imgsuppr_ = creerBouton("supprimer", t::IMGSUPPR);
+    creerBouton("valider", t::IMGBTN_0);
 }
 
 void FrmSaisie::montrer(const Contenu& contenu) {
@@ -241,47 +230,10 @@ void FrmSaisie::closeEvent(QCloseEvent* evenement) {
 }
 
 bool FrmSaisie::eventFilter(QObject* objet, QEvent* evenement) {
-    if (evenement->type() == QEvent::KeyPress) {
-        auto* touche = static_cast<QKeyEvent*>(evenement);
-        bool prise = false;
-        garder([&] {
-            if (objet == TextRtr_)
-                prise = toucheTexte(touche);
-            else if (objet == FrmThms_)
-                prise = touchePanneau(touche);
-            if (prise || touche->key() != Qt::Key_Escape) return;
-            prise = true;
-            objet == TextRtr_ ? FermerSaisie() : placerLargeur(false);
-        });
-        if (prise) return true;
-    }
+    if (objet == TextRtr_ && evenement->type() == QEvent::KeyPress) session_.transcription.Compteur = 0;
     if (objet == ImgMedia_ && evenement->type() == QEvent::Enter) LblTip_->show();
     if (objet == ImgMedia_ && evenement->type() == QEvent::Leave) LblTip_->hide();
     return Forme::eventFilter(objet, evenement);
-}
-
-bool FrmSaisie::toucheTexte(QKeyEvent* touche) {
-    session_.transcription.Compteur = 0;
-    const bool alt = touche->modifiers() & Qt::AltModifier;
-    const bool controle = touche->modifiers() & Qt::ControlModifier;
-    switch (touche->key()) {
-    case Qt::Key_Space:
-        if (alt || controle) basculerLecture();
-        return alt || controle;
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-        if (alt) positionner(plateforme_.media.currentPosition() + (touche->key() == Qt::Key_Left ? -1 : 1));
-        return alt;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (controle)
-            valider();
-        else if (session_.transcription.DicteeActive)
-            portionSuivante();
-        return controle || session_.transcription.DicteeActive;
-    default:
-        return false;
-    }
 }
 
 void FrmSaisie::FermerSaisie() {

@@ -1,6 +1,7 @@
 #pragma once
 #include "audio/Onde.h"
 #include "corpus/Session.h"
+#include "window/ui/Commandes.h"
 #include "window/ui/Forme.h"
 #include "window/ui/Theme.h"
 #include "window/ui/Toile.h"
@@ -23,11 +24,12 @@ class Lien;
 /// The rules stand in transcription/Saisie.h; this class only places controls, asks them, and tells the
 /// player. Split by concern: FrmSaisie.cpp (making and opening), FrmSaisieEcoute.cpp (player, timers,
 /// waveform), FrmSaisieOptions.cpp (dictation, seconds, speed), FrmSaisieThematiques.cpp (panel and new
-/// thematic).
+/// thematic), FrmSaisieCommandes.cpp (what its buttons and keys do).
 class FrmSaisie : public Forme {
     Q_OBJECT
   public:
     FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent = nullptr);
+    static TableCommandes commandes();
 
     /// Opens the span SaisieDebut..SaisieFin as a new extract, the panel of thematics out.
     void montrer(const Contenu& contenu) override;
@@ -57,6 +59,7 @@ class FrmSaisie : public Forme {
 
   private:
     // FrmSaisie.cpp
+    BoutonImage* creerBouton(std::string_view commande, const Rectangle& cadre);
     void creerEntete();
     void creerTexte();
     void preparer();     ///< resets the window for the open span and draws it
@@ -69,7 +72,6 @@ class FrmSaisie : public Forme {
     bool cacherPour(const std::function<bool()>& ecrire);
     void valider();
     void supprimer();
-    bool toucheTexte(QKeyEvent* touche);
     bool texteValide(Texte& texte); ///< false, and told, when CP1252 can't hold it
 
     // FrmSaisieEcoute.cpp, FrmSaisieOptions.cpp
@@ -102,14 +104,27 @@ class FrmSaisie : public Forme {
     void creerAjout();
     void choisirThematique(int rang);
     void surlignerThematique(int rang);
-    bool touchePanneau(QKeyEvent* touche);
     void deroulerPanneau(Twips pas);
     void choisirCouleur(int index);
     void colorerAjout(Couleur couleur);
     void reinitialiserAjout();
     void ajouterThematique();
 
+    // FrmSaisieCommandes.cpp
+    bool dicteeActive() const;
+    void deplier() { placerLargeur(true); }
+    void plier() { placerLargeur(false); }
+    void reculerSeconde();
+    void avancerSeconde();
+    void basculerBoucle();
+    void basculerDicteeAuto();
+    void coder() { choisirThematique(rangSurvole_); }
+    void lignePrecedente() { surlignerThematique(rangSurvole_ - 1); }
+    void ligneSuivante() { surlignerThematique(rangSurvole_ + 1); }
+
     Ecoute ecoute_, deplacements_; ///< of the player
+    static const Commande COMMANDES[];
+    Commandes commandes_{*this, commandes()};
     PointsOnde PointsSaisie_;
     Toile* Picture1_ = nullptr; ///< the window's ground, by which it is moved
     Toile* Pict_saisie_ = nullptr;
@@ -121,7 +136,7 @@ class FrmSaisie : public Forme {
     Lien* lbl_thm_ = nullptr;
     EditeurRtr* TextRtr_ = nullptr;
     QLineEdit *TXTcodethem_ = nullptr, *TxtThema_ = nullptr;
-    BoutonImage *ImgMedia_ = nullptr, *Imgsuppr_ = nullptr, *Imgbtn0_ = nullptr;
+    BoutonImage *ImgMedia_ = nullptr, *Imgsuppr_ = nullptr;
     std::array<BoutonImage*, 2> ImgPlus_{};
     std::array<BoutonImage*, 3> BtnOpt_{};
     QTimer Timer1_, Timer2_, Timer3_, Timer4_;

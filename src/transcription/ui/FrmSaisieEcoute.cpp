@@ -22,26 +22,15 @@ void FrmSaisie::creerEcoute() {
     Pict_saisie_->surMouvement = [this](const Souris& souris) { ondeGlissee(souris); };
     Pict_saisie_->surRelachement = [this](const Souris& souris) { ondeRelachee(souris); };
 
-    ImgMedia_ = new BoutonImage(QStringLiteral("ImgMedia1"), QStringLiteral("Pause"),
-                                QStringLiteral("Lire ou arrêter (Alt + Espace)"), this);
-    poser(ImgMedia_, t::IMGMEDIA);
-    connect(ImgMedia_, &BoutonImage::clicked, this, [this] { garder([this] { basculerLecture(); }); });
-    LblTip_ = new QLabel(QStringLiteral("[Alt + Espace]"), this);
+    ImgMedia_ = creerBouton("lecture", t::IMGMEDIA);
+    LblTip_ = new QLabel(commandes_.avecTouches("[{lecture}]"), this);
     LblTip_->setObjectName(QStringLiteral("LblTip"));
     LblTip_->setAlignment(Qt::AlignCenter);
     poser(LblTip_, t::LBLTIP);
     LblTip_->hide();
     ImgMedia_->installEventFilter(this);
 
-    const char* const bulles[] = {"Allonger la portion", "Arrêter l'allongement"};
-    const char* const icones[] = {"Allonger", "ArreterAllonger"};
-    for (std::size_t i = 0; i < 2; ++i) {
-        ImgPlus_[i] = new BoutonImage(QStringLiteral("ImgPlus%1").arg(i), QLatin1String(icones[i]),
-                                      QString::fromUtf8(bulles[i]), this);
-        poser(ImgPlus_[i], t::IMGPLUS);
-        connect(ImgPlus_[i], &BoutonImage::clicked, this,
-                [this, i] { garder([this, i] { i == 0 ? allonger() : finirAllongement(); }); });
-    }
+    ImgPlus_ = {creerBouton("allonger", t::IMGPLUS), creerBouton("arreter-allongement", t::IMGPLUS)};
     ImgPlus_[1]->hide();
 
     connect(&Timer1_, &QTimer::timeout, this, [this] { garder([this] { Timer1_Tick(); }); });

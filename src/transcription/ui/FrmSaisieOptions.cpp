@@ -19,22 +19,11 @@ void FrmSaisie::creerOptions() {
 }
 
 void FrmSaisie::creerBoutonsDictee() {
-    const char* const icones[] = {"Boucle", "Dictee", "DicteeAuto"};
-    const char* const bulles[] = {
-        "Répéter la portion", "Dictée par portions (Entrée : portion suivante)",
-        "Dictée automatique : la suite vient trois secondes après la dernière touche"};
-    const Rectangle cadres[] = {t::BTNOPT_0, t::BTNOPT_1, t::BTNOPT_2};
-    for (std::size_t i = 0; i < 3; ++i) {
-        BtnOpt_[i] = new BoutonImage(QStringLiteral("BtnOpt%1").arg(i), QLatin1String(icones[i]),
-                                     QString::fromUtf8(bulles[i]), this);
-        BtnOpt_[i]->setCheckable(true);
-        poser(BtnOpt_[i], cadres[i]);
-    }
+    BtnOpt_ = {creerBouton("boucle", t::BTNOPT_0), creerBouton("dictee", t::BTNOPT_1),
+               creerBouton("dictee-auto", t::BTNOPT_2)};
+    for (BoutonImage* bouton : BtnOpt_)
+        bouton->setCheckable(true);
     BtnOpt_[1]->caseIcone(BtnOpt_[1]->width()); // it widens
-    auto& etat = session_.transcription;
-    connect(BtnOpt_[0], &BoutonImage::clicked, this, [&etat](bool allume) { etat.BoucleDictee = allume; });
-    connect(BtnOpt_[1], &BoutonImage::clicked, this, [this] { garder([this] { basculerDictee(); }); });
-    connect(BtnOpt_[2], &BoutonImage::clicked, this, [&etat](bool allume) { etat.DicteeAuto = allume; });
 
     LblTimer_ = new QLabel(this);
     LblTimer_->setObjectName(QStringLiteral("LblTimer"));

@@ -9,7 +9,6 @@
 #include "window/ui/Glace.h"
 #include "window/ui/Lien.h"
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -34,11 +33,10 @@ void FrmSaisie::creerPanneau() {
     titre(3, t::LABEL3_3);
     FrmThms_ = new Toile(QStringLiteral("FrmThms"), this);
     FrmThms_->setAccessibleName(
-        QStringLiteral("Thématiques : flèches pour choisir, Entrée pour coder l'extrait"));
+        commandes_.avecTouches("Thématiques : flèches pour choisir, {coder} pour coder l'extrait"));
     FrmThms_->setFocusPolicy(Qt::StrongFocus);
     FrmThms_->fond(theme::FENETRE);
     poser(FrmThms_, t::FRMTHMS);
-    FrmThms_->installEventFilter(this);
     FrmThms_->surClic = [this](const Souris& souris) {
         if (souris.element != nullptr && souris.element->index > 0) choisirThematique(souris.element->index);
     };
@@ -63,14 +61,7 @@ void FrmSaisie::creerAjout() {
         poser(pastille, cadre);
         connect(pastille, &Pastille::clicked, this, [this, i] { choisirCouleur(i); });
     }
-    auto* ajouter = new BoutonImage(QStringLiteral("Imgbtn2"), QStringLiteral("AjouterThm"),
-                                    QStringLiteral("Ajouter la thématique"), this);
-    ajouter->iconePressee(QStringLiteral("AjouterThmPresse"));
-    poser(ajouter, t::IMGBTN_2);
-    connect(ajouter, &BoutonImage::clicked, this, [this] { garder([this] { ajouterThematique(); }); });
-    connect(TxtThema_, &QLineEdit::returnPressed, this, [this] { garder([this] { ajouterThematique(); }); });
-    for (QWidget* champ : {static_cast<QWidget*>(TXTcodethem_), static_cast<QWidget*>(TxtThema_)})
-        champ->installEventFilter(this);
+    creerBouton("ajouter-thematique", t::IMGBTN_2);
 }
 
 void FrmSaisie::ConstruireThematiques() {
@@ -91,25 +82,6 @@ void FrmSaisie::deroulerPanneau(Twips pas) {
     const Twips maximum = std::max(0.0, hauteurPanneau_ - t::FRMTHMS.hauteur);
     defilementPanneau_ = std::clamp(defilementPanneau_ + pas, 0.0, maximum);
     FrmThms_->decalage(0, defilementPanneau_);
-}
-
-bool FrmSaisie::touchePanneau(QKeyEvent* touche) {
-    switch (touche->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        surlignerThematique(rangSurvole_ + (touche->key() == Qt::Key_Down ? 1 : -1));
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
-        if (touche->modifiers() & (Qt::AltModifier | Qt::ControlModifier))
-            basculerLecture();
-        else
-            choisirThematique(rangSurvole_);
-        return true;
-    default:
-        return false;
-    }
 }
 
 void FrmSaisie::surlignerThematique(int rang) {
