@@ -54,20 +54,14 @@ TEST(Wave, EveryPointIsTheSampleAtItsPlace) {
     const DossierTemporaire dossier;
     constexpr long largeur = 700;
     constexpr std::int16_t absent = -1;
-    for (const auto& [canaux, bits, pas] : {std::tuple(1, 8, 1),
-                                            {1, 8, 13},
-                                            {2, 8, 6},
-                                            {1, 16, 2},
-                                            {1, 16, 14},
-                                            {2, 16, 4},
-                                            {2, 16, 20},
-                                            {1, 16, 512},
-                                            {1, 16, 514}}) {
+    const struct {
+        int canaux, bits, pas;
+    } cas[] = {{1, 8, 1},  {1, 8, 13},  {2, 8, 6},    {1, 16, 2},  {1, 16, 14},
+               {2, 16, 4}, {2, 16, 20}, {1, 16, 512}, {1, 16, 514}};
+    for (const auto& [canaux, bits, pas] : cas) {
         const int nombre = static_cast<int>(largeur) * pas / (bits / 8);
         const auto son = [](std::size_t i) { return static_cast<std::int16_t>(i * 31 % 32749); };
-        const Utf8 chemin = dossier.ecrire("a.wav", wav(canaux, bits, echantillons(nombre, bits, [&](int i) {
-                                                            return son(std::size_t(i));
-                                                        })));
+        const Utf8 chemin = dossier.ecrire("a.wav", wav(canaux, bits, echantillons(nombre, bits, son)));
         PointsOnde points;
         points.points.assign(2 * largeur, absent);
         points.octets.assign(2 * largeur, 0);
