@@ -2,8 +2,8 @@
 #include "window/Detourage.h"
 #include "window/Placement.h"
 
-#include "support/DialoguesScriptees.h"
-#include "support/DossierTemporaire.h"
+#include "support/PlateformeDeTest.h"
+#include "window/Fenetres.h"
 
 #include <cstdlib>
 #include <ctime>
@@ -46,47 +46,44 @@ TEST(Placement, KeepsToTheScreen) {
         EXPECT_EQ(dansEcran(cas.voulu, zone), cas.obtenu) << cas.voulu.gauche << "," << cas.voulu.haut;
 }
 
-/// Local time of a place that keeps summer time.
-class FileDates : public testing::Test {
-  protected:
-    void SetUp() override { fuseau("CET-1CEST,M3.5.0,M10.5.0/3"); }
-    void TearDown() override { fuseau(nullptr); }
-    static void fuseau(const char* nom) {
+/// In a place that keeps summer time.
+TEST(FileDates, GiveTheLocalTimeOfTheLastWrite) {
+    const essai::DossierTemporaire dossier;
+    essai::DialoguesScriptees dialogues;
+    const auto fuseau = [](const char* nom) {
         nom ? setenv("TZ", nom, 1) : unsetenv("TZ");
         tzset();
-    }
-    static std::int64_t local(int an, int mois, int jour, int heure, int minute) {
-        std::tm champs{};
-        champs.tm_year = an - 1900, champs.tm_mon = mois - 1, champs.tm_mday = jour;
-        champs.tm_hour = heure, champs.tm_min = minute;
-        return timegm(&champs);
-    }
-    essai::DossierTemporaire dossier;
-    essai::DialoguesScriptees dialogues;
-};
-
-TEST_F(FileDates, GiveTheLocalTimeOfTheLastWrite) {
+    };
+    fuseau("CET-1CEST,M3.5.0,M10.5.0/3");
     const Utf8 chemin = dossier.ecrire("entretien été.wav", "RIFF");
     // 2009-01-03 12:30 and 2009-07-03 12:30, universal time.
-    for (const auto& [universel, attendu] : {std::pair{1230985800L, local(2009, 1, 3, 13, 30)},
-                                             std::pair{1246624200L, local(2009, 7, 3, 14, 30)}}) {
+    for (const auto& [universel, heures] : {std::pair{1230985800L, 1}, {1246624200L, 2}}) {
         const timespec temps[2] = {{universel, 0}, {universel, 999999999}};
         ASSERT_EQ(utimensat(AT_FDCWD, chemin.c_str(), temps, 0), 0);
         const auto dates = LireDatesFichier(chemin, dialogues);
         ASSERT_TRUE(dates);
-        EXPECT_EQ(dates->modification.secondes, attendu);
-        EXPECT_GE(dates->creation.secondes, attendu);
+        EXPECT_EQ(dates->modification.secondes, universel + heures * 3600);
+        EXPECT_GE(dates->creation.secondes, universel + heures * 3600);
     }
+    fuseau(nullptr);
 }
 
-TEST_F(FileDates, OfAFileThatDoesNotOpenAreTold) {
-    for (const Utf8& nom : {Utf8("absent.wav"), Utf8("dossier.wav/")}) {
-        mkdir(dossier.chemin("dossier.wav").c_str(), 0700);
-        dialogues.repondre(Reponse::Ok);
-        EXPECT_FALSE(LireDatesFichier(dossier.chemin(nom), dialogues));
-        EXPECT_EQ(dialogues.dernier(),
-                  "|Impossible ouvrir le fichier : " + dossier.chemin(nom) + "|Ok|Exclamation -> Ok");
-    }
+TEST(Player, AListenerMayLeaveWhileItIsTold) {
+    essai::LecteurSimule lecteur;
+    std::string dit;
+    Ecoute seconde;
+    const Ecoute premiere = lecteur.ecouter([&](EtatLecture etat) {
+        dit += "1:" + std::to_string(static_cast<int>(etat)) + " ";
+        if (etat == EtatLecture::EnPause) seconde.reset();
+    });
+    seconde = lecteur.ecouter([&](EtatLecture) { dit += "2 "; });
+    lecteur.URL("a.wav", Fenetre::FrmVisu);
+    lecteur.play();
+    lecteur.pause();
+    EXPECT_EQ(lecteur.proprietaire(), Fenetre::FrmVisu);
+    lecteur.URL("");
+    EXPECT_EQ(lecteur.proprietaire(), std::nullopt);
+    EXPECT_EQ(dit, "1:9 2 1:1 2 1:3 2 1:2 1:0 ");
 }
 
 } // namespace

@@ -40,29 +40,22 @@ TEST(WordLayout, OneColumn) {
 }
 
 TEST(WordLayout, ColumnsFromTenLinesOn) {
-    struct Cas {
+    const struct {
         int lignes, colonnes, parColonne;
-    };
-    for (const Cas& cas : {Cas{9, 2, 9}, {10, 2, 5}, {11, 2, 6}, {10, 3, 4}, {10, 0, 5}}) {
+    } cas[] = {{9, 2, 9}, {10, 2, 5}, {11, 2, 6}, {10, 3, 4}, {10, 0, 5}};
+    ReglagesMots reglages{.depart = 5000, .haut = 300, .LargeurTexte = 6000, .PasListe = 195};
+    for (const auto& c : cas) {
         Texte texte;
-        for (int n = 0; n < cas.lignes; ++n)
-            texte += "a\r";
-        const ReglagesMots reglages{.LargeurTexte = 40000, .ColonnesTexte = cas.colonnes, .PasListe = 195};
+        for (int n = 0; n < c.lignes; ++n)
+            texte += "a x\r";
+        reglages.ColonnesTexte = c.colonnes;
         const MotsDisposes disposes = disposerMots(texte, reglages, essai::metriquesFixes);
-        EXPECT_EQ(disposes.lignesParColonne, cas.parColonne) << cas.lignes << " lines, " << cas.colonnes;
+        EXPECT_EQ(disposes.lignesParColonne, c.parColonne) << c.lignes << " lines, " << c.colonnes;
+        if (c.lignes != 11) continue;
+        const Mot &finColonne = disposes.mots[11], &second = disposes.mots[12];
+        EXPECT_EQ(std::pair(finColonne.gauche, finColonne.haut), std::pair(5230.0, 300 + 5 * 195.0));
+        EXPECT_EQ(std::pair(second.gauche, second.haut), std::pair(8000.0, 300.0));
     }
-}
-
-TEST(WordLayout, TheSecondColumnStartsAtItsWidth) {
-    Texte texte;
-    for (char c = 'a'; c < 'a' + 11; ++c)
-        texte += Texte{c} + " x\r";
-    const ReglagesMots reglages{
-        .depart = 5000, .haut = 300, .LargeurTexte = 6000, .ColonnesTexte = 2, .PasListe = 195};
-    const MotsDisposes disposes = disposerMots(texte, reglages, essai::metriquesFixes);
-    const Mot &finColonne = disposes.mots[11], &second = disposes.mots[12];
-    EXPECT_EQ((std::vector{finColonne.gauche, finColonne.haut}), (std::vector<Twips>{5230, 300 + 5 * 195}));
-    EXPECT_EQ((std::vector{second.gauche, second.haut}), (std::vector<Twips>{8000, 300}));
 }
 
 } // namespace
