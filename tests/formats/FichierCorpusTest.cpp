@@ -7,10 +7,9 @@ namespace vermo::crp {
 namespace {
 
 const std::string CORPUS =
-    "Projet cr\xE9"
-    "e le 03/04/2009 \xE0 14:05:06\r\n<|THEM|\r\n000,&H0, Pas de th\xE9matique\r\n"
-    "001,255,Famille, enfance\r\n>|THEM|\r\n<|POS|\r\n4,Profession\r\n>|POS|\r\n<|DIC|\r\n"
-    "4,1,Enseignant, chercheur\r\n>|DIC|\r\n<|ENTR|\r\na.wav\r\n>|ENTR|\r\n";
+    depuisUtf8("Projet crée le 03/04/2009 à 14:05:06\r\n<|THEM|\r\n000,&H0, Pas de thématique\r\n"
+               "001,255,Famille, enfance\r\n>|THEM|\r\n<|POS|\r\n4,Profession\r\n>|POS|\r\n<|DIC|\r\n"
+               "4,1,Enseignant, chercheur\r\n>|DIC|\r\n<|ENTR|\r\na.wav\r\n>|ENTR|\r\n");
 
 TEST(CorpusFile, ReadsItsFourSections) {
     using Textes = std::vector<Texte>;
@@ -30,24 +29,23 @@ TEST(CorpusFile, ReadsItsFourSections) {
 }
 
 TEST(CorpusFile, RefusesWithTheLine) {
-    const auto plein = [](const char* ligne, int fois) {
-        std::string texte;
-        while (fois-- > 0)
-            texte += ligne;
-        return texte;
-    };
+    std::string thematiques, entretiens; // a thousand of each
+    for (int fois = 0; fois < 1000; ++fois)
+        thematiques += "000,0,a\r\n";
+    for (int fois = 0; fois < 1000; ++fois)
+        entretiens += "a.wav\r\n";
     const std::tuple<std::string, std::string, std::size_t> cas[] = {
         {"THEM", "000,0,a\r\n\r\n001 0 b\r\n", 4},
         {"THEM", "000,0 a\r\n", 2},
         {"THEM", "000,rouge,a\r\n", 2},
         {"THEM", std::string("000,0,a\0b\r\n", 11), 2},
-        {"THEM", plein("000,0,a\r\n", 1000), 1001},
+        {"THEM", thematiques, 1001},
         {"POS", "Sexe\r\n", 2},
         {"POS", "1,Sexe\r\n100,Age\r\n", 3},
         {"DIC", "4,1\r\n", 2},
         {"DIC", "4,0,Non\r\n", 2},
         {"DIC", "4,99999999999,Non\r\n", 2},
-        {"ENTR", plein("a.wav\r\n", 1000), 1001},
+        {"ENTR", entretiens, 1001},
         {"ENTR", std::string("a\0.wav", 6), 2}};
     for (const auto& [section, contenu, ligne] : cas) {
         const std::string octets = "<|" + section + "|\r\n" + contenu;
@@ -70,37 +68,27 @@ TEST(CorpusFile, RewritingThematicsKeepsNamesAndDropsEmptyCodes) {
                                            {"", "255", "perdue"},
                                            {"002", "16711680", " \"La\", vie \"dite\"\" bonne\""},
                                            {"003", "1", "\"Jo\", boulanger"}};
-    const auto ecrit = ecrireThematiques(CORPUS, rangs);
-    ASSERT_TRUE(ecrit);
-    EXPECT_EQ(*ecrit, CORPUS.substr(0, CORPUS.find("001,255")) +
-                          "002,16711680, \"La\", vie \"dite\"\" bonne\"\r\n003,1,\"Jo\", boulanger\r\n" +
-                          CORPUS.substr(CORPUS.find(">|THEM|")));
-    EXPECT_EQ(lireThematiques(*ecrit, ""), (std::vector<Thematique>{rangs[0], rangs[2], rangs[3]}));
-    EXPECT_EQ(ecrireThematiques(*ecrit, {rangs[0], rangs[2], rangs[3]}), *ecrit);
-}
-
-TEST(CorpusFile, RewritingThematicsSplitsTheHeadAlone) {
+    const std::string ecrit = CORPUS.substr(0, CORPUS.find("001,255")) +
+                              "002,16711680, \"La\", vie \"dite\"\" bonne\"\r\n003,1,\"Jo\", boulanger\r\n" +
+                              CORPUS.substr(CORPUS.find(">|THEM|"));
+    EXPECT_EQ(ecrireThematiques(CORPUS, rangs), ecrit);
+    EXPECT_EQ(ecrireThematiques(ecrit, lireThematiques(ecrit, "").value()), ecrit);
+    // The head alone is split at its commas.
     EXPECT_EQ(ecrireThematiques(
                   "Projet, dit  test\r \"entre, guillemets\"\rx <|THEM|\rvieux\r>|THEM|\r a, \"b\"\r\rfin",
                   {{"000", "0", "n"}}),
               "Projet\r\ndit  test\r\nentre, guillemets\r\nx <|THEM|\r\n000,0,n\r\n>|THEM|\r\n a, "
               "\"b\"\r\n\r\nfin\r\n");
-    EXPECT_EQ(ecrireThematiques("<|THEM|\r\nvieux\r\n", {}), "<|THEM|\r\n>|THEM|\r\n");
     EXPECT_EQ(ecrireThematiques("sans balise\r\n", {}), std::nullopt);
 }
 
 TEST(CorpusFile, RewritingInterviewsQuotesWhatFollows) {
-    const auto ecrit =
-        ecrireEntretiens("Projet, le 3\r<|THEM|\r>|THEM|\r<|ENTR|\rvieux.wav\r>|ENTR|\rune, note\r\r",
-                         {"a, b.wav", "", "\"c\".mp3"});
-    ASSERT_TRUE(ecrit);
-    EXPECT_EQ(*ecrit, "Projet, le 3\r\n<|THEM|\r\n>|THEM|\r\n<|ENTR|\r\na, b.wav\r\n\"c\".mp3\r\n>|ENTR|\r\n"
-                      "\"une, note\"\r\n\"\"\r\n");
-    EXPECT_EQ(lireEntretiens(*ecrit), (std::vector<Texte>{"a, b.wav", "\"c\".mp3"}));
-
-    const auto apresThematiques = ecrireThematiques(*ecrit, {});
-    EXPECT_EQ(apresThematiques->substr(apresThematiques->find("<|ENTR|")),
-              ecrit->substr(ecrit->find("<|ENTR|")));
+    const std::string ecrit = "Projet, le 3\r\n<|THEM|\r\n>|THEM|\r\n<|ENTR|\r\na, b.wav\r\n\"c\".mp3\r\n"
+                              ">|ENTR|\r\n\"une, note\"\r\n\"\"\r\n";
+    EXPECT_EQ(ecrireEntretiens("Projet, le 3\r<|THEM|\r>|THEM|\r<|ENTR|\rvieux.wav\r>|ENTR|\rune, note\r\r",
+                               {"a, b.wav", "", "\"c\".mp3"}),
+              ecrit);
+    EXPECT_EQ(lireEntretiens(ecrit), (std::vector<Texte>{"a, b.wav", "\"c\".mp3"}));
     EXPECT_EQ(ecrireEntretiens("<|ENTR|\r\na.wav", {"b.wav"}), "<|ENTR|\r\nb.wav\r\n>|ENTR|\r\n");
     EXPECT_FALSE(ecrireEntretiens("", {"a.wav"}));
 }

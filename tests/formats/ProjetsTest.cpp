@@ -11,8 +11,6 @@ TEST(RecentFile, IsReadByItemsAndKeepsTheOthers) {
     const auto lus = projets::lire("/a/\xE9t\xE9.Crp\r\n\r\n\"/b, c.Crp\"\r\n/d,/e\r/a/\xE9t\xE9.Crp");
     EXPECT_EQ(lus, (std::vector<Utf8>{"/a/été.Crp", "/b, c.Crp", "/d", "/e", "/a/été.Crp"}));
     EXPECT_EQ(projets::ecrire("/a/été.Crp", lus), "/a/\xE9t\xE9.Crp\r\n/b, c.Crp\r\n/d\r\n/e\r\n");
-    EXPECT_EQ(projets::ecrire("/n", {"", "/o"}), "/n\r\n/o\r\n");
-    EXPECT_TRUE(projets::lire("").empty());
     EXPECT_THROW(projets::ecrire("/中.Crp", {}), FauteExecution);
 }
 
