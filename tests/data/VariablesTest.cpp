@@ -43,8 +43,7 @@ TEST_F(Variables, AttributesWithoutALineStay) {
     session.corpus.Entretiens.resize(2);
     session.corpus.Entretiens[1].Fichier = "a.mp3";
     rtr::Attributs& attributs = session.corpus.Entretiens[1].Attributs;
-    for (const std::size_t note :
-         {0, 8000, 8160, 8180, 20000}) { // the section across and behind the first read
+    for (const std::size_t note : {0, 8000, 8160, 8180, 20000}) { // the section across the first read
         attributs = {};
         attributs[4] = 6;
         hote.dossier.ecrire("a.Rtr", "60\r\n<|OBS|\r\n" + std::string(note, 'n') +
