@@ -5,7 +5,6 @@
 #include "transcription/Marquage.h"
 
 #include <gtest/gtest.h>
-#include <set>
 
 namespace vermo::essai {
 namespace {
@@ -25,12 +24,6 @@ struct Vue : EntretienOuvert {
         return disposerBulles(session, largeur, 6000, metriquesFixes);
     }
 };
-
-/// What stands of `controles`, as text.
-std::string seuls(Elements elements, const std::set<Controle>& controles) {
-    std::erase_if(elements, [&](const Element& e) { return !controles.contains(e.controle); });
-    return decrire(elements);
-}
 
 TEST(ExtractTrack, BarsStandWhereTheirTimesDoInTheirColours) {
     Vue vue(0, 100, "::10.00::002\r\n::30.00::\r\n::60.00::777\r\n::50.00::\r\n");
@@ -83,25 +76,6 @@ LblMot[2] 3570,495 400x200 "deux" tag=1 encre=202024
 )");
     EXPECT_EQ(sous(vue.bulles(), 3050, 5500)->controle, C::ImgBulleInt);
     EXPECT_EQ(sous(vue.bulles(), 3500, 600)->controle, C::LbltxtXtrZ);
-}
-
-TEST(Bubbles, NarrowOnesAndThoseBeyondTheEdge) {
-    Vue vue(10, 20,
-            "::12.00::777\r\nmot\r\n::12.10::\r\n::15.00::001\r\nmot encore \r\n::95.00::\r\n"
-            "::14.00::000\r\n::19.00::\r\n");
-    vue.session.transcription.ExtraitFin[3] = {"fin", vue.session.reglages}; // no number: not shown
-    EXPECT_EQ(seuls(vue.bulles(9000), {C::ImgBulleBas, C::LbltitreXtrZ, C::LblMot}),
-              R"(ImgBulleBas[1] 1800,4825 180x180 tag=1 fond=F4F4F6
-ImgBulleBas[2] 1970,4825 15x180 tag=1 fond=F4F4F6
-ImgBulleBas[3] 1975,4825 180x180 tag=1 fond=F4F4F6
-LbltitreXtrZ[1] 2040,210 0x255 "Nom 003" tag=1 encre=030000 gras
-ImgBulleBas[4] 4500,4825 180x180 tag=2 fond=F4F4F6
-ImgBulleBas[5] 4670,4825 71640x180 tag=2 fond=F4F4F6
-ImgBulleBas[6] 76300,4825 180x180 tag=2 fond=F4F4F6
-LbltitreXtrZ[2] 4740,210 71600x255 "Nom 001" tag=2 encre=010000 gras
-LblMot[1] 4740,495 400x200 "mot " tag=1 encre=202024
-LblMot[2] 5170,495 700x200 "encore " tag=1 encre=202024
-)");
 }
 
 } // namespace
