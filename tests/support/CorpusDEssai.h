@@ -4,8 +4,8 @@
 #include "corpus/OuvertureCorpus.h"
 #include "support/PlateformeDeTest.h"
 
+#include <algorithm>
 #include <string>
-#include <vector>
 
 namespace vermo::essai {
 
@@ -74,20 +74,19 @@ inline Session corpusDEssai(int nombre) {
 inline std::string decrireExtraits(const Session& session, int slot) {
     std::string texte;
     for (int n = 1; !CorpusDebut(session, slot, n).empty(); ++n) {
-        if (n > 1) texte += "|";
+        texte += n > 1 ? "|" : "";
         for (const auto champ : {CorpusDebut, CorpusFin, CorpusThm, CorpusTexte})
             texte += std::string(champ(session, slot, n)) + ";";
     }
-    for (char& c : texte)
-        if (c == CR) c = '/';
+    std::ranges::replace(texte, CR, '/');
     return texte;
 }
 
 /// "a.wav b.wav …" in slot order.
 inline std::string ordre(const EtatCorpus& corpus) {
     std::string noms;
-    for (int i = 1; i <= corpus.NbEntretiens; ++i)
-        noms += corpus.Entretiens[static_cast<std::size_t>(i)].Fichier + " ";
+    for (std::size_t i = 1; i < corpus.Entretiens.size(); ++i)
+        noms += corpus.Entretiens[i].Fichier + " ";
     return noms;
 }
 

@@ -3,7 +3,6 @@
 
 #include <deque>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -81,9 +80,9 @@ class DialoguesScriptees : public Dialogues {
     }
 
     void noter(const std::string& ligne) {
-        std::string& seule = journal_.emplace_back();
-        for (char c : ligne)
-            seule += c == '\n' ? std::string("\\n") : std::string(1, c);
+        journal_.push_back(ligne);
+        for (std::size_t p = 0; (p = journal_.back().find('\n', p)) != std::string::npos;)
+            journal_.back().replace(p, 1, "\\n");
     }
 
     static Reponse parDefaut(Boutons boutons) {

@@ -1,12 +1,12 @@
 #pragma once
 #include "textfile/texte.h"
 
-#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -17,9 +17,7 @@ class DossierTemporaire {
   public:
     DossierTemporaire() {
         std::string modele = (std::filesystem::temp_directory_path() / "vermo-XXXXXX").string();
-        if (!mkdtemp(modele.data()))
-            throw std::filesystem::filesystem_error("mkdtemp",
-                                                    std::error_code(errno, std::generic_category()));
+        if (!mkdtemp(modele.data())) throw std::runtime_error("no directory " + modele);
         chemin_ = modele + "/";
     }
     DossierTemporaire(const DossierTemporaire&) = delete;
@@ -38,8 +36,7 @@ class DossierTemporaire {
     Utf8 ecrire(const Utf8& nom, std::string_view octets) const {
         std::filesystem::create_directories(std::filesystem::path(chemin(nom)).parent_path());
         std::ofstream fichier(chemin(nom), std::ios::binary);
-        fichier.write(octets.data(), static_cast<std::streamsize>(octets.size()));
-        fichier.close();
+        fichier << octets << std::flush;
         EXPECT_TRUE(fichier) << "cannot write " << chemin(nom);
         return chemin(nom);
     }

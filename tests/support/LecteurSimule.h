@@ -3,9 +3,7 @@
 
 #include <algorithm>
 #include <map>
-#include <sstream>
 #include <string>
-#include <vector>
 
 namespace vermo::essai {
 
@@ -20,9 +18,6 @@ class LecteurSimule : public LecteurMedia {
     bool tardif = false; ///< `play` is answered by `repondre()` only
 
     void repondre() { passer(EtatLecture::Lecture); }
-
-    /// Commands in order: "URL a.wav", "play", "pause", "stop", "position 12.5", "volume 80", "rate 1.5".
-    const std::vector<std::string>& journal() const { return journal_; }
 
     /// Lets `secondes` of the clock pass. At the end of the recording it stops there.
     void avancer(double secondes) {
@@ -44,48 +39,37 @@ class LecteurSimule : public LecteurMedia {
     using LecteurMedia::URL;
     EtatLecture playState() const override { return etat_; }
     void play() override {
-        journal_.push_back("play");
         jouerUneFoisPret_ = etat_ == EtatLecture::Chargement;
         if (duree_ <= 0) return;
         if (position_ >= duree_) position_ = 0;
         if (!tardif) passer(EtatLecture::Lecture);
     }
     void pause() override {
-        journal_.push_back("pause");
         jouerUneFoisPret_ = false;
         if (etat_ == EtatLecture::Lecture) passer(EtatLecture::EnPause);
     }
     void stop() override {
-        journal_.push_back("stop");
         jouerUneFoisPret_ = false;
         position_ = 0;
         if (duree_ > 0) passer(EtatLecture::Arrete);
     }
     double currentPosition() const override { return position_; }
     void currentPosition(double secondes) override {
-        noter("position", secondes);
         position_ =
             etat_ == EtatLecture::Chargement ? std::max(0.0, secondes) : std::clamp(secondes, 0.0, duree_);
         annoncerDeplacement();
     }
     double duration() const override { return duree_; }
     int volume() const override { return volume_; }
-    void volume(int part) override {
-        noter("volume", part);
-        volume_ = std::clamp(part, 0, 100);
-    }
+    void volume(int part) override { volume_ = std::clamp(part, 0, 100); }
     bool rateDisponible() const override { return true; }
-    void rate(double facteur) override {
-        noter("rate", facteur);
-        vitesse_ = facteur;
-    }
+    void rate(double facteur) override { vitesse_ = facteur; }
     double vitesse() const { return vitesse_; }
     Utf8 erreur() const override { return erreur_; }
     bool muet() const override { return sansSon; }
 
   private:
     void ouvrir(const Utf8& chemin) override {
-        journal_.push_back("URL " + nomSeul(chemin));
         url_ = chemin;
         position_ = duree_ = 0;
         jouerUneFoisPret_ = false;
@@ -93,14 +77,8 @@ class LecteurSimule : public LecteurMedia {
         passer(chemin.empty() ? EtatLecture::Indefini : EtatLecture::Chargement);
         if (!lent && !chemin.empty()) pret();
     }
-    static Utf8 nomSeul(const Utf8& chemin) { return chemin.substr(chemin.rfind('/') + 1); }
-    void noter(const char* commande, double nombre) {
-        std::ostringstream ligne;
-        ligne << commande << " " << nombre;
-        journal_.push_back(ligne.str());
-    }
     double dureeDe(const Utf8& chemin) const {
-        const auto trouvee = durees.find(nomSeul(chemin));
+        const auto trouvee = durees.find(chemin.substr(chemin.rfind('/') + 1));
         return trouvee == durees.end() ? dureeParDefaut : trouvee->second;
     }
     void passer(EtatLecture etat) {
@@ -114,7 +92,6 @@ class LecteurSimule : public LecteurMedia {
     double position_ = 0, duree_ = 0, vitesse_ = 1;
     int volume_ = 100;
     bool jouerUneFoisPret_ = false;
-    std::vector<std::string> journal_;
 };
 
 } // namespace vermo::essai

@@ -31,9 +31,8 @@ class Pannes {
         table.open = [](const char* chemin, int drapeaux, mode_t mode) {
             return frappe("open") ? -1 : etat().vrais.open(chemin, drapeaux, mode);
         };
-        table.write = [](int d, const void* octets, std::size_t taille) -> ssize_t {
-            return frappe("write") ? -1
-                                   : etat().vrais.write(d, octets, std::min(taille, etat().panne.morceau));
+        table.write = [](int d, const void* octets, std::size_t n) -> ssize_t {
+            return frappe("write") ? -1 : etat().vrais.write(d, octets, std::min(n, etat().panne.morceau));
         };
         table.fdatasync = [](int d) { return frappe("fdatasync") ? -1 : etat().vrais.fdatasync(d); };
         table.fsync = [](int d) { return frappe("fsync") ? -1 : etat().vrais.fsync(d); };

@@ -11,15 +11,14 @@
 
 namespace vermo::essai {
 
-/// A clock that stands still until the test moves it: 3 April 2009, 14:05:06.
+/// A clock that stands still: 3 April 2009, 14:05:06.
 class HorlogeFixe : public Horloge {
   public:
-    std::tm heure = [] {
-        std::tm lue{};
-        strptime("2009-04-03 14:05:06", "%Y-%m-%d %H:%M:%S", &lue);
-        return lue;
-    }();
-    std::tm maintenant() const override { return heure; }
+    std::tm maintenant() const override {
+        std::tm heure{};
+        strptime("2009-04-03 14:05:06", "%Y-%m-%d %H:%M:%S", &heure);
+        return heure;
+    }
 };
 
 /// Notes the programs it is asked to start.
