@@ -5,7 +5,6 @@
 #include "textfile/faute.h"
 
 #include <gtest/gtest.h>
-#include <set>
 
 using namespace vermo;
 using namespace vermo::essai;
@@ -52,17 +51,4 @@ TEST(WavePicture, LevelsStandAtTheirRows) {
         EXPECT_EQ(noirs(image, 1200), c.aDroite) << c.canaux << " x " << c.bits << ", " << c.deux;
     }
     EXPECT_THROW(calculerEchelles({}, 1), FauteExecution) << "no division by zero";
-}
-
-TEST(WavePicture, APeakFillsItsColumnsAndNothingElse) {
-    const DossierTemporaire dossier;
-    const auto sons = echantillons(3000, 16, [](int i) { return i == 1507 ? 32767 : 0; });
-    const Utf8 chemin = dossier.ecrire("a.wav", wav(1, 16, sons));
-    PointsOnde points;
-    Bitmap8 image = fondUni(3000, 1500, 2.0 / 15, BLANC); // a dense screen: 400 x 200
-    dessinerOnde(image, 0, demande(Vue::Picture1, chemin, 3000, 1500, 2.0 / 15), points);
-    std::set<int> hautes;
-    for (int x = 0; x < 399; ++x)
-        if (noirs(image, x).first < 99) hautes.insert(x);
-    EXPECT_EQ(hautes, (std::set{200, 201}));
 }

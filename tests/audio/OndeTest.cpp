@@ -35,19 +35,6 @@ TEST(Wave, TheDataTagIsFoundInTheFirst255BytesOnly) {
     EXPECT_EQ(lieu(""), (LieuDonnees{0, 4}));
 }
 
-TEST(Wave, StepsAndPositionsAreRoundedAndMadeEven) {
-    const auto pas = [](int canaux, int bits, LieuDonnees lieu, Empan empan, long largeur) {
-        EnTeteWav entete;
-        entete.NbCanaux = std::int16_t(canaux), entete.BitsParEchantillon = std::int16_t(bits);
-        return pasDeLecture(lieu, entete, empan, largeur);
-    };
-    EXPECT_EQ(pas(1, 16, {1000, 41}, {}, 300), (PasLecture{45, 4}));
-    EXPECT_EQ(pas(1, 16, {1000, 42}, {}, 300), (PasLecture{47, 4}));          // 46 is raised
-    EXPECT_EQ(pas(1, 8, {1001, 41}, {0.5, 0.25}, 100), (PasLecture{546, 2})); // 545.5 to the even one
-    EXPECT_EQ(pas(1, 8, {99, 41}, {}, 100), (PasLecture{45, 0}));
-    EXPECT_EQ(pas(1, 16, {2000000000, 41}, {0.999, 0.001}, 100), (PasLecture{1998000045, 20000}));
-}
-
 /// Points of one channel or two, whatever the step and wherever the reading's blocks of 4,096 bytes end: each
 /// is the sample at its place. The last of each channel is never read.
 TEST(Wave, EveryPointIsTheSampleAtItsPlace) {

@@ -71,21 +71,6 @@ TEST_F(Scan, FillsTheInterviews) {
     EXPECT_EQ(decrireExtraits(essai.session, 2), "10,00;17,50;001;t/;|20;17,5;002;;");
 }
 
-TEST_F(Scan, TellsAFaultOnceAndGoesOn) {
-    ouvrir(ENTETE + std::string("::1::001\r\nt\r\n::2::\r\n::lone\r\n"));
-    const Utf8 rtr = essai.dossier().chemin("c/b.Rtr");
-    essai.dialogues().repondre(Reponse::Ok, "le second « :: » manque.\n" + rtr + ", ligne 9");
-    essai.analyser();
-    essai.analyser();
-    EXPECT_FLOAT_EQ(entretien(3).NbExtraits, 1);
-    EXPECT_EQ(decrireExtraits(essai.session, 2), "1;2;001;t/;");
-    // Said again once the file has changed.
-    essai.dossier().ecrire("c/b.Rtr", "rien\r\n");
-    essai.dialogues().repondre(Reponse::Ok, "La durée « rien »");
-    essai.analyser();
-    EXPECT_EQ(decrireExtraits(essai.session, 2), "");
-}
-
 TEST_F(Scan, AnInterviewWithoutItsFilesIsToldAndKeepsWhatIsKnown) {
     ouvrir(ENTETE + std::string("::1::001\r\n::3::\r\n"));
     essai.analyser();

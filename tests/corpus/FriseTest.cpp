@@ -1,9 +1,7 @@
-#include "corpus/DispositionCorpus.h"
 #include "corpus/Panneaux.h"
 #include "corpus/Pistes.h"
 #include "support/CorpusDEssai.h"
 
-#include <cmath>
 #include <gtest/gtest.h>
 
 namespace vermo {
@@ -11,16 +9,12 @@ namespace {
 
 using essai::corpusDEssai;
 
-/// `durees` seconds; extracts of 10 s each at 0, 20, 40... in the first, coded "000", "001", "002", "999".
-Session sessionDe(const std::vector<float>& durees) {
-    Session session = corpusDEssai(static_cast<int>(durees.size()));
-    EtatCorpus& corpus = session.corpus;
-    corpus.HauteurEntretien = 400;
-    for (std::size_t i = 1; i <= durees.size(); ++i) {
-        corpus.Entretiens[i].Duree = durees[i - 1];
-        corpus.extraits[i] = {};
-    }
-    corpus.extraits[1] =
+/// `nombre` interviews of 100 s; extracts of 10 s each at 0, 20, 40... in the first, coded "000", "001",
+/// "002", "999".
+Session sessionDe(int nombre) {
+    Session session = corpusDEssai(nombre);
+    session.corpus.HauteurEntretien = 400;
+    session.corpus.extraits[1] =
         analyser("100\r\n::0::000\r\n::10::\r\n::20::001\r\n::30::\r\n::40::002\r\n::50::\r\n"
                  "::60::999\r\n::60::\r\n",
                  session.reglages, "e1.Rtr")
@@ -38,21 +32,8 @@ std::string pistes(const Session& session) {
     return decrire(liste);
 }
 
-TEST(Timeline, ARowWithAndWithoutItsPicture) {
-    Elements liste;
-    disposerFrise(sessionDe({100, 50}), {3900, 600, 100}, {"", "", "/c/e2.Bmp"}, liste);
-    const std::string lignes = decrire(liste);
-    EXPECT_EQ(lignes.substr(lignes.find("ImgEnt[1]"), 40), "ImgEnt[1] 2600,240 1000x280 fond=404040\n");
-    EXPECT_EQ(lignes.substr(lignes.find("lblpiste[2]")), R"(lblpiste[2] 60,765 345x275 "2\r" encre=A4A6AC
-lblfich[2] 705,640 1835x280 "entretien2" bulle=entretien2.wav
-ImgEnt[2] 2600,640 1000x280 tag=entretien2.wav image=/c/e2.Bmp
-ShpFich[2] 2600,640 1000x280 bord=54545A
-ImgOnOff[2] 435,640 210x210 bulle=Activer/désactiver l'entretien image=:/icones/ImgOn.svg
-)");
-}
-
 TEST(Timeline, RowsInViewAndUnderTheMouse) {
-    const Session session = sessionDe(std::vector<float>(999, 10.F));
+    const Session session = sessionDe(999);
     const std::tuple<Twips, int, int> cas[] = {{0, 1, 5}, {639, 1, 6}, {640, 2, 7}, {399000, 997, 999}};
     for (const auto& [defilement, premiere, derniere] : cas) {
         const LignesEnVue lignes = lignesEnVue(session, {3900, defilement, 2000});
@@ -62,27 +43,6 @@ TEST(Timeline, RowsInViewAndUnderTheMouse) {
     const std::pair<Twips, int> sous[] = {{239, 0}, {240, 1}, {639, 1}, {640, 2}, {399839, 999}, {399840, 0}};
     for (const auto& [y, slot] : sous)
         EXPECT_EQ(slotSous(session, y), slot) << y;
-}
-
-/// Where the lines stand, "'" behind one at half a step; then the labels.
-std::string regle(float duree) {
-    Session session = sessionDe({duree});
-    session.corpus.TailleReelle = true;
-    const Dessin dessin = disposerRegle(session, duree);
-    std::string texte;
-    for (const Trait& trait : dessin.traits)
-        texte += std::to_string(std::lround(trait.x1 - 2600)) + (trait.couleur == 0x242424 ? "' " : " ");
-    for (const auto& inscription : dessin.inscriptions)
-        texte += std::to_string(std::lround(inscription.x)) + "=" + inscription.texte + " ";
-    return texte;
-}
-
-TEST(Timeline, Ruler) {
-    EXPECT_EQ(regle(130), "30' 60 90' 120 130 60=01:00 120=02:00 ");
-    EXPECT_EQ(regle(359), "30' 60 90' 120 150' 180 210' 240 270' 300 330' 359 "
-                          "60=01:00 120=02:00 180=03:00 240=04:00 300=05:00 ");
-    EXPECT_EQ(regle(360), "150' 300 360 300=05:00 ");
-    EXPECT_LT(regle(1e30F).size(), 1000000U);
 }
 
 TEST(Timeline, DurationsOfZeroAreTold) {
@@ -102,55 +62,15 @@ TEST(Timeline, DurationsOfZeroAreTold) {
 }
 
 TEST(Bars, Fills) {
-    Session session = sessionDe({100});
+    Session session = sessionDe(1);
+    session.corpus.ThmVisible[2] = 0;
     EXPECT_EQ(pistes(session), "Lblthm[1] 2600,250 100x260 tag=1 fond=000000\n"
-                               "Lblthm[2] 2800,250 100x260 tag=2 fond=FF0000 fusion\n"
+                               "Lblthm[2] 2800,250 100x260 tag=2\n"
                                "Lblthm[3] 3000,250 100x260 tag=3 fond=00FF00 fusion\n"
                                "Lblthm[4] 3200,250 45x260 tag=4 fond=FFFFFF\n"
                                "Lblthm[5] 2600,250 45x260 tag=5 fond=FFFFFF\n");
-    session.corpus.ThmVisible[2] = 0;
     session.corpus.Entretiens[1].Visible = false;
-    EXPECT_EQ(pistes(session), "Lblthm[1] 2600,250 100x260 tag=1 fond=808080\n"
-                               "Lblthm[2] 2800,250 100x260 tag=2\n"
-                               "Lblthm[3] 3000,250 100x260 tag=3 fond=808080 fusion\n"
-                               "Lblthm[4] 3200,250 45x260 tag=4 fond=FFFFFF\n"
-                               "Lblthm[5] 2600,250 45x260 tag=5 fond=FFFFFF\n");
-}
-
-TEST(Panels, Thematics) {
-    Session session = sessionDe({1});
-    session.corpus.ThmVisible[2] = 0;
-    session.corpus.NbThm = 2;
-    Elements liste = disposerThematiques(session, 900, 6000, Legende::Corpus);
-    liste[5].bulle.clear();
-    EXPECT_EQ(decrire({liste[4], liste[5]}), "ShpCoul[2] 0,495 900x495 fond=808080\n"
-                                             "LblCoul[2] 0,525 900x495 \" Travail\" tag=001 encre=000000\n");
-    liste = disposerThematiques(session, 900, 500, Legende::Saisie);
-    EXPECT_EQ(decrire({liste[3], liste[4]}), "ImgCoul[2] 0,375 900x0 cache\n"
-                                             "ShpCoul[2] 0,250 900x250 fond=FF0000\n");
-}
-
-TEST(CorpusLayout, ControlsLieInsideTheWindowAndApart) {
-    for (const auto& [largeur, hauteur] : {std::pair(1280 * 15, 720 * 15), {1920 * 15, 1080 * 15}}) {
-        DispositionCorpus d = disposerFenetreCorpus(largeur, hauteur, false);
-        d.ImgCroix.largeur -= 30; // two pixels lie outside
-        EXPECT_EQ(d.Imgbtn[2], d.Imgbtn[4]) << "one shows at a time";
-        std::vector<Rectangle> cadres{d.ImgCroix,     d.PictVol,     d.etq[0],     d.etq[1],
-                                      d.ImgOnOffthm,  d.ImgOnOffent, d.PictTps,    d.Frm_fond_thm,
-                                      d.ProgressBar1, d.ImgZoom[0],  d.ImgZoom[1], d.Frm_fond_entretiens};
-        cadres.insert(cadres.end(), std::begin(d.lblmenu), std::end(d.lblmenu));
-        for (const int i : {0, 1, 2, 3, 5, 6, 7, 8})
-            cadres.push_back(d.Imgbtn[i]);
-        for (auto a = cadres.begin(); a != cadres.end(); ++a) {
-            EXPECT_TRUE(a->largeur > 0 && a->hauteur > 0 && a->gauche >= 0 && a->haut >= 0 &&
-                        a->droite() <= largeur && a->bas() <= hauteur)
-                << a - cadres.begin();
-            for (auto b = cadres.begin(); b != a; ++b)
-                EXPECT_TRUE(a->droite() <= b->gauche || b->droite() <= a->gauche || a->bas() <= b->haut ||
-                            b->bas() <= a->haut)
-                    << a - cadres.begin() << " meets " << b - cadres.begin();
-        }
-    }
+    EXPECT_NE(pistes(session).find("tag=3 fond=808080"), std::string::npos);
 }
 
 TEST(Panels, AnActiveOneAloneCountsAsNoneAndNotAllAsNone) {

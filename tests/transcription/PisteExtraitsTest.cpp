@@ -9,8 +9,6 @@
 namespace vermo::essai {
 namespace {
 
-using C = Controle;
-
 /// An interview of 100 s that shows `debut` to `fin`, its extracts those of `rtr`.
 struct Vue : EntretienOuvert {
     Vue(double debut, double fin, const std::string& rtr) : EntretienOuvert("100\r\n" + rtr) {
@@ -53,29 +51,6 @@ TEST(Bubbles, ShowWhatTheSpanReallyTouches) {
         vue.session.transcription.ExtraitFin[1] = fin;
         EXPECT_EQ(!vue.bulles(9000).empty(), vu) << debut << " " << fin;
     }
-}
-
-TEST(Bubbles, HoldTheirTitleAndTheirWords) {
-    const Vue vue(10, 60, "::5.00::001\r\n::6.00::\r\n::20.00::002\r\nun deux\r\n::30.00::\r\n");
-    EXPECT_EQ(decrire(vue.bulles()), R"(ShpXtrZ[1] 3120,0 2760x6000 tag=2 bord=020000
-ShpXtrIntZ[1] 3120,0 2760x6000 tag=2 fond=020000 fusion
-ImgBulleBlanche[1] 3000,120 180x180 tag=2 fond=F4F4F6
-ImgBulleInt[1] 3000,120 105x5880 tag=2 fond=F4F4F6
-ImgBulleBas[1] 3000,4825 180x180 tag=2 fond=F4F4F6
-ImgBulleBlanche[2] 3170,120 2640x180 tag=2 fond=F4F4F6
-ImgBulleBlanche[3] 3170,299 2640x4525 tag=2 fond=F4F4F6
-ImgBulleBas[2] 3170,4825 2640x180 tag=2 fond=F4F4F6
-ImgBulleBlanche[4] 5800,120 180x180 tag=2 fond=F4F4F6
-ImgBulleInt[2] 5860,120 105x5880 tag=2 fond=F4F4F6
-ImgBulleBas[3] 5800,4825 180x180 tag=2 fond=F4F4F6
-LblXtrZ[1] 3120,120 2760x4885 tag=2 bulle=002
-LbltitreXtrZ[1] 3240,210 2600x255 "Nom 002" tag=2 encre=020000 gras
-LbltxtXtrZ[1] 3240,495 2600x4420 tag=2
-LblMot[1] 3240,495 300x200 "un " tag=1 encre=202024
-LblMot[2] 3570,495 400x200 "deux" tag=1 encre=202024
-)");
-    EXPECT_EQ(sous(vue.bulles(), 3050, 5500)->controle, C::ImgBulleInt);
-    EXPECT_EQ(sous(vue.bulles(), 3500, 600)->controle, C::LbltxtXtrZ);
 }
 
 } // namespace

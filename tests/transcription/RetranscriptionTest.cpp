@@ -62,19 +62,13 @@ TEST(Transcript, WithAFaultIsToldOnceAndNeverRewritten) {
     }
 }
 
-TEST(Transcript, IsRewrittenWithItsHeader) {
+TEST(Transcript, IsRewrittenWithoutNegativeStarts) {
     EntretienOuvert e(TETE + UN + DEUX);
-    e.session.transcription.ExtraitDebut[1] = 0.0;
     e.session.transcription.ExtraitCode[1] = "002 Travail";
     e.session.transcription.ExtraitTexte[1] = "";
-    EXPECT_TRUE(EnregistrerExtraits(e.session, e.hote));
-    EXPECT_EQ(e.hote.dossier.lire("a.Rtr"), TETE + "::0.00::002 Travail\r\n\r\n::12.50::\r\n" + DEUX);
-    LireRetranscription(e.session, e.hote);
-    EXPECT_EQ(e.session.transcription.ExtraitCode[1], "002");
-
     e.session.transcription.ExtraitDebut[2] = -1.0;
     EXPECT_TRUE(EnregistrerExtraits(e.session, e.hote));
-    EXPECT_EQ(e.hote.dossier.lire("a.Rtr"), TETE + "::0.00::002\r\n\r\r\n::12.50::\r\n");
+    EXPECT_EQ(e.hote.dossier.lire("a.Rtr"), TETE + "::10.00::002 Travail\r\n\r\n::12.50::\r\n");
 }
 
 TEST(Transcript, KeepsTheDisksNameAndTheMachinesComma) {
