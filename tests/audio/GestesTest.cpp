@@ -43,12 +43,3 @@ TEST(Gestures, ThePressOnTheZoomBandTellsWhatItsReleaseMeans) {
         EXPECT_EQ(relacher(prise, c.relache, false), c.geste) << c.presse << ' ' << c.relache;
     }
 }
-
-TEST(Gestures, AReleaseOutsideTheOverviewChoosesNothing) {
-    for (const auto& [x, choisit] : {std::pair(-1, false), {0, true}, {10000, true}, {10001, false}}) {
-        PriseVue prise;
-        presser(prise, nullptr, 500);
-        EXPECT_EQ(relacher(prise, x, 10000).has_value(), choisit) << x;
-        EXPECT_FALSE(relacher(prise, 600, 10000)) << "let go twice";
-    }
-}

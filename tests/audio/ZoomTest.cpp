@@ -37,16 +37,6 @@ TEST(ZoomSpan, StopsAtItsBoundsAndAtTheEndsOfTheRecording) {
     EXPECT_EQ(audio.DebutZoom, 99); // beyond the last whole span, within the recording
     avancerEmpan(audio);
     EXPECT_EQ(empan(audio), (std::pair(60.0, 100.0)));
-    deplacerEmpan(audio, 300, 800, 200);
-    EXPECT_EQ(empan(audio), (std::pair(0.0, 40.0)));
-
-    Twips glisse = 500;
-    EXPECT_TRUE(defilerSelection(audio, glisse, 1000));
-    EXPECT_EQ(audio.DebutZoom, 2);
-    EXPECT_EQ(glisse, 450); // still 20 s
-    audio = place(100, 99.5, 119.5);
-    EXPECT_FALSE(defilerSelection(audio, glisse, 1000));
-    EXPECT_EQ(glisse, 450);
 }
 
 TEST(ZoomSpan, TheOverviewLandsOnAGridOf15Seconds) {

@@ -18,16 +18,7 @@ struct Import : testing::Test {
     }
 };
 
-TEST_F(Import, AsksAboutTheFormatAndStartsTheConverter) {
-    // Bits, channels, and the format's name in the question; empty: nothing is asked.
-    const std::tuple<std::int16_t, std::int16_t, std::string> cas[] = {
-        {8, 1, ""}, {24, 1, ""}, {16, 1, "Mono - 16 bits"}, {8, 2, "Stereo - 8 bits"}};
-    for (const auto& [bits, canaux, nom] : cas) {
-        EnTeteWav enTete;
-        enTete.BitsParEchantillon = bits, enTete.NbCanaux = canaux;
-        if (!nom.empty()) hote.dialogues.repondre(Reponse::Oui, " est au format : \n" + nom + " \n\nPour ");
-        EXPECT_EQ(demanderFormat(enTete, hote), nom.empty() ? ChoixFormat::Garder : ChoixFormat::Convertir);
-    }
+TEST_F(Import, StartsTheConverter) {
     const Utf8 chemin = hote.dossier.ecrire("donnees/Convertisseur.exe", "");
     lancerConvertisseur(hote);
     EXPECT_EQ(hote.lanceur.lances, std::vector<Utf8>{chemin});

@@ -21,17 +21,18 @@ class DialoguesScriptees : public Dialogues {
     /// Fails for the answers that were not used.
     ~DialoguesScriptees() override {
         for (const auto& prevue : prevues_)
-            ADD_FAILURE() << "answer never used: " << (prevue.fichier ? prevue.chemin : nom(prevue.reponse));
+            ADD_FAILURE() << "answer never used: " << (prevue.fichier ? "a file" : nom(prevue.reponse)) << " "
+                          << prevue.texte;
     }
 
     /// Next answer to a message box. `extrait`, when given, must stand in the box's text.
     DialoguesScriptees& repondre(Reponse reponse, std::string extrait = {}) {
-        prevues_.push_back({false, reponse, {}, std::move(extrait)});
+        prevues_.push_back({false, reponse, std::move(extrait)});
         return *this;
     }
     /// Next answer to a file dialog; empty: the person gives up.
     DialoguesScriptees& choisir(Utf8 chemin) {
-        prevues_.push_back({true, Reponse::Ok, std::move(chemin), {}});
+        prevues_.push_back({true, Reponse::Ok, std::move(chemin)});
         return *this;
     }
 
@@ -45,8 +46,8 @@ class DialoguesScriptees : public Dialogues {
         const std::string question = message.titre + "|" + message.texte + "|" + offertes + "|" +
                                      icones[static_cast<int>(message.icone)];
         const Prevue prevue = prochaine(false, question, parDefaut(message.boutons));
-        EXPECT_NE(message.texte.find(prevue.extrait), std::string::npos)
-            << "expected \"" << prevue.extrait << "\" in: " << question;
+        EXPECT_NE(message.texte.find(prevue.texte), std::string::npos)
+            << "expected \"" << prevue.texte << "\" in: " << question;
         EXPECT_NE(offertes.find(nom(prevue.reponse)), std::string::npos)
             << nom(prevue.reponse) << " is no button of: " << question;
         noter(question + " -> " + nom(prevue.reponse));
@@ -57,22 +58,21 @@ class DialoguesScriptees : public Dialogues {
         const std::string question = "fichier|" + demande.titre + "|" + demande.filtre + "|" +
                                      (demande.enregistrer ? "enregistrer" : "ouvrir");
         const Prevue prevue = prochaine(true, question, Reponse::Ok);
-        noter(question + " -> " + prevue.chemin);
-        return prevue.chemin;
+        noter(question + " -> " + prevue.texte);
+        return prevue.texte;
     }
 
   private:
     struct Prevue {
         bool fichier;
         Reponse reponse;
-        Utf8 chemin;
-        std::string extrait;
+        std::string texte; ///< the file chosen, or what must stand in the box
     };
 
     Prevue prochaine(bool fichier, const std::string& question, Reponse sinon) {
         if (prevues_.empty() || prevues_.front().fichier != fichier) {
             ADD_FAILURE() << "nobody expected: " << question;
-            return {fichier, sinon, {}, {}};
+            return {fichier, sinon, {}};
         }
         Prevue prevue = prevues_.front();
         prevues_.pop_front();

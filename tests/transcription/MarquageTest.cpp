@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <tuple>
 #include <vector>
 
 using namespace vermo;
@@ -38,23 +37,15 @@ TEST(Marking, AMovedBoundStopsAtTheFirstHit) {
     EXPECT_EQ(bornerExtraitDeplace({20, 30}, autres), (Marquage{{20, 30}, true}));
 }
 
-TEST(Marking, ABoundThatIsMovedStaysInTheArraysEvenWhenItIsRefused) {
-    const std::string octets = "100\r\n::10.60::000\r\n::20.00::\r\n::30.60::000\r\n::40.00::\r\n";
-    using Cas = std::tuple<char, bool, double, Deplacement, Bornes>;
-    for (const auto& [separateur, debut, v, attendu, bornes] : {
-             Cas{'.', true, 5, {}, {5, 20}}, Cas{'.', false, 25, {.allonge = true}, {10.6, 25}},
-             Cas{'.', false, 15, {}, {10.6, 15}},
-             Cas{'.', false, 35, {.allonge = true}, {10.6, 30.6}}, // to the neighbour's edge
-             Cas{'.', false, 50, {.englobe = true}, {10.6, 50}},
-             Cas{',', false, 35, {.allonge = true}, {10.6, 30}}, // whole seconds under a decimal comma
-         }) {
-        const bool virgule = separateur == ',';
-        std::string texte = octets;
-        if (virgule) std::replace(texte.begin(), texte.end(), '.', ',');
-        essai::EntretienOuvert e(texte, {}, separateur);
-        EXPECT_EQ(deplacerBorne(e.session, 1, debut, v), attendu) << v;
-        EXPECT_EQ(bornesExtrait(e.session, 1), bornes) << v;
-        EXPECT_EQ(secondesFin(e.session, 2), 40);
-        EXPECT_THROW(deplacerBorne(e.session, 3, debut, v), FauteExecution);
+TEST(Marking, ABoundThatIsMovedStopsAtItsNeighbour) {
+    // Under a decimal comma at whole seconds.
+    for (const auto& [virgule, fin] : {std::pair('.', 30.6), {',', 30.0}}) {
+        std::string octets = "100\r\n::10.60::000\r\n::20.00::\r\n::30.60::000\r\n::40.00::\r\n";
+        std::replace(octets.begin(), octets.end(), '.', virgule);
+        essai::EntretienOuvert e(octets, {}, virgule);
+        EXPECT_EQ(deplacerBorne(e.session, 1, false, 35), (Deplacement{.allonge = true}));
+        EXPECT_EQ(bornesExtrait(e.session, 1), (Bornes{10.6, fin}));
+        EXPECT_EQ(bornesExtrait(e.session, 2), (Bornes{30.6, 40}));
+        EXPECT_THROW(deplacerBorne(e.session, 3, false, 35), FauteExecution);
     }
 }

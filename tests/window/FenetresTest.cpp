@@ -1,5 +1,4 @@
 #include "window/DatesFichier.h"
-#include "window/Detourage.h"
 #include "window/Placement.h"
 
 #include "support/PlateformeDeTest.h"
@@ -14,36 +13,15 @@
 namespace vermo {
 namespace {
 
-/// Rows of a picture, one character a pixel; segments as "start-end@y".
-std::string region(const std::vector<std::string>& lignes) {
-    const int largeur = lignes.empty() ? 0 : static_cast<int>(lignes[0].size());
-    const auto segments = RegionDepuisImage(largeur, static_cast<int>(lignes.size()), [&](int x, int y) {
-        return static_cast<std::uint32_t>(lignes[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)]);
-    });
-    std::string texte;
-    for (const Segment& s : segments)
-        texte += std::to_string(s.debut) + "-" + std::to_string(s.fin) + "@" + std::to_string(s.y) + " ";
-    return texte;
-}
-
-TEST(ShapeFromPicture, RunsOfOtherColoursThanTheCorners) {
-    EXPECT_EQ(region({"....", "...."}), "");
-    EXPECT_EQ(region({"......", ".ab.c.", ".bbb.."}), "1-3@1 4-5@1 1-4@2 ") << "two runs on one row";
-    EXPECT_EQ(region({".....", ".aaaa", "....a"}), "1-4@1 ") << "the last column is left out";
-    EXPECT_EQ(region({"a..a.", "aaaa."}), "1-3@0 ") << "the corner's colour is a hole wherever it stands";
-}
-
 TEST(Placement, KeepsToTheScreen) {
     const ZoneTravail zone{
         .gauche = -6000, .haut = 600, .largeur = 20000, .hauteur = 12000, .barreDesTaches = 40};
-    struct Cas {
-        Rectangle voulu, obtenu;
-    };
-    for (const Cas& cas : {Cas{{-100, 700, 5000, 4000}, {-100, 700, 5000, 4000}},
-                           {{-6300, 580, 5000, 4000}, {-6000, 600, 5000, 4000}},
-                           {{12000, 9600, 5000, 4000}, {9000, 8000, 5000, 4000}},
-                           {{40, 1305, 30000, 20000}, {-6000, 600, 20000, 11400}}})
-        EXPECT_EQ(dansEcran(cas.voulu, zone), cas.obtenu) << cas.voulu.gauche << "," << cas.voulu.haut;
+    const std::pair<Rectangle, Rectangle> cas[] = {{{-100, 700, 5000, 4000}, {-100, 700, 5000, 4000}},
+                                                   {{-6300, 580, 5000, 4000}, {-6000, 600, 5000, 4000}},
+                                                   {{12000, 9600, 5000, 4000}, {9000, 8000, 5000, 4000}},
+                                                   {{40, 1305, 30000, 20000}, {-6000, 600, 20000, 11400}}};
+    for (const auto& [voulu, obtenu] : cas)
+        EXPECT_EQ(dansEcran(voulu, zone), obtenu) << voulu.gauche << "," << voulu.haut;
 }
 
 /// In a place that keeps summer time.
