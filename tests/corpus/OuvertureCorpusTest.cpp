@@ -62,16 +62,6 @@ TEST(Opening, MakesACorpus) {
     EXPECT_EQ(essai.corpus().CheminCorpus, chemin);
 }
 
-TEST(RecentList, TakesTheCorpusToItsTop) {
-    CorpusDEssai essai;
-    essai.dossier().ecrire("programme/Projets.ini",
-                           "/a.Crp\r\n/b,c.Crp\r\n\r\n/d.Crp\r\n/e.Crp\r\n/f.Crp\r\n");
-    essai.corpus().CheminCorpus = "/d.Crp";
-    MettreAJourProjets(essai.session, essai.hote);
-    EXPECT_EQ(essai.dossier().lire("programme/Projets.ini"),
-              "/d.Crp\r\n/a.Crp\r\n/b\r\nc.Crp\r\n/e.Crp\r\n/f.Crp\r\n");
-}
-
 TEST(CorpusRewriting, ThematicsThenInterviews) {
     CorpusDEssai essai;
     essai.ajouterEntretien("a", ENTETE);

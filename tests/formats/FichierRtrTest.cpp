@@ -1,7 +1,6 @@
 #include "formats/FichierRtr.h"
 #include "textfile/faute.h"
 
-#include <chrono>
 #include <gtest/gtest.h>
 
 namespace vermo::rtr {
@@ -133,18 +132,6 @@ TEST(TranscriptFile, AttributesAreTakenAllOrNone) {
                      FauteExecution)
             << ligne;
     EXPECT_EQ(attributs, avant);
-}
-
-TEST(TranscriptFile, AHugeTextIsReadInTime) {
-    std::string lignes(10'000'000, 'a'), ligne(10'000'000, 'b');
-    for (std::size_t p = 99; p < lignes.size(); p += 100) {
-        lignes[p] = CR;
-        ligne[p] = ':';
-    }
-    const std::string octets = "1\r\n::1::000\r\n" + lignes + ligne + "\r\n\r\n::2::\r\n";
-    const auto depart = std::chrono::steady_clock::now();
-    EXPECT_TRUE(lire(octets, "").extraits[1].texte == lignes + ligne + "\r");
-    EXPECT_LT(std::chrono::steady_clock::now() - depart, std::chrono::seconds(5));
 }
 
 } // namespace

@@ -39,15 +39,5 @@ TEST(WordLayout, OneColumn) {
         EXPECT_EQ(decrire(disposerMots(texte, reglages, essai::metriquesFixes)), attendu) << texte;
 }
 
-TEST(WordLayout, ColumnsFromTenLinesOn) {
-    const std::tuple<int, int, int> cas[] = {{9, 2, 9}, {10, 2, 5}, {11, 2, 6}, {10, 3, 4}, {10, 0, 5}};
-    for (const auto& [lignes, colonnes, parColonne] : cas) {
-        const Texte texte(static_cast<std::size_t>(lignes), CR);
-        const ReglagesMots reglages{.LargeurTexte = 40000, .ColonnesTexte = colonnes, .PasListe = 195};
-        EXPECT_EQ(disposerMots(texte, reglages, essai::metriquesFixes).lignesParColonne, parColonne)
-            << lignes << " lines, " << colonnes;
-    }
-}
-
 } // namespace
 } // namespace vermo
