@@ -105,6 +105,7 @@ struct ThematiqueAffichee {
     Texte tag;           ///< the code
     Texte caption;       ///< code, one blank, name
     Couleur couleur = 0; ///< ShpFondSaisie and ShpXtrIntZ(0)
+    bool operator==(const ThematiqueAffichee&) const = default;
 };
 
 /// Before any choice: "000", "000 - Pas de thématique", black.

@@ -29,6 +29,10 @@ class EntretienDEssai : public Scene {
         hote.media.dureeParDefaut = duree;
         hote.media.URL(chemin);
         montres = {"Shp_visu0", "Curseur0", "TotalSelect0", "ZoomSelect0", "shp_curseur_zoom0"};
+        hote.annonces.surAvis = [this](const Avis& avis) {
+            fenetres.annoncer(avis);
+            visu->surAvis(avis);
+        };
         verbes["tic"] = [this](const std::string& timer) {
             timer == "Timer1" ? visu->Timer1_Tick() : visu->Timer3_Tick();
         };

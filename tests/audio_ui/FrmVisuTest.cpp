@@ -1,4 +1,5 @@
 #include "audio_ui/EntretienDEssai.h"
+#include "support/CommandesCouvertes.h"
 #include "textfile/fichier.h"
 
 #include <QImage>
@@ -59,6 +60,12 @@ const std::vector<Geste> GESTES = {
     {"touche-extrait-precedent", "survole Picture1@LblXtr3", "touche Ctrl+Left",
      "Pict_tpsZ~; Pict_zoom~; Shp_visu0=618+824; facteur=30; position=20; zoom=15-35"},
     {"touche-ctrl-espace", "", "touche Ctrl+Space", ""},
+    {"touche-debut-apres", "survole Picture1@LblXtr2", "touche Alt+Right",
+     "demande=annoncer Extraits; disque entretien1.Rtr= -::20.00::002/ +::20.10::002/; extrait2=20.1-30 002 "
+     "Un texte.\r"},
+    {"touche-fin-avant", "survole Picture1@LblXtr2", "touche Alt+Shift+Left",
+     "demande=annoncer Extraits; disque entretien1.Rtr= -::30.00::/ +::29.90::/; extrait2=20-29.9 002 Un "
+     "texte.\r"},
     {"touche-debut-avant", "survole Picture1@LblXtr2", "touche Alt+Left",
      "demande=annoncer Extraits; disque entretien1.Rtr= -::20.00::002/ +::19.90::002/; extrait2=19.9-30 002 "
      "Un texte.\r"},
@@ -173,6 +180,7 @@ const std::vector<Geste> REFUS = {
 
 TEST(FrmVisu, EveryGestureHasItsEffectAndNoOther) {
     jouerTable(GESTES, ouvert);
+    couvrir(FrmVisu::commandes(), gestesDe(GESTES));
 }
 
 TEST(FrmVisu, WhatIsRefusedLeavesEverything) {

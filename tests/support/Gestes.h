@@ -308,6 +308,14 @@ class Scene {
     std::size_t dits_ = 0;
 };
 
+/// What the rows do, as `couvrir` takes it.
+inline std::string gestesDe(const std::vector<Geste>& table) {
+    std::string suite;
+    for (const Geste& ligne : table)
+        suite += ligne.geste + ";";
+    return suite;
+}
+
 /// Plays each row in a window of its own, made by `ouvrir`, and compares all that it changed. Every button of
 /// the window must be pressed by a row.
 template <class Ouvrir>

@@ -1,4 +1,5 @@
 #include "transcription/ui/FrmSaisie.h"
+#include "support/CommandesCouvertes.h"
 #include "support/Gestes.h"
 #include "support/Pannes.h"
 
@@ -204,6 +205,7 @@ const std::vector<Geste> GESTES = {
     {"touche-thematique-haut", "clic lbl_thm; touche Down", "touche Up; touche Space",
      "ShpFondSaisie0=0; fenetre=524; focus=TextRtr; lbl_thm=vu000  Rien"},
     {"touche-panneau-espace", "clic lbl_thm", "touche Ctrl+Space", "focus=TextRtr; lecture=2"},
+    {"touche-panneau-alt-entree", "clic lbl_thm", "touche Alt+Return", "focus=TextRtr; lecture=2"},
     {"panneau-fin", "remplir; clic lbl_thm", "9x roule FrmThms -9; clic FrmThms@LblCoul40",
      "fenetre=524; focus=TextRtr; lbl_thm=vu139  x"},
     {"panneau-debut", "remplir; clic lbl_thm", "roule FrmThms 9; clic FrmThms@LblCoul1",
@@ -252,6 +254,7 @@ const std::vector<Geste> REFUS = {
 
 TEST(FrmSaisie, EveryGestureHasItsEffectAndNoOther) {
     jouerTable(GESTES, ouverte);
+    couvrir(FrmSaisie::commandes(), gestesDe(GESTES));
 }
 
 TEST(FrmSaisie, WhatIsRefusedOrFailsLeavesEverything) {

@@ -68,8 +68,7 @@ void FrmVisu::poserBorne(int k, bool debut, double v) {
     if (deplacement.englobe) return refuserEnglobement();
     const Utf8 nom = nommerExtrait(session_.corpus, "Déplacer une borne de", k, etat.source.slot);
     const bool ecrit = EnregistrerExtraits(session_, plateforme_, nom);
-    LireRetranscription(session_, plateforme_);
-    AfficherExtraits();
+    if (!ecrit) rafraichirExtraits(); // as the file has them
     if ((deplacement.allonge || ouvert) && ecrit) ouvrirExtrait(k);
 }
 

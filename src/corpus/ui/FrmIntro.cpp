@@ -33,45 +33,6 @@ constexpr int TIC_SON_MS = 100, TICS_SON_MAX = 30;
 
 } // namespace
 
-constinit const Commande FrmIntro::COMMANDES[] = {
-    {.id = "creer",
-     .ligne = "lblcorpus0",
-     .texte = "Créer un nouveau projet...",
-     .faire = agir<&FrmIntro::creer>},
-    {.id = "ouvrir",
-     .ligne = "lblcorpus1",
-     .texte = "Ouvrir un projet...",
-     .faire = agir<&FrmIntro::choisir>},
-    {.id = "modele", .ligne = "lblcorpus2", .texte = "Modèle"},
-    {.id = "son",
-     .bouton = "ImgTestSon",
-     .icone = "TestSon",
-     .bulle = "Tester le volume sonore",
-     .faire = agir<&FrmIntro::testerSon>},
-    {.id = "continuer",
-     .bouton = "ImgBtn1",
-     .icone = "Suivant",
-     .bulle = "Continuer sans ouvrir de corpus",
-     .faire = agir<&FrmIntro::continuer>},
-    {.id = "arreter",
-     .bouton = "Image1",
-     .icone = "Fermer",
-     .bulle = "Arrêt du programme",
-     .faire = agir<&FrmIntro::arreter>},
-    {.id = "ligne-precedente",
-     .aide = "Ligne précédente",
-     .touches = {{"↑", {}, TOUS}},
-     .faire = agir<&FrmIntro::lignePrecedente>},
-    {.id = "ligne-suivante",
-     .aide = "Ligne suivante",
-     .touches = {{"↓", {}, TOUS}},
-     .faire = agir<&FrmIntro::ligneSuivante>},
-};
-
-TableCommandes FrmIntro::commandes() {
-    return COMMANDES;
-}
-
 FrmIntro::FrmIntro(Session& session, Plateforme& plateforme, Fenetres& fenetres)
     : Forme("FrmIntro", session, plateforme, fenetres),
       Picture1_(new Toile(QStringLiteral("Picture1"), this)), LblSon_(new QLabel(this)) {
@@ -148,11 +109,6 @@ void FrmIntro::ajouterBoutons() {
     bouton("arreter", FERMER);
 }
 
-void FrmIntro::continuer() {
-    fenetres_.montrer(Fenetre::FrmCorpus);
-    fenetres_.decharger(Fenetre::FrmIntro);
-}
-
 void FrmIntro::listerCorpus() {
     placerLigne(0, commandes_.ligne("creer", this));
     placerLigne(1, commandes_.ligne("ouvrir", this))->setFocus();
@@ -188,33 +144,6 @@ Lien* FrmIntro::ajouterRecent(int index, const Utf8& chemin) {
     auto* ligne = new Lien(QStringLiteral("lblcorpus%1").arg(index), utf8VersQt(chemin), this);
     connect(ligne, &QAbstractButton::clicked, this, [this, chemin] { ouvrir(chemin); });
     return placerLigne(index, ligne);
-}
-
-void FrmIntro::creer() {
-    garder([&] { fenetres_.montrer(Fenetre::FrmCorpus); });
-    quitter([&] { fenetres_.NouveauCorpus(); });
-}
-
-void FrmIntro::choisir() {
-    garder([&] { fenetres_.montrer(Fenetre::FrmCorpus); });
-    quitter([&] {
-        session_.corpus.OuvertureDirecte = false;
-        fenetres_.OuvrirCorpus();
-    });
-}
-
-void FrmIntro::ouvrir(const Utf8& chemin) {
-    quitter([&] {
-        session_.corpus.CheminCorpus = chemin;
-        session_.corpus.OuvertureDirecte = true;
-        fenetres_.OuvrirCorpus();
-    });
-}
-
-/// Leaving this window is one-way: whatever comes of the opening, the corpus window takes over.
-void FrmIntro::quitter(const std::function<void()>& ouverture) {
-    garder(ouverture);
-    garder([&] { continuer(); });
 }
 
 void FrmIntro::testerSon() {

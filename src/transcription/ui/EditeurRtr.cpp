@@ -61,18 +61,20 @@ EditeurRtr::EditeurRtr(QWidget* parent) : QPlainTextEdit(parent) {
     connect(this, &QPlainTextEdit::textChanged, this, &EditeurRtr::marquer);
 }
 
-void EditeurRtr::texte(const Texte& texte) {
-    QString lignes = versQt(texte);
-    lignes.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    setPlainText(lignes);
+void EditeurRtr::texte(const Utf8& texte) {
+    setPlainText(utf8VersQt(texte));
 }
 
-Texte EditeurRtr::texte() const {
+Utf8 EditeurRtr::saisi() const {
     // The document's own plain text turns non-breaking spaces into plain ones.
     QStringList lignes;
     for (QTextBlock bloc = document()->begin(); bloc.isValid(); bloc = bloc.next())
         lignes.append(bloc.text());
-    return depuisQt(lignes.join(QLatin1Char('\n')));
+    return utf8DepuisQt(lignes.join(QLatin1Char('\n')));
+}
+
+Texte EditeurRtr::texte() const {
+    return depuisQt(utf8VersQt(saisi()));
 }
 
 QStringList EditeurRtr::refuses() const {

@@ -12,9 +12,11 @@ class EditeurRtr : public QPlainTextEdit {
   public:
     explicit EditeurRtr(QWidget* parent);
 
-    /// Text with a lone CR at line ends.
-    void texte(const Texte& texte);
-    /// What stands in the editor. Throws FauteExecution while it holds a refused character.
+    /// Shows a text whose lines are parted by LF.
+    void texte(const Utf8& texte);
+    /// What stands in the editor, refused characters too; lines parted by LF.
+    Utf8 saisi() const;
+    /// The same with a CR in the place of each LF. Throws FauteExecution while it holds a refused character.
     Texte texte() const;
     /// The refused characters, each with its place: "« → » (ligne 2, caractère 7)". Empty when there is none.
     QStringList refuses() const;

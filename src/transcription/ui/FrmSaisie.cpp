@@ -79,6 +79,7 @@ void FrmSaisie::creerTexte() {
     TextRtr_ = new EditeurRtr(this);
     theme::habiller(TextRtr_);
     poser(TextRtr_, t::TEXTRTR);
+    connect(TextRtr_, &QPlainTextEdit::textChanged, this, [this] { fiche_.texte = TextRtr_->saisi(); });
     connect(TextRtr_, &EditeurRtr::refusesChanges, this, [this](int nombre) {
         etat_->setText(
             nombre == 0
@@ -115,17 +116,11 @@ void FrmSaisie::OuvrirExtrait(int n) {
     fondu_ = -FONDU.pas; // the first tick shows nothing yet
     Timer2_.start(1);
     preparer();
-    const auto thematique =
-        saisie::thematiqueDeCode(session_.corpus, session_.transcription.ExtraitCode[std::size_t(n)]);
-    codage(thematique.tag, thematique.caption);
-    colorer(thematique.couleur);
-    TextRtr_->texte(session_.transcription.ExtraitTexte[std::size_t(n)]);
     prendrePlace();
 }
 
 void FrmSaisie::prendrePlace() {
-    legendeOuverte_ = legende_;
-    finOuverte_ = session_.transcription.SaisieFin;
+    ouverte_ = fiche_;
     show();
     raise();
     activateWindow();
@@ -134,8 +129,7 @@ void FrmSaisie::prendrePlace() {
 }
 
 bool FrmSaisie::entamee() const {
-    return TextRtr_->document()->isModified() || legende_ != legendeOuverte_ ||
-           session_.transcription.SaisieFin != finOuverte_;
+    return fiche_ != ouverte_;
 }
 
 void FrmSaisie::preparer() {
@@ -145,10 +139,8 @@ void FrmSaisie::preparer() {
     if (!media.enLecture()) media.play();
     if (session_.audio.VitesseLecture != 0) media.rate(session_.audio.VitesseLecture);
     Picture2_->setVisible(media.rateDisponible());
-    const auto defaut = saisie::thematiqueParDefaut();
-    colorer(defaut.couleur);
-    codage(defaut.tag, defaut.caption);
-    TextRtr_->texte({});
+    fiche_ = saisie::ficheOuverte(session_);
+    montrerFiche();
     etat_->clear();
     titrer();
     if (etat.DicteeActive) saisie::demarrerPortion(session_, etat.SaisieDebut, etat.PortionSecondes);
@@ -184,14 +176,24 @@ void FrmSaisie::placerLargeur(bool depliee) {
         TextRtr_->setFocus();
 }
 
-void FrmSaisie::colorer(Couleur couleur) {
-    couleur_ = couleur;
+void FrmSaisie::montrerFiche() {
+    montrerThematique();
+    TextRtr_->texte(fiche_.texte);
+}
+
+void FrmSaisie::montrerThematique() {
+    colorer();
+    lbl_thm_->setText(versQt(fiche_.thematique.caption));
+    lbl_thm_->encre(saisie::encreThematique(fiche_.thematique.tag));
+}
+
+void FrmSaisie::colorer() {
     Elements bandes;
     for (int i = 0; i < 8; ++i)
         bandes.push_back({.controle = Controle::ShpFondSaisie,
                           .index = i,
                           .cadre = t::SHPFONDSAISIE[i],
-                          .fond = couleur,
+                          .fond = fiche_.thematique.couleur,
                           .rempli = true});
     bandes.push_back(
         {.controle = Controle::Shape2, .cadre = t::LBL_THM, .fond = rvb(226, 226, 230), .rempli = true});
@@ -203,13 +205,6 @@ void FrmSaisie::colorer(Couleur couleur) {
     bandes.push_back(
         {.controle = Controle::ShpFdThm, .cadre = t::SHPFDTHM, .fond = couleurAjout_, .rempli = true});
     Picture1_->elements(std::move(bandes));
-}
-
-void FrmSaisie::codage(const Texte& code, const Texte& legende) {
-    code_ = code;
-    legende_ = legende;
-    lbl_thm_->setText(versQt(legende));
-    lbl_thm_->encre(saisie::encreThematique(code));
 }
 
 void FrmSaisie::reprendreFocus() {
@@ -285,8 +280,8 @@ void FrmSaisie::valider() {
     const bool ecrit = cacherPour([&] {
         return etat.NouvelExtrait
                    ? AjouterExtrait(session_, plateforme_, retranscriptionDuLecteur(session_, plateforme_),
-                                    texte, code_)
-                   : saisie::validerModification(session_, plateforme_, legende_, texte);
+                                    texte, fiche_.thematique.tag)
+                   : saisie::validerModification(session_, plateforme_, fiche_.thematique.caption, texte);
     });
     if (!ecrit || etat.NouvelExtrait || !etat.RetourCorpus) return;
     etat.RetourCorpus = false;

@@ -1,6 +1,7 @@
 #pragma once
 #include "audio/Onde.h"
 #include "corpus/Session.h"
+#include "transcription/Fiche.h"
 #include "window/ui/Commandes.h"
 #include "window/ui/Forme.h"
 #include "window/ui/Theme.h"
@@ -65,8 +66,9 @@ class FrmSaisie : public Forme {
     void preparer();     ///< resets the window for the open span and draws it
     void prendrePlace(); ///< shows the window that is ready, to be typed in
     void placerLargeur(bool depliee);
-    void colorer(Couleur couleur);
-    void codage(const Texte& code, const Texte& legende);
+    void colorer(); ///< the bands, by the thematic and the colour that is being chosen
+    void montrerFiche();
+    void montrerThematique();
     void titrer();
     void reprendreFocus();
     bool cacherPour(const std::function<bool()>& ecrire);
@@ -141,14 +143,10 @@ class FrmSaisie : public Forme {
     std::array<BoutonImage*, 3> BtnOpt_{};
     QTimer Timer1_, Timer2_, Timer3_, Timer4_;
 
-    Texte code_ = "000";       ///< tag of lbl_thm
-    Texte legende_;            ///< caption of lbl_thm
-    Texte legendeOuverte_;     ///< the same at the opening
-    double finOuverte_ = 0;    ///< SaisieFin at the opening
-    Couleur couleur_ = 0;      ///< of every ShpFondSaisie
-    Couleur couleurAjout_ = 0; ///< of ShpFdThm
-    Texte CouleurChoisie_;     ///< decimal value; empty: none
-    double FinInitiale_ = 0;   ///< end of the span when lengthening began
+    saisie::Fiche fiche_, ouverte_; ///< what is worked on, and as it was at the opening
+    Couleur couleurAjout_ = 0;      ///< of ShpFdThm
+    Texte CouleurChoisie_;          ///< decimal value; empty: none
+    double FinInitiale_ = 0;        ///< end of the span when lengthening began
     Twips GlisseDebut_ = 0, GlisseFin_ = 0;
     Twips curseur_ = 0;   ///< Left of Curseur
     Rectangle portion_{}; ///< ShpDict; no width: hidden

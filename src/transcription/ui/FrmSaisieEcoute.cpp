@@ -221,12 +221,14 @@ void FrmSaisie::allonger() {
 
 void FrmSaisie::Timer4_Tick() {
     saisie::allonger(session_, plateforme_.media.currentPosition());
+    fiche_.fin = session_.transcription.SaisieFin;
     titrer();
     dessinerOnde();
 }
 
 void FrmSaisie::finirAllongement() {
     saisie::allonger(session_, plateforme_.media.currentPosition());
+    fiche_.fin = session_.transcription.SaisieFin;
     arreterAllongement();
     titrer();
     dessinerOnde();

@@ -97,9 +97,8 @@ void FrmSaisie::surlignerThematique(int rang) {
 void FrmSaisie::choisirThematique(int rang) {
     if (rang < 1 || rang > int(session_.corpus.NbThm)) return;
     rangSurvole_ = rang;
-    const auto thematique = saisie::thematiqueDuRang(session_.corpus, rang);
-    colorer(thematique.couleur);
-    codage(thematique.tag, thematique.caption);
+    fiche_.thematique = saisie::thematiqueDuRang(session_.corpus, rang);
+    montrerThematique();
     lbl_thm_->encre(0);
     placerLargeur(false);
     ConstruireThematiques();
@@ -113,7 +112,7 @@ void FrmSaisie::choisirCouleur(int index) {
 
 void FrmSaisie::colorerAjout(Couleur couleur) {
     couleurAjout_ = couleur;
-    colorer(couleur_);
+    colorer();
 }
 
 void FrmSaisie::reinitialiserAjout() {
