@@ -2,6 +2,7 @@
 
 #include "textfile/faute.h"
 #include "textfile/nombres.h"
+#include "textfile/tables.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,8 +19,8 @@ void convertir16(PointsOnde& points, const Echelles& echelles, long largeur, lon
     const long diviseur = arrondi(echelles.Echelle);
     if (diviseur == 0) throw FauteExecution("division par zéro : image trop haute pour l'onde");
     for (long i = 0; i < nombre; ++i) {
-        auto& point = points.points[static_cast<std::size_t>(i)];
-        const auto milieu = echelles.MilieuCanal[static_cast<std::size_t>(i / largeur)];
+        auto& point = ligneDe(points.points, i);
+        const auto milieu = ligneDe(echelles.MilieuCanal, i / largeur);
         point = static_cast<std::int16_t>(milieu - point / diviseur);
     }
 }
@@ -29,9 +30,9 @@ void convertir8(PointsOnde& points, const Echelles& echelles, long largeur, long
     for (std::size_t octet = 0; octet < hauteurs.size(); ++octet)
         hauteurs[octet] = echelles.MilieuCanal[0] - arrondi(static_cast<double>(octet) / echelles.Echelle);
     for (long i = 0; i < nombre; ++i) {
-        const auto milieu = echelles.MilieuCanal[static_cast<std::size_t>(i / largeur)];
-        const auto octet = points.octets[static_cast<std::size_t>(i)];
-        points.points[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(milieu + hauteurs[octet]);
+        const auto milieu = ligneDe(echelles.MilieuCanal, i / largeur);
+        const auto octet = ligneDe(points.octets, i);
+        ligneDe(points.points, i) = static_cast<std::int16_t>(milieu + hauteurs[octet]);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "textfile/chemins.h"
 #include "textfile/faute.h"
 #include "textfile/nombres.h"
+#include "textfile/tables.h"
 
 #include <algorithm>
 #include <array>
@@ -147,9 +148,9 @@ void lirePoints(const FichierOnde& fichier, const EnTeteWav& entete, const Empan
     const std::size_t taille = seize ? 2 : 1;
     const auto ranger = [&](long i, const unsigned char* octets) {
         if (seize)
-            points.points[static_cast<std::size_t>(i)] = echantillon16(octets);
+            ligneDe(points.points, i) = echantillon16(octets);
         else
-            points.octets[static_cast<std::size_t>(i)] = *octets;
+            ligneDe(points.octets, i) = *octets;
     };
     LectureSerree lecture(fichier, pas.PasOctets);
     const auto place = [&](long i) { return pas.PosDonnees + i * pas.PasOctets; };

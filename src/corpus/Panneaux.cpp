@@ -80,7 +80,7 @@ void basculerEntretien(EtatCorpus& corpus, int slot) {
 
 void isolerEntretien(EtatCorpus& corpus, int slot) {
     for (int i = 1; i <= corpus.NbEntretiens; ++i)
-        corpus.Entretiens[static_cast<std::size_t>(i)].Visible = i == slot;
+        ligneDe(corpus.Entretiens, i).Visible = i == slot;
 }
 
 void basculerThematique(EtatCorpus& corpus, int rang) {
@@ -96,10 +96,10 @@ void isolerThematique(EtatCorpus& corpus, int rang) {
 bool basculerTousEntretiens(EtatCorpus& corpus) {
     int actifs = 0;
     for (int i = 1; i <= corpus.NbEntretiens; ++i)
-        actifs += corpus.Entretiens[static_cast<std::size_t>(i)].Visible ? 1 : 0;
+        actifs += ligneDe(corpus.Entretiens, i).Visible ? 1 : 0;
     const bool allumer = actifs <= 1;
     for (int i = 1; i <= corpus.NbEntretiens; ++i)
-        corpus.Entretiens[static_cast<std::size_t>(i)].Visible = allumer;
+        ligneDe(corpus.Entretiens, i).Visible = allumer;
     return allumer;
 }
 

@@ -18,10 +18,10 @@ struct Rang {
     Rang(const Session& session, int slot, int n) {
         const auto& tables = session.corpus.extraits;
         if (slot < 1 || static_cast<std::size_t>(slot) >= tables.size() || n < 1) return;
-        const ExtraitsEntretien& table = tables[static_cast<std::size_t>(slot)];
+        const ExtraitsEntretien& table = ligneDe(tables, slot);
         if (static_cast<std::size_t>(n) > table.lignes.size()) return;
         tampon = table.tampon.get();
-        ligne = &table.lignes[static_cast<std::size_t>(n - 1)];
+        ligne = &ligneDe(table.lignes, n - 1);
     }
     std::string_view champ(std::uint32_t LigneExtrait::*place, std::size_t longueur) const {
         return std::string_view(*tampon).substr(ligne->*place, longueur);

@@ -1,7 +1,10 @@
+#include "corpus/DispositionCorpus.h"
 #include "corpus/Panneaux.h"
 #include "corpus/Pistes.h"
 #include "support/CorpusDEssai.h"
 
+#include <cmath>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace vermo {
@@ -9,12 +12,16 @@ namespace {
 
 using essai::corpusDEssai;
 
-/// `nombre` interviews of 100 s; extracts of 10 s each at 0, 20, 40... in the first, coded "000", "001",
-/// "002", "999".
-Session sessionDe(int nombre) {
-    Session session = corpusDEssai(nombre);
-    session.corpus.HauteurEntretien = 400;
-    session.corpus.extraits[1] =
+/// `durees` seconds; extracts of 10 s each at 0, 20, 40... in the first, coded "000", "001", "002", "999".
+Session sessionDe(const std::vector<float>& durees) {
+    Session session = corpusDEssai(static_cast<int>(durees.size()));
+    EtatCorpus& corpus = session.corpus;
+    corpus.HauteurEntretien = 400;
+    for (std::size_t i = 1; i <= durees.size(); ++i) {
+        corpus.Entretiens[i].Duree = durees[i - 1];
+        corpus.extraits[i] = {};
+    }
+    corpus.extraits[1] =
         analyser("100\r\n::0::000\r\n::10::\r\n::20::001\r\n::30::\r\n::40::002\r\n::50::\r\n"
                  "::60::999\r\n::60::\r\n",
                  session.reglages, "e1.Rtr")
@@ -25,6 +32,12 @@ Session sessionDe(int nombre) {
 /// A bar of 1,000 twips.
 const VueFrise VUE{.largeur = 3900, .defilement = 0, .hauteur = 2000};
 
+std::string frise(const Session& session, const VueFrise& vue, const std::vector<Utf8>& vues = {}) {
+    Elements liste;
+    disposerFrise(session, vue, vues, liste);
+    return decrire(liste);
+}
+
 std::string pistes(const Session& session) {
     Elements liste;
     disposerPistes(session, VUE, liste);
@@ -32,8 +45,19 @@ std::string pistes(const Session& session) {
     return decrire(liste);
 }
 
-TEST(Timeline, RowsInViewAndUnderTheMouse) {
-    const Session session = sessionDe(999);
+TEST(Timeline, ARowWithAndWithoutItsPicture) {
+    const std::string lignes = frise(sessionDe({100, 50}), {3900, 600, 100}, {"", "", "/c/e2.Bmp"});
+    EXPECT_EQ(lignes.substr(lignes.find("ImgEnt[1]"), 40), "ImgEnt[1] 2600,240 1000x280 fond=404040\n");
+    EXPECT_EQ(lignes.substr(lignes.find("lblpiste[2]")), R"(lblpiste[2] 60,765 345x275 "2\r" encre=A4A6AC
+lblfich[2] 705,640 1835x280 "entretien2" bulle=entretien2.wav
+ImgEnt[2] 2600,640 1000x280 tag=entretien2.wav image=/c/e2.Bmp
+ShpFich[2] 2600,640 1000x280 bord=54545A
+ImgOnOff[2] 435,640 210x210 bulle=Activer/désactiver l'entretien image=:/icones/ImgOn.svg
+)");
+}
+
+TEST(Timeline, RowsInViewAndRealSize) {
+    const Session session = sessionDe(std::vector<float>(999, 10.F));
     const std::tuple<Twips, int, int> cas[] = {{0, 1, 5}, {639, 1, 6}, {640, 2, 7}, {399000, 997, 999}};
     for (const auto& [defilement, premiere, derniere] : cas) {
         const LignesEnVue lignes = lignesEnVue(session, {3900, defilement, 2000});
@@ -43,6 +67,54 @@ TEST(Timeline, RowsInViewAndUnderTheMouse) {
     const std::pair<Twips, int> sous[] = {{239, 0}, {240, 1}, {639, 1}, {640, 2}, {399839, 999}, {399840, 0}};
     for (const auto& [y, slot] : sous)
         EXPECT_EQ(slotSous(session, y), slot) << y;
+    EXPECT_EQ(frise(Session{}, VUE), "");
+    Session reelle = sessionDe({25, 100, 0});
+    reelle.corpus.TailleReelle = true;
+    VueFrise vue = VUE;
+    EXPECT_EQ(cadreImgEnt(reelle, 1, vue, dureeMax(reelle.corpus)).largeur, 1000) << "before the redraw";
+    vue.tailleReelle = true;
+    for (const auto& [slot, largeur] : {std::pair(1, 250.0), {2, 1000.0}, {3, 0.0}})
+        EXPECT_EQ(cadreImgEnt(reelle, slot, vue, dureeMax(reelle.corpus)).largeur, largeur) << slot;
+}
+
+/// Where the lines stand, "'" behind one at half a step; then the labels.
+std::string regle(float duree) {
+    Session session = sessionDe({duree});
+    session.corpus.TailleReelle = true;
+    const Dessin dessin = disposerRegle(session, duree);
+    std::string texte;
+    for (const Trait& trait : dessin.traits)
+        texte += std::to_string(std::lround(trait.x1 - 2600)) + (trait.couleur == 0x242424 ? "' " : " ");
+    for (const auto& inscription : dessin.inscriptions)
+        texte += std::to_string(std::lround(inscription.x)) + "=" + inscription.texte + " ";
+    return texte;
+}
+
+TEST(Timeline, Ruler) {
+    EXPECT_EQ(regle(130), "30' 60 90' 120 130 60=01:00 120=02:00 ");
+    EXPECT_EQ(regle(130.5F), "30' 60 90' 120 60=01:00 120=02:00 ");
+    EXPECT_EQ(regle(359), "30' 60 90' 120 150' 180 210' 240 270' 300 330' 359 "
+                          "60=01:00 120=02:00 180=03:00 240=04:00 300=05:00 ");
+    EXPECT_EQ(regle(360), "150' 300 360 300=05:00 ");
+    EXPECT_LT(regle(1e30F).size(), 1000000U);
+    EXPECT_EQ(disposerRegle(sessionDe({360}), 1000), Dessin{});
+}
+
+TEST(Timeline, ScrollAndZoom) {
+    const Session session = sessionDe({1, 1, 1, 1, 1}); // bottom of the last bar: 240 + 4 x 400 + 280
+    EXPECT_FALSE(AjusterDefilement(session, 2120).visible);
+    EXPECT_EQ(AjusterDefilement(session, 3000).hauteurSurface, 3000);
+    const Defilement d = AjusterDefilement(session, 1060);
+    EXPECT_EQ(d.hauteurSurface, 2120);
+    EXPECT_EQ(d.excedent, 1060);
+    EXPECT_EQ(d.hauteurPouce, 470);
+    const std::pair<Twips, Twips> places[] = {{0, 60}, {530, 295}, {1060, 530}};
+    for (const auto& [defile, haut] : places) {
+        EXPECT_DOUBLE_EQ(hautPouce(d, defile), haut);
+        EXPECT_DOUBLE_EQ(defilementDe(d, haut), defile);
+    }
+    EXPECT_EQ(defilementDe(d, -500), 0);
+    EXPECT_EQ(defilementDe(d, 5000), 1060);
 }
 
 TEST(Timeline, DurationsOfZeroAreTold) {
@@ -62,15 +134,48 @@ TEST(Timeline, DurationsOfZeroAreTold) {
 }
 
 TEST(Bars, Fills) {
-    Session session = sessionDe(1);
-    session.corpus.ThmVisible[2] = 0;
+    Session session = sessionDe({100});
     EXPECT_EQ(pistes(session), "Lblthm[1] 2600,250 100x260 tag=1 fond=000000\n"
-                               "Lblthm[2] 2800,250 100x260 tag=2\n"
+                               "Lblthm[2] 2800,250 100x260 tag=2 fond=FF0000 fusion\n"
                                "Lblthm[3] 3000,250 100x260 tag=3 fond=00FF00 fusion\n"
                                "Lblthm[4] 3200,250 45x260 tag=4 fond=FFFFFF\n"
                                "Lblthm[5] 2600,250 45x260 tag=5 fond=FFFFFF\n");
+    session.corpus.ThmVisible[2] = 0;
     session.corpus.Entretiens[1].Visible = false;
-    EXPECT_NE(pistes(session).find("tag=3 fond=808080"), std::string::npos);
+    EXPECT_EQ(pistes(session), "Lblthm[1] 2600,250 100x260 tag=1 fond=808080\n"
+                               "Lblthm[2] 2800,250 100x260 tag=2\n"
+                               "Lblthm[3] 3000,250 100x260 tag=3 fond=808080 fusion\n"
+                               "Lblthm[4] 3200,250 45x260 tag=4 fond=FFFFFF\n"
+                               "Lblthm[5] 2600,250 45x260 tag=5 fond=FFFFFF\n");
+}
+
+TEST(Bars, AMarkStandsBehindTheLast) {
+    Session session = sessionDe({100, 100, 0});
+    session.corpus.extraits[1].lignes.resize(999, session.corpus.extraits[1].lignes[0]);
+    Elements liste;
+    disposerPistes(session, VUE, liste);
+    ASSERT_EQ(liste.size(), 999U + 1 + 1 + 3); // the interview of duration 0 has its play button only
+    EXPECT_EQ(liste[999].tag + " " + liste[1000].tag, "1000 1");
+    EXPECT_EQ(decrire({liste.back()}),
+              "ImgPlay[3] 3660,1058 240x244 bulle=Ouvrir la fenêtre de saisie image=:/icones/ImgPlay.svg\n");
+}
+
+TEST(Panels, Thematics) {
+    Session session = sessionDe({1});
+    session.corpus.ThmVisible[2] = 0;
+    session.corpus.NbThm = 2;
+    Elements liste = disposerThematiques(session, 900, 6000, Legende::Corpus);
+    for (Element& element : liste)
+        element.bulle.clear();
+    EXPECT_EQ(decrire(liste), "ImgCoul[1] 0,127.5 900x240\n"
+                              "ShpCoul[1] 0,0 900x495 fond=000000\n"
+                              "LblCoul[1] 0,30 900x495 \" Sans\" tag=000 encre=636363\n"
+                              "ImgCoul[2] 0,622.5 900x240\n"
+                              "ShpCoul[2] 0,495 900x495 fond=808080\n"
+                              "LblCoul[2] 0,525 900x495 \" Travail\" tag=001 encre=000000\n");
+    const Elements saisie = disposerThematiques(session, 900, 500, Legende::Saisie);
+    EXPECT_EQ(decrire({saisie[3], saisie[4]}), "ImgCoul[2] 0,375 900x0 cache\n"
+                                               "ShpCoul[2] 0,250 900x250 fond=FF0000\n");
 }
 
 TEST(Panels, AnActiveOneAloneCountsAsNoneAndNotAllAsNone) {

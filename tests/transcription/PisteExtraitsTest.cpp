@@ -5,9 +5,12 @@
 #include "transcription/Marquage.h"
 
 #include <gtest/gtest.h>
+#include <set>
 
 namespace vermo::essai {
 namespace {
+
+using C = Controle;
 
 /// An interview of 100 s that shows `debut` to `fin`, its extracts those of `rtr`.
 struct Vue : EntretienOuvert {
@@ -22,6 +25,12 @@ struct Vue : EntretienOuvert {
         return disposerBulles(session, largeur, 6000, metriquesFixes);
     }
 };
+
+/// What stands of `controles`, as text.
+std::string seuls(Elements elements, const std::set<Controle>& controles) {
+    std::erase_if(elements, [&](const Element& e) { return !controles.contains(e.controle); });
+    return decrire(elements);
+}
 
 TEST(ExtractTrack, BarsStandWhereTheirTimesDoInTheirColours) {
     Vue vue(0, 100, "::10.00::002\r\n::30.00::\r\n::60.00::777\r\n::50.00::\r\n");
@@ -51,6 +60,48 @@ TEST(Bubbles, ShowWhatTheSpanReallyTouches) {
         vue.session.transcription.ExtraitFin[1] = fin;
         EXPECT_EQ(!vue.bulles(9000).empty(), vu) << debut << " " << fin;
     }
+}
+
+TEST(Bubbles, HoldTheirTitleAndTheirWords) {
+    const Vue vue(10, 60, "::5.00::001\r\n::6.00::\r\n::20.00::002\r\nun deux\r\n::30.00::\r\n");
+    EXPECT_EQ(decrire(vue.bulles()), R"(ShpXtrZ[1] 3120,0 2760x6000 tag=2 bord=020000
+ShpXtrIntZ[1] 3120,0 2760x6000 tag=2 fond=020000 fusion
+ImgBulleBlanche[1] 3000,120 180x180 tag=2 fond=F4F4F6
+ImgBulleInt[1] 3000,120 105x5880 tag=2 fond=F4F4F6
+ImgBulleBas[1] 3000,4825 180x180 tag=2 fond=F4F4F6
+ImgBulleBlanche[2] 3170,120 2640x180 tag=2 fond=F4F4F6
+ImgBulleBlanche[3] 3170,299 2640x4525 tag=2 fond=F4F4F6
+ImgBulleBas[2] 3170,4825 2640x180 tag=2 fond=F4F4F6
+ImgBulleBlanche[4] 5800,120 180x180 tag=2 fond=F4F4F6
+ImgBulleInt[2] 5860,120 105x5880 tag=2 fond=F4F4F6
+ImgBulleBas[3] 5800,4825 180x180 tag=2 fond=F4F4F6
+LblXtrZ[1] 3120,120 2760x4885 tag=2 bulle=002
+LbltitreXtrZ[1] 3240,210 2600x255 "Nom 002" tag=2 encre=020000 gras
+LbltxtXtrZ[1] 3240,495 2600x4420 tag=2
+LblMot[1] 3240,495 300x200 "un " tag=1 encre=202024
+LblMot[2] 3570,495 400x200 "deux" tag=1 encre=202024
+)");
+    EXPECT_EQ(sous(vue.bulles(), 3050, 5500)->controle, C::ImgBulleInt);
+    EXPECT_EQ(sous(vue.bulles(), 3500, 600)->controle, C::LbltxtXtrZ);
+}
+
+TEST(Bubbles, NarrowOnesAndThoseBeyondTheEdge) {
+    Vue vue(10, 20,
+            "::12.00::777\r\nmot\r\n::12.10::\r\n::15.00::001\r\nmot encore \r\n::95.00::\r\n"
+            "::14.00::000\r\n::19.00::\r\n");
+    vue.session.transcription.ExtraitFin[3] = {"fin", vue.session.reglages}; // no number: not shown
+    EXPECT_EQ(seuls(vue.bulles(9000), {C::ImgBulleBas, C::LbltitreXtrZ, C::LblMot}),
+              R"(ImgBulleBas[1] 1800,4825 180x180 tag=1 fond=F4F4F6
+ImgBulleBas[2] 1970,4825 15x180 tag=1 fond=F4F4F6
+ImgBulleBas[3] 1975,4825 180x180 tag=1 fond=F4F4F6
+LbltitreXtrZ[1] 2040,210 0x255 "Nom 003" tag=1 encre=030000 gras
+ImgBulleBas[4] 4500,4825 180x180 tag=2 fond=F4F4F6
+ImgBulleBas[5] 4670,4825 71640x180 tag=2 fond=F4F4F6
+ImgBulleBas[6] 76300,4825 180x180 tag=2 fond=F4F4F6
+LbltitreXtrZ[2] 4740,210 71600x255 "Nom 001" tag=2 encre=010000 gras
+LblMot[1] 4740,495 400x200 "mot " tag=1 encre=202024
+LblMot[2] 5170,495 700x200 "encore " tag=1 encre=202024
+)");
 }
 
 } // namespace

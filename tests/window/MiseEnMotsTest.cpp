@@ -39,5 +39,31 @@ TEST(WordLayout, OneColumn) {
         EXPECT_EQ(decrire(disposerMots(texte, reglages, essai::metriquesFixes)), attendu) << texte;
 }
 
+TEST(WordLayout, ColumnsFromTenLinesOn) {
+    struct Cas {
+        int lignes, colonnes, parColonne;
+    };
+    for (const Cas& cas : {Cas{9, 2, 9}, {10, 2, 5}, {11, 2, 6}, {10, 3, 4}, {10, 0, 5}}) {
+        Texte texte;
+        for (int n = 0; n < cas.lignes; ++n)
+            texte += "a\r";
+        const ReglagesMots reglages{.LargeurTexte = 40000, .ColonnesTexte = cas.colonnes, .PasListe = 195};
+        const MotsDisposes disposes = disposerMots(texte, reglages, essai::metriquesFixes);
+        EXPECT_EQ(disposes.lignesParColonne, cas.parColonne) << cas.lignes << " lines, " << cas.colonnes;
+    }
+}
+
+TEST(WordLayout, TheSecondColumnStartsAtItsWidth) {
+    Texte texte;
+    for (char c = 'a'; c < 'a' + 11; ++c)
+        texte += Texte{c} + " x\r";
+    const ReglagesMots reglages{
+        .depart = 5000, .haut = 300, .LargeurTexte = 6000, .ColonnesTexte = 2, .PasListe = 195};
+    const MotsDisposes disposes = disposerMots(texte, reglages, essai::metriquesFixes);
+    const Mot &finColonne = disposes.mots[11], &second = disposes.mots[12];
+    EXPECT_EQ((std::vector{finColonne.gauche, finColonne.haut}), (std::vector<Twips>{5230, 300 + 5 * 195}));
+    EXPECT_EQ((std::vector{second.gauche, second.haut}), (std::vector<Twips>{8000, 300}));
+}
+
 } // namespace
 } // namespace vermo

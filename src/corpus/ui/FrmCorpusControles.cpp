@@ -114,7 +114,7 @@ void FrmCorpus::construireBoutons() {
 
 void FrmCorpus::construirePanneaux() {
     for (int i = 0; i < 2; ++i)
-        etq_[static_cast<std::size_t>(i)] = etiquette(QStringLiteral("etq%1").arg(i), this, 9, theme::TEXTE);
+        ligneDe(etq_, i) = etiquette(QStringLiteral("etq%1").arg(i), this, 9, theme::TEXTE);
     Frm_fond_thm_ = cadre("Frm_fond_thm", this);
     Frm_thm_ = new ToileThematiques(session_, fenetres_, Frm_fond_thm_);
     Frm_thm_->surBascule = [this] { ImgOnOffthm_->icone(QStringLiteral("ImgOff")); };
