@@ -6,7 +6,7 @@ racine=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 # Pour compiler et pour que le programme tourne ; docs/dependances.md dit pourquoi chacun.
 paquets=(g++ cmake ninja-build pkg-config ccache libgtest-dev qt6-base-dev qt6-svg-dev
-    qt6-translations-l10n libmpv-dev fonts-dejavu-core)
+    qt6-translations-l10n libmpv-dev libxxhash-dev fonts-dejavu-core)
 
 dire_etape() { printf '== %s\n' "$*"; }
 

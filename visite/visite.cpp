@@ -210,13 +210,8 @@ class Visite {
                 poignee = element.index;
         const QPoint depart = Visiteur::place(zoom(), Controle::ImgBulleInt, poignee).center();
         visiteur_.glisser(zoom(), depart, depart - QPoint(60, 0));
-        if (secondesDe(programme_.session().transcription.ExtraitDebut[3]) >= 25)
+        if (programme_.session().transcription.ExtraitDebut[3].secondes.value() >= 25)
             throw Manque("the bound has not moved");
-    }
-
-    static double secondesDe(const Temps& temps) {
-        return std::holds_alternative<double>(temps) ? std::get<double>(temps)
-                                                     : std::stod(std::get<Texte>(temps));
     }
 
     Programme& programme_;

@@ -2,18 +2,12 @@
 
 #include "textfile/chemins.h"
 #include "textfile/faute.h"
-#include "textfile/fichier.h"
 #include "textfile/nombres.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cmath>
-#include <cstring>
-#include <fcntl.h>
 #include <string_view>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace vermo {
 
@@ -68,37 +62,12 @@ EnTeteWav avecDefauts(EnTeteWav entete) {
     return entete;
 }
 
-FichierOnde::FichierOnde(const Utf8& nom)
-    : descripteur_(::open(nom.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {
-    if (descripteur_ < 0) throw FauteExecution(std::strerror(errno), nom);
-    struct stat etat {};
-    if (::fstat(descripteur_, &etat) == 0 && S_ISREG(etat.st_mode)) return;
-    ::close(descripteur_);
-    throw FauteExecution("ce n'est pas un fichier", nom);
-}
-
-FichierOnde::~FichierOnde() {
-    ::close(descripteur_);
-}
-
 std::size_t FichierOnde::lire(std::int64_t position, void* octets, std::size_t taille) const noexcept {
-    if (position < 1) return 0;
-    auto* cible = static_cast<char*>(octets);
-    std::size_t lus = 0;
-    while (lus < taille) {
-        const ssize_t n = ::pread(descripteur_, cible + lus, taille - lus,
-                                  static_cast<off_t>(position - 1 + static_cast<std::int64_t>(lus)));
-        if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) break;
-        lus += static_cast<std::size_t>(n);
-    }
-    return lus;
+    return position < 1 ? 0 : source_.lireA(position - 1, static_cast<char*>(octets), taille);
 }
 
 void FichierOnde::annoncer(std::int64_t position, std::size_t taille) const noexcept {
-    if (position < 1) return;
-    ::posix_fadvise(descripteur_, static_cast<off_t>(position - 1), static_cast<off_t>(taille),
-                    POSIX_FADV_WILLNEED);
+    if (position >= 1) source_.annoncer(position - 1, taille);
 }
 
 LieuDonnees localiserDonnees(const FichierOnde& fichier) {

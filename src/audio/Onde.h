@@ -1,6 +1,7 @@
 #pragma once
 #include "formats/EnTeteWav.h"
 #include "platform/Dialogues.h"
+#include "textfile/fichier.h"
 #include "textfile/texte.h"
 
 #include <cstddef>
@@ -30,10 +31,7 @@ EnTeteWav avecDefauts(EnTeteWav entete);
 class FichierOnde {
   public:
     /// Throws FauteExecution with the cause when the file can't be opened or is no plain file.
-    explicit FichierOnde(const Utf8& nom);
-    ~FichierOnde();
-    FichierOnde(const FichierOnde&) = delete;
-    FichierOnde& operator=(const FichierOnde&) = delete;
+    explicit FichierOnde(const Utf8& nom) : source_(nom) {}
 
     /// Reads at a position counted from 1. Gives the number of bytes read, 0 when there are none.
     std::size_t lire(std::int64_t position, void* octets, std::size_t taille) const noexcept;
@@ -42,7 +40,7 @@ class FichierOnde {
     void annoncer(std::int64_t position, std::size_t taille) const noexcept;
 
   private:
-    int descripteur_;
+    Source source_;
 };
 
 /// Where the samples begin. Positions count from 1.

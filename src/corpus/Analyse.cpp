@@ -6,6 +6,8 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <memory>
+#include <utility>
 
 namespace vermo {
 namespace {
@@ -130,10 +132,10 @@ class Analyseur {
     }
 
     /// Room is given back only where most of the file was something else than extracts.
-    Texte tamponReduit() {
+    std::shared_ptr<const Texte> tamponReduit() {
         tampon_.resize(ecrit_);
         if (ecrit_ < tampon_.capacity() / 2) tampon_.shrink_to_fit();
-        return std::move(tampon_);
+        return std::make_shared<const Texte>(std::move(tampon_));
     }
 
     std::string tampon_;

@@ -19,10 +19,6 @@ namespace {
 /// Interviews read between two signs of life.
 constexpr std::size_t LOT = 64;
 
-std::size_t indice(int slot) {
-    return static_cast<std::size_t>(slot);
-}
-
 /// Paths of one interview's files, looked up in one listing of the directory.
 struct Fichiers {
     Utf8 enregistrement;
@@ -45,25 +41,30 @@ void reprendreAnciens(EtatCorpus& corpus, const std::vector<Fichiers>& fichiers,
         if (ancien == anciens.end()) continue;
         ExtraitsEntretien* table = ancien->second;
         anciens.erase(ancien);
-        corpus.extraits[indice(premier) + i] = std::move(*table);
+        ligneDe(corpus.extraits, premier + static_cast<int>(i)) = std::move(*table);
     }
     corpus.anciensExtraits = {};
 }
 
 /// Reads a transcript into `table`, whose memory is given back first. What was wrong with it, if anything.
+/// `identite` stands for the file where it can't be read.
 std::optional<FauteExecution> lireTable(ExtraitsEntretien& table, const Utf8& chemin,
                                         const IdentiteFichier& identite, const Reglages& reglages) {
     table = {};
+    EtatLu etat{chemin, identite, {}};
     std::optional<FauteExecution> faute;
     try {
-        LectureRtr lecture = analyser(lireFichier(chemin), reglages, chemin);
+        FichierLu lu = lireAvecIdentite(chemin);
+        etat = {chemin, lu.identite, empreinteDe(lu.octets)};
+        LectureRtr lecture = analyser(std::move(lu.octets), reglages, chemin);
         table = std::move(lecture.extraits);
         faute = std::move(lecture.faute);
     } catch (const FauteExecution& illisible) {
         faute = illisible;
     }
     table.chemin = chemin;
-    table.identite = identite;
+    table.identite = etat.identite;
+    table.lu = std::move(etat);
     if (faute) table.fauteDite.nouveau();
     return faute;
 }
@@ -129,7 +130,7 @@ void direManquant(Dialogues& dialogues, const Entretien& entretien) {
 
 void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const Fichiers& fichiers,
                        const Releve& releve) {
-    Entretien& entretien = session.corpus.Entretiens[indice(slot)];
+    Entretien& entretien = entretienDe(session.corpus, slot);
     const auto dates =
         releve.dates ? releve.dates : LireDatesFichier(fichiers.enregistrement, plateforme.dialogues);
     if (dates) {
@@ -137,7 +138,7 @@ void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const
         entretien.DateModif = dates->modification;
     }
     entretien.NbExtraits = 0;
-    ExtraitsEntretien& table = session.corpus.extraits[indice(slot)];
+    ExtraitsEntretien& table = ligneDe(session.corpus.extraits, slot);
     if (!fichiers.rtr) {
         if (table.manqueDit.nouveau()) direManquant(plateforme.dialogues, entretien);
         return;
@@ -153,7 +154,7 @@ std::vector<Releve> releverLot(EtatCorpus& corpus, const std::vector<Fichiers>& 
                                std::size_t debut, const Reglages& reglages) {
     std::vector<Releve> releves(std::min(LOT, fichiers.size() - debut));
     std::vector<std::size_t> aLire;
-    ExtraitsEntretien* tables = &corpus.extraits[indice(premier) + debut];
+    ExtraitsEntretien* tables = &ligneDe(corpus.extraits, premier + static_cast<int>(debut));
     for (std::size_t i = 0; i < releves.size(); ++i) {
         releves[i] = relever(tables[i], fichiers[debut + i]);
         if (releves[i].neuve) aLire.push_back(i);
@@ -175,7 +176,7 @@ void AnalyserEntretiens(Session& session, Plateforme& plateforme, int premier, i
     const IndexRepertoire index(corpus.RepCorpus);
     std::vector<Fichiers> fichiers;
     for (int slot = premier; slot <= dernier; ++slot)
-        fichiers.push_back(fichiersDe(corpus.Entretiens[indice(slot)], corpus.RepCorpus, index));
+        fichiers.push_back(fichiersDe(entretienDe(corpus, slot), corpus.RepCorpus, index));
     reprendreAnciens(corpus, fichiers, premier);
     std::vector<Releve> releves;
     for (std::size_t debut = 0; debut < fichiers.size(); debut += releves.size()) {
@@ -192,7 +193,7 @@ void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
     EtatCorpus& corpus = session.corpus;
     if (slot < 1 || slot > corpus.NbEntretiens) return;
     corpus.extraits.resize(corpus.Entretiens.size());
-    ExtraitsEntretien& table = corpus.extraits[indice(slot)];
+    ExtraitsEntretien& table = ligneDe(corpus.extraits, slot);
     const ExtraitsEntretien avant = std::exchange(table, {});
     const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
     const IdentiteFichier identite = identiteFichier(chemin);
@@ -202,7 +203,7 @@ void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
     }
     table.manqueDit = avant.manqueDit;
     if (avant.identite == identite) table.dureeNulleDite = avant.dureeNulleDite;
-    prendreTable(corpus.Entretiens[indice(slot)], table);
+    prendreTable(entretienDe(corpus, slot), table);
 }
 
 void quitterEntretien(Session& session, Plateforme& plateforme) {

@@ -9,14 +9,14 @@
 /// of the corpus-wide tables.
 ///
 /// A transcript is read once into one buffer, which is compacted in place and stays as the interview's own;
-/// the rows are offsets in it. A file whose identity (size, modification time, inode) is that of the last
-/// scan is not read again. Files are read on as many threads as the machine runs, some dozens at a time; what
-/// is told of them is told in the order of the slots, on the caller's thread.
+/// the rows are offsets in it. A file whose identity is that of the last scan is not read again. Files are
+/// read on as many threads as the machine runs, some dozens at a time; what is told of them is told in the
+/// order of the slots, on the caller's thread.
 namespace vermo {
 
 /// What a transcript holds for the corpus-wide tables. After a fault `extraits` holds the rows before it.
 struct LectureRtr {
-    ExtraitsEntretien extraits; ///< all but `identite` and `chemin`
+    ExtraitsEntretien extraits; ///< all but `identite`, `chemin` and `lu`
     std::optional<FauteExecution> faute;
 };
 

@@ -6,14 +6,19 @@
 ///
 /// Both say by a message that the section's opening tag is missing, and then leave the corpus as it is. Both
 /// throw FauteExecution, the corpus as it was, when it can't be read or replaced, and when its opening did
-/// not come to its end: what was not read whole is never rewritten from memory.
+/// not come to its end: what was not read whole is never rewritten from memory. `nom` says to people what is
+/// done.
 namespace vermo {
 
-/// The thematic table, rows 1 to NbThm, without those whose code is empty. No temporary file is left.
-void EcrireThematiques(const Session& session, Plateforme& plateforme);
+/// The thematic table, rows 1 to NbThm, without those whose code is empty. No temporary file is left. Gives
+/// the notice of the thematics.
+void EcrireThematiques(Session& session, Plateforme& plateforme,
+                       const Utf8& nom = "Modifier les thématiques");
 
 /// The interviews, slots 1 to NbEntretiens, without those whose Fichier is empty. A copy of the new corpus
-/// stays beside it under its name and ".$$$".
-void EcrireEntretiens(const Session& session, Plateforme& plateforme);
+/// stays beside it under its name and ".$$$". Gives no notice: the corpus is opened again, or the new row
+/// shown, by who changed the list.
+void EcrireEntretiens(Session& session, Plateforme& plateforme,
+                      const Utf8& nom = "Modifier la liste des entretiens");
 
 } // namespace vermo

@@ -1,6 +1,7 @@
 #include "corpus/Import.h"
 
 #include "corpus/OuvertureCorpus.h"
+#include "corpus/Porte.h"
 #include "formats/FichierRtr.h"
 #include "platform/Sablier.h"
 #include "textfile/chemins.h"
@@ -190,11 +191,15 @@ void ajouterEntretien(Session& session, const Texte& nom, double duree) {
     entretien.Duree = static_cast<float>(duree);
 }
 
-void creerRetranscription(const Session& session, int slot) {
-    const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
-    if (fichierExiste(chemin)) return;
-    const float duree = session.corpus.Entretiens.at(static_cast<std::size_t>(slot)).Duree;
-    remplacerFichier(chemin, rtr::nouveau(duree, session.reglages));
+void creerRetranscription(Session& session, Plateforme& plateforme, int slot) {
+    const Retranscription cible{slot, cheminCompagnon(session, slot, "Rtr")};
+    const auto creer = [&](const Octets& avant) -> Octets {
+        if (avant) return std::nullopt;
+        return rtr::nouveau(entretienDe(session.corpus, slot).Duree, session.reglages);
+    };
+    if (fichierExiste(cible.chemin)) return;
+    changerFichiers(session, plateforme, "Créer la retranscription de " + nomEntretien(session.corpus, slot),
+                    {{cible, creer}});
 }
 
 } // namespace vermo

@@ -39,6 +39,6 @@ double mesurerDuree(Plateforme& plateforme, const Utf8& chemin);
 void ajouterEntretien(Session& session, const Texte& nom, double duree);
 
 /// Makes the transcript of `slot`, unless there is one: its duration and empty sections.
-void creerRetranscription(const Session& session, int slot);
+void creerRetranscription(Session& session, Plateforme& plateforme, int slot);
 
 } // namespace vermo

@@ -1,6 +1,7 @@
 #include "corpus/OuvertureCorpus.h"
 
 #include "corpus/Frise.h"
+#include "corpus/Porte.h"
 #include "formats/FichierCorpus.h"
 #include "formats/Projets.h"
 #include "textfile/chemins.h"
@@ -106,6 +107,7 @@ void viderCorpus(Session& session) {
     corpus.ThmVisible.assign(1, 1);
     corpus.ouvertureInachevee = true;
     session.donnees = {};
+    session.transcription.source = {};
 }
 
 bool corpusAccessible(const Session& session, Plateforme& plateforme) {
@@ -118,8 +120,7 @@ bool corpusAccessible(const Session& session, Plateforme& plateforme) {
 
 bool lireThematiques(Session& session, Plateforme& plateforme) {
     EtatCorpus& corpus = session.corpus;
-    const auto rangs =
-        crp::lireThematiques(lireFichier(corpus.CheminCorpus), corpus.CheminCorpus, THEMATIQUES_MAX);
+    const auto rangs = crp::lireThematiques(lireFichierCorpus(corpus), corpus.CheminCorpus, THEMATIQUES_MAX);
     if (!rangs) {
         direSansBalise(plateforme.dialogues, "thématiques");
         return false;
@@ -131,8 +132,7 @@ bool lireThematiques(Session& session, Plateforme& plateforme) {
 
 bool lireEntretiens(Session& session, Plateforme& plateforme) {
     EtatCorpus& corpus = session.corpus;
-    const auto fichiers =
-        crp::lireEntretiens(lireFichier(corpus.CheminCorpus), corpus.CheminCorpus, ENTRETIENS_MAX);
+    const auto fichiers = crp::lireEntretiens(lireFichierCorpus(corpus), corpus.CheminCorpus, ENTRETIENS_MAX);
     if (!fichiers) {
         direSansBalise(plateforme.dialogues, "entretiens");
         return false;
@@ -155,7 +155,7 @@ void toutActiver(Session& session) {
     EtatCorpus& corpus = session.corpus;
     for (Entretien& entretien : corpus.Entretiens)
         entretien.Visible = true;
-    corpus.ThmVisible.assign(static_cast<std::size_t>(corpus.NbThm) + 1, 1);
+    corpus.ThmVisible.assign(corpus.ThmCode.size(), 1);
 }
 
 void calculerHauteur(Session& session, Twips hauteurCadre) {
@@ -173,8 +173,11 @@ bool creerCorpus(Session& session, Plateforme& plateforme) {
         {"Choisissez le nom du nouveau Corpus", "Fichier projet|*.Crp", "Crp", true});
     if (chemin.empty()) return false;
     const std::tm maintenant = plateforme.horloge.maintenant();
-    remplacerFichier(chemin, crp::nouveau(horodater(session.reglages.formatDate, maintenant),
-                                          horodater(session.reglages.formatHeure, maintenant)));
+    const auto creer = [&](const Octets&) -> Octets {
+        return crp::nouveau(horodater(session.reglages.formatDate, maintenant),
+                            horodater(session.reglages.formatHeure, maintenant));
+    };
+    changerFichiers(session, plateforme, "Créer le corpus " + nomDe(chemin), {{{0, chemin}, creer}});
     corpus.CheminCorpus = chemin;
     corpus.RepCorpus = repertoireDe(chemin);
     return true;

@@ -1,8 +1,11 @@
 #include "corpus/Session.h"
 
 #include "textfile/chemins.h"
+#include "textfile/faute.h"
+#include "textfile/nombres.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vermo {
 namespace {
@@ -17,7 +20,7 @@ struct Rang {
         if (slot < 1 || static_cast<std::size_t>(slot) >= tables.size() || n < 1) return;
         const ExtraitsEntretien& table = tables[static_cast<std::size_t>(slot)];
         if (static_cast<std::size_t>(n) > table.lignes.size()) return;
-        tampon = &table.tampon;
+        tampon = table.tampon.get();
         ligne = &table.lignes[static_cast<std::size_t>(n - 1)];
     }
     std::string_view champ(std::uint32_t LigneExtrait::*place, std::size_t longueur) const {
@@ -25,7 +28,19 @@ struct Rang {
     }
 };
 
+/// Nothing for a text that starts with no number.
+std::optional<double> nombreLu(const Texte& texte, const Reglages& reglages) {
+    try {
+        return nombre(texte, reglages);
+    } catch (const FauteExecution&) {
+        return std::nullopt;
+    }
+}
+
 } // namespace
+
+Temps::Temps(Texte lu, const Reglages& reglages)
+    : texte(std::move(lu)), secondes(nombreLu(texte, reglages)), valeur(vermo::valeur(texte)) {}
 
 std::string_view CorpusDebut(const Session& session, int slot, int n) {
     const Rang rang(session, slot, n);
@@ -52,6 +67,11 @@ int rangThematique(const EtatCorpus& corpus, std::string_view code) {
     const auto debut = corpus.ThmCode.begin() + 1;
     const auto trouve = std::find(debut, corpus.ThmCode.end(), code);
     return trouve == corpus.ThmCode.end() ? 0 : static_cast<int>(trouve - debut) + 1;
+}
+
+Utf8 nomEntretien(const EtatCorpus& corpus, int slot) {
+    const Texte& fichier = entretienDe(corpus, slot).Fichier;
+    return versUtf8(fichier.substr(0, fichier.rfind('.')));
 }
 
 Utf8 cheminEnregistrement(const Session& session, int slot) {

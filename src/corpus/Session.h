@@ -1,7 +1,9 @@
 #pragma once
 #include "formats/EnTeteWav.h"
 #include "formats/FichierRtr.h"
+#include "platform/Annonces.h"
 #include "platform/DejaDit.h"
+#include "textfile/empreinte.h"
 #include "textfile/fichier.h"
 #include "textfile/reglages.h"
 #include "textfile/tables.h"
@@ -10,8 +12,10 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 /// The system's shared state: plain values under their own names, one sub-struct a subsystem. No behaviour,
@@ -38,6 +42,14 @@ struct Entretien {
     bool operator==(const Entretien&) const = default;
 };
 
+/// Which state of a file was read or written last.
+struct EtatLu {
+    Utf8 chemin; ///< full path; empty: none yet
+    IdentiteFichier identite;
+    Empreinte empreinte; ///< of its raw bytes
+    bool operator==(const EtatLu&) const = default;
+};
+
 /// One extract in the corpus-wide tables: places in the interview's buffer, in bytes.
 struct LigneExtrait {
     std::uint32_t debut = 0, fin = 0, texte = 0, longueurTexte = 0;
@@ -57,10 +69,11 @@ inline std::string_view codeDe(const LigneExtrait& ligne) {
 /// Row n at index n - 1. What else the scan took from that file stands beside them, so that a file that has
 /// not changed need not be read again.
 struct ExtraitsEntretien {
-    Texte tampon;
+    std::shared_ptr<const Texte> tampon; ///< shared by the copies of a session; none where there is no row
     std::vector<LigneExtrait> lignes;
-    IdentiteFichier identite; ///< the file that was read
+    IdentiteFichier identite; ///< the file that the scan read
     Utf8 chemin;              ///< its full path
+    EtatLu lu;                ///< the transcript as it was read or written last, by whoever did
     float duree = 0;          ///< its first line, seconds
     float somme = 0;          ///< lengths of its extracts, seconds
     Texte observations;
@@ -84,6 +97,7 @@ struct EtatCorpus {
     std::vector<ExtraitsEntretien> extraits; ///< by slot, as Entretiens
     std::vector<ExtraitsEntretien>
         anciensExtraits;             ///< of before the reopening, until the next scan takes them
+    EtatLu lu;                       ///< the corpus file as it was read or written last
     bool ouvertureInachevee = false; ///< the tables don't hold what the corpus file holds: it isn't rewritten
     bool TriAPlat = false;
     std::int16_t LigneSource = 0, LigneCible = 0;
@@ -104,10 +118,29 @@ struct EtatAudio {
     bool operator==(const EtatAudio&) const = default;
 };
 
-/// A time of the working arrays: the field's text after a read, a number after an edit.
-using Temps = std::variant<Texte, double>;
+/// A time of the working arrays: what a read found, as it stands and as a number, or, after an edit, the
+/// number alone.
+struct Temps {
+    Texte texte{};                    ///< the field as read; empty after an edit
+    std::optional<double> secondes{}; ///< by the locale's conversion; none: the text is no number
+    double valeur = 0;                ///< the text by the conversion that knows only the decimal point
+
+    Temps() = default;
+    Temps(double secondesEditees) : secondes(secondesEditees) {}
+    Temps(Texte lu, const Reglages& reglages);
+    bool edite() const { return texte.empty() && secondes; }
+    bool operator==(const Temps&) const = default;
+};
+
+/// A transcript that a routine reads or writes: whose it is, and its full path.
+struct Retranscription {
+    int slot = 0; ///< 0: none
+    Utf8 chemin{};
+    bool operator==(const Retranscription&) const = default;
+};
 
 struct EtatTranscription {
+    Retranscription source;                      ///< what the arrays were read from, and are saved to
     std::vector<Temps> ExtraitDebut, ExtraitFin; ///< index 0 is no extract
     std::vector<Texte> ExtraitCode, ExtraitTexte;
     float NbExtraits = 0;
@@ -134,12 +167,26 @@ struct EtatDonnees {
     bool operator==(const EtatDonnees&) const = default;
 };
 
+/// A change of the corpus's files that stands: what it takes to tell of it and to take it back.
+struct Changement {
+    struct Fichier {
+        Utf8 chemin;
+        std::optional<std::string> avant; ///< the bytes that stood there; none: the file was made
+        bool operator==(const Fichier&) const = default;
+    };
+    Utf8 nom; ///< "Supprimer l'extrait 12 de Claire"; empty: none yet
+    std::vector<Fichier> fichiers;
+    std::optional<Avis> avis;
+    bool operator==(const Changement&) const = default;
+};
+
 struct Session {
     Reglages reglages;
     EtatCorpus corpus;
     EtatAudio audio;
     EtatTranscription transcription;
     EtatDonnees donnees;
+    Changement dernierChangement;
     float EtatFondu = 0; ///< the fades' shared counter
     bool operator==(const Session&) const = default;
 };
@@ -170,6 +217,9 @@ std::string_view CorpusTexte(const Session& session, int slot, int n);
 
 /// First row of the thematic table with this code, 0 for none.
 int rangThematique(const EtatCorpus& corpus, std::string_view code);
+
+/// The interview as people call it: its recording's name without the extension.
+Utf8 nomEntretien(const EtatCorpus& corpus, int slot);
 
 /// Full path of the interview's recording, and of its transcript or other companion ("Rtr", "Bmp"), by the
 /// name that really is on the disk when another case is used there.

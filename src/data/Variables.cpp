@@ -1,5 +1,6 @@
 #include "data/Variables.h"
 
+#include "corpus/Porte.h"
 #include "formats/FichierCorpus.h"
 #include "formats/FichierRtr.h"
 #include "textfile/faute.h"
@@ -19,9 +20,9 @@ bool refuser(Plateforme& plateforme, const Utf8& texte) {
 
 void ranger(EtatDonnees& donnees, const std::vector<crp::LigneVariable>& variables) {
     for (const crp::LigneVariable& variable : variables) {
-        const auto v = static_cast<std::size_t>(valeur(variable.numero));
-        donnees.VariableNumero.at(v) = variable.numero;
-        donnees.VariableNom.at(v) = variable.nom;
+        const int v = static_cast<int>(valeur(variable.numero));
+        ligneDe(donnees.VariableNumero, v) = variable.numero;
+        ligneDe(donnees.VariableNom, v) = variable.nom;
     }
     donnees.NbVariables = static_cast<float>(variables.size());
 }
@@ -29,8 +30,7 @@ void ranger(EtatDonnees& donnees, const std::vector<crp::LigneVariable>& variabl
 void ranger(EtatDonnees& donnees, const std::vector<crp::LigneModalite>& modalites) {
     donnees.ModaliteNom.resize(100);
     for (const crp::LigneModalite& modalite : modalites)
-        donnees.ModaliteNom.at(static_cast<std::size_t>(modalite.variable))
-            .at(static_cast<std::size_t>(modalite.modalite)) = modalite.nom;
+        ligneDe(ligneDe(donnees.ModaliteNom, modalite.variable), modalite.modalite) = modalite.nom;
 }
 
 } // namespace
@@ -39,7 +39,7 @@ bool LireVariables(Session& session, Plateforme& plateforme) {
     session.donnees = {};
     const Utf8& chemin = session.corpus.CheminCorpus;
     try {
-        const std::string octets = lireFichier(chemin);
+        const std::string octets = lireFichierCorpus(session.corpus);
         const auto variables = crp::lirePos(octets, chemin);
         if (!variables) return refuser(plateforme, "Impossible de trouver la balise d'ouverture du POS.");
         const auto modalites = crp::lireDic(octets, chemin);
@@ -55,22 +55,22 @@ bool LireVariables(Session& session, Plateforme& plateforme) {
 namespace {
 
 /// A transcript as far as its attributes reach: a corpus has many, and long ones.
-std::string lireJusquAuxAttributs(const Utf8& chemin) {
+std::string lireJusquAuxAttributs(EtatCorpus& corpus, const Retranscription& retranscription) {
     constexpr std::size_t debutUsuel = 8192;
-    std::string octets = lireDebut(chemin, debutUsuel);
+    std::string octets = lireDebut(retranscription.chemin, debutUsuel);
     const std::size_t section = octets.find("<|ATTR|");
     const bool suffit = octets.size() < debutUsuel || (section != std::string::npos &&
                                                        octets.find(">|ATTR|", section) != std::string::npos);
-    return suffit ? octets : lireFichier(chemin);
+    return suffit ? octets : lireRetranscription(corpus, retranscription);
 }
 
 } // namespace
 
 void LireAttributs(Session& session, int slot) {
-    const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
-    if (!fichierExiste(chemin)) return;
-    Entretien& entretien = session.corpus.Entretiens.at(static_cast<std::size_t>(slot));
-    rtr::lireAttributs(lireJusquAuxAttributs(chemin), entretien.Attributs, chemin);
+    const Retranscription source{slot, cheminCompagnon(session, slot, "Rtr")};
+    if (!fichierExiste(source.chemin)) return;
+    const std::string octets = lireJusquAuxAttributs(session.corpus, source);
+    rtr::lireAttributs(octets, entretienDe(session.corpus, slot).Attributs, source.chemin);
 }
 
 } // namespace vermo

@@ -62,9 +62,11 @@ SuiteImport importerEntretien(Session& session, Plateforme& plateforme) {
     const auto duree = mesurer(session, plateforme, *nom);
     if (!duree) return {};
     ajouterEntretien(session, *nom, *duree);
-    if (SuiteListe liste = enregistrerListe(session, plateforme); liste.faute)
+    if (SuiteListe liste = enregistrerListe(
+            session, plateforme, "Ajouter l'entretien " + nomEntretien(corpus, corpus.NbEntretiens));
+        liste.faute)
         return {IssueImport::ARouvrir, std::move(liste.faute)};
-    creerRetranscription(session, corpus.NbEntretiens);
+    creerRetranscription(session, plateforme, corpus.NbEntretiens);
     corpus.EntretienCourant = corpus.NbEntretiens;
     return {IssueImport::Ajoute};
 }

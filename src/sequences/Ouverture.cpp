@@ -77,20 +77,22 @@ SuiteListe retirerEntretien(Session& session, Plateforme& plateforme) {
                                        .boutons = Boutons::OuiNon,
                                        .icone = Icone::Question});
     if (reponse != Reponse::Oui) return {};
+    const Utf8 nom = "Retirer l'entretien " + nomEntretien(corpus, corpus.EntretienCourant);
     entretienDe(corpus, corpus.EntretienCourant).Fichier.clear();
-    return enregistrerListe(session, plateforme);
+    return enregistrerListe(session, plateforme, nom);
 }
 
 SuiteListe deplacerDansListe(Session& session, Plateforme& plateforme, int source, int cible) {
     if (source == cible) return {};
     DeplacerEntretien(session, source, cible);
-    return enregistrerListe(session, plateforme);
+    return enregistrerListe(session, plateforme,
+                            "Déplacer l'entretien " + nomEntretien(session.corpus, cible));
 }
 
-SuiteListe enregistrerListe(Session& session, Plateforme& plateforme) {
+SuiteListe enregistrerListe(Session& session, Plateforme& plateforme, const Utf8& nom) {
     SuiteListe suite{.aRouvrir = true, .faute = {}};
     try {
-        EcrireEntretiens(session, plateforme);
+        EcrireEntretiens(session, plateforme, nom);
     } catch (const FauteExecution& faute) {
         suite.faute = faute;
     }

@@ -59,7 +59,7 @@ SuiteListe retirerEntretien(Session& session, Plateforme& plateforme);
 /// Moves the interview in `source` to `cible`.
 SuiteListe deplacerDansListe(Session& session, Plateforme& plateforme, int source, int cible);
 
-/// Writes the list as memory holds it.
-SuiteListe enregistrerListe(Session& session, Plateforme& plateforme);
+/// Writes the list as memory holds it; `nom` says to people what was done to it.
+SuiteListe enregistrerListe(Session& session, Plateforme& plateforme, const Utf8& nom);
 
 } // namespace vermo

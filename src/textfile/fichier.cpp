@@ -6,11 +6,12 @@
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <fcntl.h>
-#include <sys/stat.h>
+#include <sys/file.h>
+#include <thread>
 #include <unistd.h>
-#include <utility>
 
 namespace vermo {
 namespace {
@@ -33,60 +34,13 @@ bool etatDe(const Utf8& chemin, struct stat& etat) noexcept {
     return chemin.find('\0') == Utf8::npos && ::stat(chemin.c_str(), &etat) == 0;
 }
 
-/// Closes what it holds.
-class Descripteur {
-  public:
-    Descripteur() = default;
-    explicit Descripteur(int valeur) : valeur_(valeur) {}
-    Descripteur(Descripteur&& autre) noexcept : valeur_(std::exchange(autre.valeur_, -1)) {}
-    Descripteur& operator=(Descripteur&& autre) noexcept {
-        std::swap(valeur_, autre.valeur_);
-        return *this;
-    }
-    ~Descripteur() {
-        if (ouvert()) fermer();
-    }
-    bool ouvert() const { return valeur_ >= 0; }
-    int valeur() const { return valeur_; }
-    int fermer() { return appelsSysteme().close(std::exchange(valeur_, -1)); }
+std::int64_t nanosecondes(const timespec& temps) noexcept {
+    return temps.tv_sec * 1'000'000'000 + temps.tv_nsec;
+}
 
-  private:
-    int valeur_ = -1;
-};
-
-/// A file open for reading, known to be an ordinary one.
-class Source {
-  public:
-    explicit Source(const Utf8& chemin) : chemin_(chemin) {
-        if (chemin.find('\0') != Utf8::npos) refuser(lecture, ENOENT, chemin);
-        // Without O_NONBLOCK a named pipe would hold us here.
-        fichier_ = Descripteur(::open(chemin.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-        struct stat etat {};
-        if (!fichier_.ouvert() || ::fstat(fichier_.valeur(), &etat) != 0) refuser(lecture, errno, chemin);
-        exigerOrdinaire(lecture, etat, chemin);
-        taille_ = etat.st_size;
-    }
-
-    /// Bytes the file had when it was opened.
-    std::int64_t taille() const { return taille_; }
-
-    /// Reads up to `voulus` bytes, fewer only at the end of the file.
-    std::size_t lire(char* vers, std::size_t voulus) {
-        std::size_t lus = 0;
-        while (lus < voulus) {
-            const ssize_t n = ::read(fichier_.valeur(), vers + lus, voulus - lus);
-            if (n == 0) break;
-            if (n < 0 && errno != EINTR) refuser(lecture, errno, chemin_);
-            if (n > 0) lus += static_cast<std::size_t>(n);
-        }
-        return lus;
-    }
-
-  private:
-    const Utf8& chemin_;
-    Descripteur fichier_;
-    std::int64_t taille_ = 0;
-};
+IdentiteFichier identiteDe(const struct stat& etat) noexcept {
+    return {etat.st_dev, etat.st_ino, etat.st_size, nanosecondes(etat.st_mtim), nanosecondes(etat.st_ctim)};
+}
 
 /// The file that a name stands for once symbolic links are followed, be there a file or not.
 Utf8 cibleDe(const Utf8& chemin) {
@@ -138,10 +92,13 @@ class Remplacement {
         }
     }
 
-    void valider() {
+    /// Gives the identity of the new file.
+    IdentiteFichier valider() {
         AppelsSysteme& appels = appelsSysteme();
         reprendreDroits();
         exiger(synchroniser(appels.fdatasync, fichier_.valeur()));
+        const Descripteur temoin(
+            ::fcntl(fichier_.valeur(), F_DUPFD_CLOEXEC, 0)); // a rename dates the file anew
         // The descriptor is gone even when close is interrupted, and the bytes are already on the disk.
         exiger(fichier_.fermer() == 0 || errno == EINTR);
         exiger(appels.rename(temporaire_.c_str(), cible_.c_str()) == 0);
@@ -150,6 +107,8 @@ class Remplacement {
         if (!synchroniser(appels.fsync, repertoire_.valeur()) && errno != EINVAL)
             throw FauteExecution("Enregistrement incertain après une coupure : " + causeSysteme(errno),
                                  chemin_);
+        struct stat etat {};
+        return appels.fstat(temoin.valeur(), &etat) == 0 ? identiteDe(etat) : IdentiteFichier{};
     }
 
   private:
@@ -220,14 +179,16 @@ AppelsSysteme& appelsSysteme() {
         ::fsync,
         ::close,
         ::rename,
-        ::unlink};
+        ::unlink,
+        ::fstat,
+        ::flock};
     return table;
 }
 
 IdentiteFichier identiteFichier(const Utf8& chemin) noexcept {
     struct stat etat {};
     if (!etatDe(chemin, etat)) return {};
-    return {etat.st_size, etat.st_mtim.tv_sec * 1'000'000'000 + etat.st_mtim.tv_nsec, etat.st_ino};
+    return identiteDe(etat);
 }
 
 bool fichierExiste(const Utf8& chemin) noexcept {
@@ -235,10 +196,54 @@ bool fichierExiste(const Utf8& chemin) noexcept {
     return etatDe(chemin, etat);
 }
 
+Source::Source(const Utf8& chemin) : chemin_(chemin) {
+    if (chemin.find('\0') != Utf8::npos) refuser(lecture, ENOENT, chemin);
+    // Without O_NONBLOCK a named pipe would hold us here.
+    fichier_ = Descripteur(appelsSysteme().open(chemin.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC, 0));
+    struct stat etat {};
+    if (!fichier_.ouvert() || appelsSysteme().fstat(fichier_.valeur(), &etat) != 0)
+        refuser(lecture, errno, chemin);
+    exigerOrdinaire(lecture, etat, chemin);
+    identite_ = identiteDe(etat);
+}
+
+std::size_t Source::lire(char* vers, std::size_t voulus) {
+    std::size_t lus = 0;
+    while (lus < voulus) {
+        const ssize_t n = ::read(fichier_.valeur(), vers + lus, voulus - lus);
+        if (n == 0) break;
+        if (n < 0 && errno != EINTR) refuser(lecture, errno, chemin_);
+        if (n > 0) lus += static_cast<std::size_t>(n);
+    }
+    return lus;
+}
+
+std::size_t Source::lireA(std::int64_t position, char* vers, std::size_t voulus) const noexcept {
+    std::size_t lus = 0;
+    while (lus < voulus) {
+        const auto ici = static_cast<off_t>(position + static_cast<std::int64_t>(lus));
+        const ssize_t n = ::pread(fichier_.valeur(), vers + lus, voulus - lus, ici);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) break;
+        lus += static_cast<std::size_t>(n);
+    }
+    return lus;
+}
+
+void Source::annoncer(std::int64_t position, std::size_t taille) const noexcept {
+    ::posix_fadvise(fichier_.valeur(), static_cast<off_t>(position), static_cast<off_t>(taille),
+                    POSIX_FADV_WILLNEED);
+}
+
 std::string lireFichier(const Utf8& chemin) {
+    return lireAvecIdentite(chemin).octets;
+}
+
+FichierLu lireAvecIdentite(const Utf8& chemin) {
     Source source(chemin);
     const auto taille = static_cast<std::size_t>(source.taille());
-    std::string octets;
+    FichierLu lu{{}, source.identite()};
+    std::string& octets = lu.octets;
     octets.reserve(taille);
     peuplerMemoire(octets.data(), taille);
     octets.resize(taille);
@@ -247,7 +252,7 @@ std::string lireFichier(const Utf8& chemin) {
     char suite[4096];
     while (const std::size_t lus = source.lire(suite, sizeof suite))
         octets.append(suite, lus);
-    return octets;
+    return lu;
 }
 
 std::string lireDebut(const Utf8& chemin, std::size_t taille) {
@@ -257,10 +262,10 @@ std::string lireDebut(const Utf8& chemin, std::size_t taille) {
     return octets;
 }
 
-void remplacerFichier(const Utf8& chemin, std::string_view octets) {
+IdentiteFichier remplacerFichier(const Utf8& chemin, std::string_view octets) {
     Remplacement remplacement(chemin);
     remplacement.ecrire(octets);
-    remplacement.valider();
+    return remplacement.valider();
 }
 
 bool copierFichier(const Utf8& source, const Utf8& cible,
@@ -284,6 +289,19 @@ bool copierFichier(const Utf8& source, const Utf8& cible,
 void supprimerFichier(const Utf8& chemin) {
     if (chemin.find('\0') != Utf8::npos) return;
     if (appelsSysteme().unlink(chemin.c_str()) != 0 && errno != ENOENT) refuser("Suppression", errno, chemin);
+}
+
+VerrouRepertoire::VerrouRepertoire(const Utf8& repertoire) {
+    constexpr int essais = 50;
+    constexpr std::chrono::milliseconds entreDeux{20};
+    AppelsSysteme& appels = appelsSysteme();
+    repertoire_ = Descripteur(
+        appels.open(repertoire.empty() ? "." : repertoire.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0));
+    if (!repertoire_.ouvert()) return;
+    for (int i = 0; i < essais && appels.flock(repertoire_.valeur(), LOCK_EX | LOCK_NB) != 0; ++i) {
+        if (errno != EWOULDBLOCK && errno != EINTR) return;
+        std::this_thread::sleep_for(entreDeux);
+    }
 }
 
 } // namespace vermo

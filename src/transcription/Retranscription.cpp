@@ -1,5 +1,6 @@
 #include "transcription/Retranscription.h"
 
+#include "corpus/Porte.h"
 #include "formats/FichierRtr.h"
 #include "platform/Sablier.h"
 #include "textfile/chemins.h"
@@ -9,6 +10,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace vermo {
 namespace {
@@ -21,15 +26,12 @@ bool dire(Plateforme& plateforme, const Utf8& texte) {
     return false;
 }
 
-bool entretienValide(const EtatCorpus& corpus) {
-    return corpus.EntretienCourant >= 1 && corpus.EntretienCourant <= corpus.NbEntretiens;
+bool entretienValide(const EtatCorpus& corpus, int slot) {
+    return slot >= 1 && slot <= corpus.NbEntretiens;
 }
 
-/// Transcript of the file that the player holds.
-Utf8 cheminDuLecteur(const Plateforme& plateforme) {
-    const Utf8 URL = plateforme.media.URL();
-    if (URL.empty()) throw FauteExecution("Aucun enregistrement n'est ouvert.");
-    return cheminReel(compagnon(URL, "Rtr"));
+void exigerChemin(const Retranscription& cible) {
+    if (cible.chemin.empty()) throw FauteExecution("Aucun enregistrement n'est ouvert.");
 }
 
 /// What a transcript's bytes say, and what forbids to write over them.
@@ -53,8 +55,9 @@ Examen examiner(std::string_view octets, const Utf8& chemin, const Reglages& reg
 }
 
 void viderTableaux(EtatTranscription& etat) {
-    etat.ExtraitDebut.assign(1, Texte{});
-    etat.ExtraitFin.assign(1, Texte{});
+    etat.source = {};
+    etat.ExtraitDebut.assign(1, {});
+    etat.ExtraitFin.assign(1, {});
     etat.ExtraitCode.assign(1, Texte{});
     etat.ExtraitTexte.assign(1, Texte{});
     etat.NbExtraits = 0;
@@ -62,11 +65,12 @@ void viderTableaux(EtatTranscription& etat) {
     etat.separateurEtranger = false;
 }
 
-void remplirTableaux(EtatTranscription& etat, std::vector<rtr::Extrait>&& extraits) {
+void remplirTableaux(EtatTranscription& etat, std::vector<rtr::Extrait>&& extraits,
+                     const Reglages& reglages) {
     etat.ExtraitTexte[0] = std::move(extraits[0].texte);
     for (std::size_t n = 1; n < extraits.size(); ++n) {
-        etat.ExtraitDebut.emplace_back(std::move(extraits[n].debut));
-        etat.ExtraitFin.emplace_back(std::move(extraits[n].fin));
+        etat.ExtraitDebut.emplace_back(std::move(extraits[n].debut), reglages);
+        etat.ExtraitFin.emplace_back(std::move(extraits[n].fin), reglages);
         etat.ExtraitCode.push_back(std::move(extraits[n].code));
         etat.ExtraitTexte.push_back(std::move(extraits[n].texte));
     }
@@ -87,106 +91,136 @@ void signaler(EtatTranscription& etat, Plateforme& plateforme, const Examen& exa
         plateforme.dialogues.demander({.texte = texte, .icone = Icone::Exclamation});
 }
 
-void lireFichierCourant(Session& session, Plateforme& plateforme, const Utf8& chemin) {
+void lireSource(Session& session, Plateforme& plateforme) {
     EtatTranscription& etat = session.transcription;
+    const Utf8& chemin = etat.source.chemin;
     Examen examen;
     try {
-        examen = examiner(lireFichier(chemin), chemin, session.reglages);
+        examen = examiner(lireRetranscription(session.corpus, etat.source), chemin, session.reglages);
     } catch (const FauteExecution& faute) {
         examen.faute = faute.what();
     }
-    remplirTableaux(etat, std::move(examen.lecture.extraits));
+    remplirTableaux(etat, std::move(examen.lecture.extraits), session.reglages);
     etat.lectureEntiere = examen.faute.empty();
     etat.separateurEtranger = !examen.etranger.empty();
     signaler(etat, plateforme, examen, chemin);
 }
 
 Texte champTemps(const Temps& temps, const Reglages& reglages) {
-    if (const auto* texte = std::get_if<Texte>(&temps)) return *texte;
-    return formatDeuxDecimales(std::get<double>(temps), reglages);
+    return temps.edite() ? formatDeuxDecimales(*temps.secondes, reglages) : temps.texte;
 }
 
-std::string composer(const Session& session, rtr::Selection selection) {
+std::string composer(const Session& session, int slot, rtr::Selection selection) {
     const EtatTranscription& etat = session.transcription;
-    const auto slot = static_cast<std::size_t>(session.corpus.EntretienCourant);
-    const Entretien& entretien = session.corpus.Entretiens.at(slot);
+    const Entretien& entretien = entretienDe(session.corpus, slot);
     std::vector<rtr::Extrait> extraits(1);
-    const auto nombre = static_cast<std::size_t>(nombreExtraits(session));
-    for (std::size_t n = 1; n <= nombre; ++n)
-        extraits.push_back({champTemps(etat.ExtraitDebut[n], session.reglages),
-                            champTemps(etat.ExtraitFin[n], session.reglages), etat.ExtraitCode[n],
-                            etat.ExtraitTexte[n]});
+    for (int n = 1; n <= nombreExtraits(session); ++n)
+        extraits.push_back({champTemps(ligneDe(etat.ExtraitDebut, n), session.reglages),
+                            champTemps(ligneDe(etat.ExtraitFin, n), session.reglages),
+                            ligneDe(etat.ExtraitCode, n), ligneDe(etat.ExtraitTexte, n)});
     return rtr::ecrire({entretien.Duree, entretien.Observations, entretien.Attributs}, extraits, selection,
                        session.reglages);
 }
 
 /// The whole rewrite; every refusal and failure has the same words.
-bool reecrire(const Session& session, Plateforme& plateforme, const Utf8& chemin, rtr::Selection selection) {
+bool reecrire(Session& session, Plateforme& plateforme, const Retranscription& cible, const Utf8& nom,
+              rtr::Selection selection) {
     const EtatTranscription& etat = session.transcription;
-    const bool permis = fichierExiste(chemin) && etat.lectureEntiere && !etat.separateurEtranger;
-    if (!permis) return dire(plateforme, ENREGISTREMENT_IMPOSSIBLE);
+    const auto transformer = [&](const Octets& avant) -> Octets {
+        if (!avant || !etat.lectureEntiere || etat.separateurEtranger) return std::nullopt;
+        return composer(session, cible.slot, selection);
+    };
+    bool ecrit = false;
     try {
-        remplacerFichier(chemin, composer(session, selection));
-        return true;
+        ecrit = changerFichiers(session, plateforme, nom, {{cible, transformer}},
+                                Avis{Sujet::Extraits, cible.slot});
     } catch (const FauteExecution&) {
-        return dire(plateforme, ENREGISTREMENT_IMPOSSIBLE);
+        // Its cause is told in the same words as a refusal.
     }
+    return ecrit || dire(plateforme, ENREGISTREMENT_IMPOSSIBLE);
 }
 
-bool insererDans(const Utf8& chemin, const rtr::Extrait& extrait, const Session& session,
-                 Plateforme& plateforme) {
-    const std::string octets = lireFichier(chemin);
+/// The bytes with one more extract; none when they may not be rewritten.
+Octets inserer(std::string_view octets, const rtr::Extrait& extrait, const Utf8& chemin,
+               const Session& session) {
     const Examen examen = examiner(octets, chemin, session.reglages);
-    if (!examen.sain()) return dire(plateforme, ENREGISTREMENT_IMPOSSIBLE);
+    if (!examen.sain()) return std::nullopt;
     if (examen.lecture.extraits.size() > rtr::EXTRAITS_MAX)
         throw FauteExecution(
             "Une retranscription tient au plus " + std::to_string(rtr::EXTRAITS_MAX) + " extraits.", chemin);
-    remplacerFichier(
-        chemin, rtr::inserer(octets, extrait, session.transcription.SaisieDebut, session.reglages, chemin));
+    return rtr::inserer(octets, extrait, session.transcription.SaisieDebut, session.reglages, chemin);
+}
+
+/// Inserts the extract, or makes the file with it: the interview then lasts what the player says.
+bool ajouter(Session& session, Plateforme& plateforme, const Retranscription& cible,
+             const rtr::Extrait& extrait) {
+    const auto duree = static_cast<float>(plateforme.media.duration());
+    bool cree = false;
+    const auto transformer = [&](const Octets& avant) -> Octets {
+        if (avant) return inserer(*avant, extrait, cible.chemin, session);
+        cree = true;
+        return rtr::creerAvec(duree, extrait, session.reglages);
+    };
+    const bool connu = entretienValide(session.corpus, cible.slot);
+    const Utf8 nom = "Ajouter un extrait" + (connu ? " à " + nomEntretien(session.corpus, cible.slot) : "");
+    if (!changerFichiers(session, plateforme, nom, {{cible, transformer}}, Avis{Sujet::Extraits, cible.slot}))
+        return false;
+    if (connu && cree) entretienDe(session.corpus, cible.slot).Duree = duree;
     return true;
 }
 
 } // namespace
 
 void LireRetranscription(Session& session, Plateforme& plateforme) {
+    EtatTranscription& etat = session.transcription;
+    const int slot = session.corpus.EntretienCourant;
     Sablier sablier(plateforme.ecran);
-    viderTableaux(session.transcription);
-    if (entretienValide(session.corpus)) {
-        const Utf8 chemin = cheminCompagnon(session, session.corpus.EntretienCourant, "Rtr");
-        if (!fichierExiste(chemin)) {
-            session.transcription.lectureEntiere = true;
+    viderTableaux(etat);
+    if (entretienValide(session.corpus, slot)) {
+        etat.source = {slot, cheminCompagnon(session, slot, "Rtr")};
+        if (!fichierExiste(etat.source.chemin)) {
+            etat.lectureEntiere = true;
             return sablier.laisser();
         }
-        lireFichierCourant(session, plateforme, chemin);
+        lireSource(session, plateforme);
     } else {
         dire(plateforme, LECTURE_IMPOSSIBLE);
     }
 }
 
-bool EnregistrerExtraits(Session& session, Plateforme& plateforme) {
-    if (!entretienValide(session.corpus)) return dire(plateforme, LECTURE_IMPOSSIBLE);
-    const Utf8 chemin = cheminCompagnon(session, session.corpus.EntretienCourant, "Rtr");
-    return reecrire(session, plateforme, chemin, {.sauterNegatifs = true});
+Retranscription retranscriptionDuLecteur(const Session& session, const Plateforme& plateforme) {
+    const Utf8 URL = plateforme.media.URL();
+    return {session.corpus.EntretienCourant, URL.empty() ? Utf8{} : cheminReel(compagnon(URL, "Rtr"))};
 }
 
-Suppression SupprimerExtrait(Session& session, Plateforme& plateforme) {
+bool EnregistrerExtraits(Session& session, Plateforme& plateforme, const Utf8& nom) {
+    const Retranscription cible = session.transcription.source;
+    if (!entretienValide(session.corpus, cible.slot)) return dire(plateforme, LECTURE_IMPOSSIBLE);
+    return reecrire(session, plateforme, cible, nom, {.sauterNegatifs = true});
+}
+
+Suppression SupprimerExtrait(Session& session, Plateforme& plateforme, const Retranscription& cible) {
     const Message question{.texte = "Etes-vous sûr(e) de vouloir supprimer cet extrait?",
                            .titre = "Confirmation",
                            .boutons = Boutons::OuiNon,
                            .icone = Icone::Question};
     if (plateforme.dialogues.demander(question) != Reponse::Oui) return Suppression::Annule;
-    const Utf8 chemin = cheminDuLecteur(plateforme);
-    if (!fichierExiste(chemin)) return Suppression::Supprime;
-    if (nombreExtraits(session) == 0 || !entretienValide(session.corpus)) {
+    exigerChemin(cible);
+    if (!fichierExiste(cible.chemin)) {
+        plateforme.annonces.annoncer({Sujet::Extraits, cible.slot});
+        return Suppression::Supprime;
+    }
+    if (nombreExtraits(session) == 0 || !entretienValide(session.corpus, cible.slot)) {
         dire(plateforme, ENREGISTREMENT_IMPOSSIBLE);
         return Suppression::Echec;
     }
-    const auto exclu = static_cast<std::size_t>(std::max(0.0F, session.transcription.ExtraitCourant));
-    return reecrire(session, plateforme, chemin, {.exclu = exclu}) ? Suppression::Supprime
-                                                                   : Suppression::Echec;
+    const int n = std::max(0, extraitCourant(session.transcription));
+    const Utf8 nom = nommerExtrait(session.corpus, "Supprimer", n, cible.slot);
+    const bool ecrit = reecrire(session, plateforme, cible, nom, {.exclu = static_cast<std::size_t>(n)});
+    return ecrit ? Suppression::Supprime : Suppression::Echec;
 }
 
-bool AjouterExtrait(Session& session, Plateforme& plateforme, Texte& texteSaisi,
+bool AjouterExtrait(Session& session, Plateforme& plateforme, const Retranscription& cible, Texte& texteSaisi,
                     const Texte& codeThematique) {
     rognerFins(texteSaisi);
     const EtatTranscription& etat = session.transcription;
@@ -194,14 +228,8 @@ bool AjouterExtrait(Session& session, Plateforme& plateforme, Texte& texteSaisi,
                                formatDeuxDecimales(etat.SaisieFin, session.reglages),
                                codeThematique.substr(0, 3), texteSaisi};
     try {
-        const Utf8 chemin = cheminDuLecteur(plateforme);
-        if (fichierExiste(chemin)) return insererDans(chemin, extrait, session, plateforme);
-        const auto duree = static_cast<float>(plateforme.media.duration());
-        remplacerFichier(chemin, rtr::creerAvec(duree, extrait, session.reglages));
-        if (entretienValide(session.corpus))
-            session.corpus.Entretiens[static_cast<std::size_t>(session.corpus.EntretienCourant)].Duree =
-                duree;
-        return true;
+        exigerChemin(cible);
+        return ajouter(session, plateforme, cible, extrait) || dire(plateforme, ENREGISTREMENT_IMPOSSIBLE);
     } catch (const FauteExecution& faute) {
         return dire(plateforme, faute.what());
     }
@@ -222,8 +250,7 @@ int nombreExtraits(const Session& session) noexcept {
 }
 
 double secondes(const Temps& temps, const Reglages& reglages) {
-    if (const auto* nombreLu = std::get_if<double>(&temps)) return *nombreLu;
-    return nombre(std::get<Texte>(temps), reglages);
+    return temps.secondes ? *temps.secondes : nombre(temps.texte, reglages); // which throws
 }
 
 int numeroValide(const Session& session, int k) {
@@ -233,19 +260,20 @@ int numeroValide(const Session& session, int k) {
 }
 
 double secondesDebut(const Session& session, int k) {
-    return secondes(session.transcription.ExtraitDebut[static_cast<std::size_t>(numeroValide(session, k))],
-                    session.reglages);
+    return secondes(ligneDe(session.transcription.ExtraitDebut, numeroValide(session, k)), session.reglages);
 }
 
 double secondesFin(const Session& session, int k) {
-    return secondes(session.transcription.ExtraitFin[static_cast<std::size_t>(numeroValide(session, k))],
-                    session.reglages);
+    return secondes(ligneDe(session.transcription.ExtraitFin, numeroValide(session, k)), session.reglages);
 }
 
 double valeurTexte(const Temps& temps, const Reglages& reglages) {
-    if (const auto* texte = std::get_if<Texte>(&temps)) return valeur(*texte);
-    const double nombreLu = std::get<double>(temps);
-    return reglages.separateurDecimal == '.' ? nombreLu : std::trunc(nombreLu);
+    if (!temps.edite()) return temps.valeur;
+    return reglages.separateurDecimal == '.' ? *temps.secondes : std::trunc(*temps.secondes);
+}
+
+Utf8 nommerExtrait(const EtatCorpus& corpus, const Utf8& action, int n, int slot) {
+    return action + " l'extrait " + std::to_string(n) + " de " + nomEntretien(corpus, slot);
 }
 
 } // namespace vermo

@@ -34,8 +34,8 @@ Texte libelle(const Texte& code, const Texte& nom) {
 
 /// First row whose code is the same number; 0 for none.
 int rangDuNumero(const EtatCorpus& corpus, std::string_view code) {
-    for (int rang = 1; rang <= static_cast<int>(corpus.NbThm); ++rang)
-        if (valeur(corpus.ThmCode[static_cast<std::size_t>(rang)]) == valeur(code)) return rang;
+    for (int rang = 1; rang <= nombreThematiques(corpus); ++rang)
+        if (valeur(ligneDe(corpus.ThmCode, rang)) == valeur(code)) return rang;
     return 0;
 }
 
@@ -166,10 +166,10 @@ ThematiqueAffichee thematiqueParDefaut() {
 }
 
 ThematiqueAffichee thematiqueDuRang(const EtatCorpus& corpus, int rang) {
-    if (rang < 1 || rang > static_cast<int>(corpus.NbThm))
+    if (rang < 1 || rang > nombreThematiques(corpus))
         throw FauteExecution("La thématique de rang " + std::to_string(rang) + " n'existe pas.");
-    const auto k = static_cast<std::size_t>(rang);
-    return {corpus.ThmCode[k], libelle(corpus.ThmCode[k], corpus.ThmNom[k]), couleur(corpus.ThmCouleur[k])};
+    const Texte& code = ligneDe(corpus.ThmCode, rang);
+    return {code, libelle(code, ligneDe(corpus.ThmNom, rang)), couleur(ligneDe(corpus.ThmCouleur, rang))};
 }
 
 ThematiqueAffichee thematiqueDeCode(const EtatCorpus& corpus, std::string_view code) {
@@ -182,13 +182,13 @@ Couleur encreThematique(std::string_view tag) {
 }
 
 Texte codePropose(const EtatCorpus& corpus) {
-    return formatCode(static_cast<long>(corpus.NbThm));
+    return formatCode(nombreThematiques(corpus));
 }
 
 std::optional<Refus> verifierThematique(const EtatCorpus& corpus, const NouvelleThematique& nouvelle) {
     if (const int rang = rangDuNumero(corpus, nouvelle.TXTcodethem); rang != 0)
         return Refus{{.texte = "Le code '" + versUtf8(nouvelle.TXTcodethem) + "' existe déjà (nom :'" +
-                               versUtf8(corpus.ThmNom[static_cast<std::size_t>(rang)]) +
+                               versUtf8(ligneDe(corpus.ThmNom, rang)) +
                                "').\nChoisissez un code inutilisé. Merci.",
                       .icone = Icone::Exclamation},
                      true};
@@ -201,7 +201,7 @@ std::optional<Refus> verifierThematique(const EtatCorpus& corpus, const Nouvelle
 }
 
 int ajouterThematique(EtatCorpus& corpus, const NouvelleThematique& nouvelle) {
-    const int rang = static_cast<int>(corpus.NbThm) + 1;
+    const int rang = nombreThematiques(corpus) + 1;
     if (rang > THEMATIQUES_MAX)
         throw FauteExecution("Un corpus tient au plus " + std::to_string(THEMATIQUES_MAX) + " thématiques.",
                              corpus.CheminCorpus);
@@ -228,18 +228,19 @@ void retirerDerniereThematique(EtatCorpus& corpus) {
 
 bool validerModification(Session& session, Plateforme& plateforme, const Texte& caption, Texte texte) {
     EtatTranscription& etat = session.transcription;
-    const auto k = static_cast<std::size_t>(numeroValide(session, static_cast<int>(etat.ExtraitCourant)));
+    const int k = numeroValide(session, extraitCourant(etat));
     rognerFins(texte);
     Temps debut = etat.SaisieDebut, fin = etat.SaisieFin;
     Texte code = caption;
     const auto echanger = [&] {
-        std::swap(etat.ExtraitDebut[k], debut);
-        std::swap(etat.ExtraitFin[k], fin);
-        std::swap(etat.ExtraitCode[k], code);
-        std::swap(etat.ExtraitTexte[k], texte);
+        std::swap(ligneDe(etat.ExtraitDebut, k), debut);
+        std::swap(ligneDe(etat.ExtraitFin, k), fin);
+        std::swap(ligneDe(etat.ExtraitCode, k), code);
+        std::swap(ligneDe(etat.ExtraitTexte, k), texte);
     };
     echanger();
-    const bool ecrit = EnregistrerExtraits(session, plateforme);
+    const bool ecrit = EnregistrerExtraits(session, plateforme,
+                                           nommerExtrait(session.corpus, "Modifier", k, etat.source.slot));
     if (!ecrit) echanger();
     return ecrit;
 }

@@ -60,12 +60,14 @@ const std::vector<Geste> GESTES = {
      "Pict_tpsZ~; Pict_zoom~; Shp_visu0=618+824; facteur=30; position=20; zoom=15-35"},
     {"touche-ctrl-espace", "", "touche Ctrl+Space", ""},
     {"touche-debut-avant", "survole Picture1@LblXtr2", "touche Alt+Left",
-     "disque entretien1.Rtr= -::20.00::002/ +::19.90::002/; extrait2=19.9-30 002 Un texte.\r"},
+     "demande=annoncer Extraits; disque entretien1.Rtr= -::20.00::002/ +::19.90::002/; extrait2=19.9-30 002 "
+     "Un texte.\r"},
     {"touche-fin-apres", "survole Picture1@LblXtr2", "touche Alt+Shift+Right",
-     "courant=2; demande=montrer FrmSaisie extrait 2; disque entretien1.Rtr= -::30.00::/ +::30.10::/; "
+     "courant=2; demande=annoncer Extraits, montrer FrmSaisie extrait 2; disque entretien1.Rtr= -::30.00::/ "
+     "+::30.10::/; "
      "extrait2=20-30.1 "
      "002 Un texte.\r"},
-    {"touche-debut-zero", "survole Picture1@LblXtr1", "touche Alt+Left", ""},
+    {"touche-debut-zero", "survole Picture1@LblXtr1", "touche Alt+Left", "demande=annoncer Extraits"},
     {"touche-entree-marque", "", "touche Return", "marque=10"},
     {"touche-entree-lance", "pause", "touche Return", "ImgMedia1=caché; ImgMedia4=vu; lecture=3; marque=10"},
     {"touche-entree-reponse-tardive", "pause; tardif", "touche Return; reponse",
@@ -122,20 +124,24 @@ const std::vector<Geste> GESTES = {
     {"zoom-texte-double", "", "double Pict_zoom@LbltxtXtrZ2",
      "courant=2; demande=montrer FrmSaisie extrait 2"},
     {"zoom-poignee-debut", "", "glisse Pict_zoom@ImgBulleInt3>15",
-     "disque entretien1.Rtr= -::20.00::002/ +::15.00::002/; extrait2=15-30 002 Un texte.\r"},
+     "demande=annoncer Extraits; disque entretien1.Rtr= -::20.00::002/ +::15.00::002/; extrait2=15-30 002 Un "
+     "texte.\r"},
     {"zoom-poignee-plus-tard", "", "glisse Pict_zoom@ImgBulleInt2>10",
-     "courant=1; demande=montrer FrmSaisie extrait 1; disque entretien1.Rtr= -::5.00::/ +::10.01::/; "
+     "courant=1; demande=annoncer Extraits, montrer FrmSaisie extrait 1; disque entretien1.Rtr= -::5.00::/ "
+     "+::10.01::/; "
      "extrait1=0-10 001 "
      "Un texte.\r"},
     {"zoom-poignee-borne", "", "glisse Pict_zoom@ImgBulleInt4>42",
-     "courant=2; demande=montrer FrmSaisie extrait 2; disque entretien1.Rtr= -::30.00::/ +::40.00::/; "
+     "courant=2; demande=annoncer Extraits, montrer FrmSaisie extrait 2; disque entretien1.Rtr= -::30.00::/ "
+     "+::40.00::/; "
      "extrait2=20-40 002 "
      "Un texte.\r"},
     {"zoom-poignee-zero", "", "glisse Pict_zoom@ImgBulleInt1>-5", ""},
     {"zoom-poignee-englobe", "repondre Ok", "glisse Pict_zoom@ImgBulleInt4>50",
      "dit=Un extrait ne peut pas en englober un autre!; extrait2=20-50 002 Un texte.\r"},
     {"zoom-poignee-ouvert", "double Pict_zoom@LbltxtXtrZ2; saisie nue", "glisse Pict_zoom@ImgBulleInt3>15",
-     "demande=montrer FrmSaisie extrait 2; disque entretien1.Rtr= -::20.00::002/ +::15.00::002/; "
+     "demande=annoncer Extraits, montrer FrmSaisie extrait 2; disque entretien1.Rtr= -::20.00::002/ "
+     "+::15.00::002/; "
      "extrait2=15-30 002 Un "
      "texte.\r"},
     {"regle-clic", "", "clic Pict_tpsZ@33", "position=33; shp_curseur_zoom0=0+13590"},

@@ -98,10 +98,10 @@ TEST_F(Import, MeasuresTheDuration) {
 
 TEST_F(Import, AddsTheInterviewAndItsTranscript) {
     ajouterEntretien(session, "la.wav", 12.5);
-    creerRetranscription(session, 1);
+    creerRetranscription(session, hote, 1);
     EXPECT_EQ(hote.dossier.lire("c/la.Rtr"), " 12,5 \r\n<|OBS|\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n");
     hote.dossier.ecrire("c/la.Rtr", "gardee");
-    creerRetranscription(session, 1);
+    creerRetranscription(session, hote, 1);
     EXPECT_EQ(hote.dossier.lire("c/la.Rtr"), "gardee");
 
     for (const char* nom : {"/x/łódź.wav", "/x/a\rb.wav"})

@@ -45,7 +45,8 @@ TEST_F(Sequences, OpenInsertAndList) {
     essai.session.transcription.SaisieDebut = 12.5;
     essai.session.transcription.SaisieFin = 20;
     Texte dit = "bonjour";
-    ASSERT_TRUE(AjouterExtrait(essai.session, essai.hote, dit, "001"));
+    ASSERT_TRUE(AjouterExtrait(essai.session, essai.hote, retranscriptionDuLecteur(essai.session, essai.hote),
+                               dit, "001"));
     viser();
     ASSERT_EQ(ouvrirCorpus(essai.session, essai.hote), IssueOuverture::Ouverte);
     EXPECT_EQ(essai::decrireExtraits(essai.session, 1), "");

@@ -13,7 +13,7 @@
 
 namespace vermo::essai {
 
-/// A fault in the system calls that replace files: every call of the table is counted from 1.
+/// A fault in the system calls that read and replace files: every call of the table is counted from 1.
 struct Panne {
     int rang = 0;                   ///< the call that is struck; 0: none
     int erreur = 0;                 ///< errno that the call fails with; 0: the process is killed there
@@ -46,6 +46,8 @@ class Pannes {
         table.rename = [](const char* a, const char* b) {
             return frappe("rename") ? -1 : etat().vrais.rename(a, b);
         };
+        table.fstat = [](int d, struct stat* s) { return frappe("fstat") ? -1 : etat().vrais.fstat(d, s); };
+        table.flock = [](int d, int o) { return frappe("flock") ? -1 : etat().vrais.flock(d, o); };
         table.unlink = [](const char* c) { return frappe("unlink") ? -1 : etat().vrais.unlink(c); };
     }
     Pannes(const Pannes&) = delete;

@@ -39,7 +39,7 @@ TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
     const Utf8 source = dossier.ecrire("ailleurs/son.wav", std::string(5000, 's'));
     const auto ajouter = [&] {
         Texte saisi = "neuf";
-        AjouterExtrait(session, hote, saisi, "001");
+        AjouterExtrait(session, hote, e.cible(), saisi, "001");
     };
     const struct {
         const char* nom;
@@ -53,11 +53,11 @@ TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
         {"Projets.ini", "/ancien.Crp\r\n", [&] { MettreAJourProjets(session, hote); }},
         {"son.wav", {}, [&] { apporterDansCorpus(session, hote, source); }},
         {"son.wav", "ancien", [&] { apporterDansCorpus(session, hote, source); }},
-        {"a.Rtr", {}, [&] { creerRetranscription(session, 1); }},
+        {"a.Rtr", {}, [&] { creerRetranscription(session, hote, 1); }},
         {"a.Rtr", {}, ajouter},
         {"a.Rtr", dossier.lire("a.Rtr"), ajouter},
         {"a.Rtr", dossier.lire("a.Rtr"), [&] { EnregistrerExtraits(session, hote); }},
-        {"a.Rtr", dossier.lire("a.Rtr"), [&] { SupprimerExtrait(session, hote); }},
+        {"a.Rtr", dossier.lire("a.Rtr"), [&] { SupprimerExtrait(session, hote, e.cible()); }},
     };
     session.transcription.SaisieFin = 2;
     session.transcription.ExtraitCourant = 1;

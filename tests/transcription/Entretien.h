@@ -32,6 +32,9 @@ struct EntretienOuvert {
         LireRetranscription(session, hote);
     }
 
+    /// What the window would write to.
+    Retranscription cible() { return retranscriptionDuLecteur(session, hote); }
+
     /// Row 1 "000" black, then one row a code, colours 1, 2 and so on, names "Nom" and the code.
     void thematiques(const std::vector<Texte>& codes) {
         EtatCorpus& corpus = session.corpus;

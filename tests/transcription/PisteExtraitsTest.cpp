@@ -89,7 +89,7 @@ TEST(Bubbles, NarrowOnesAndThoseBeyondTheEdge) {
     Vue vue(10, 20,
             "::12.00::777\r\nmot\r\n::12.10::\r\n::15.00::001\r\nmot encore \r\n::95.00::\r\n"
             "::14.00::000\r\n::19.00::\r\n");
-    vue.session.transcription.ExtraitFin[3] = Texte("fin"); // no number: not shown
+    vue.session.transcription.ExtraitFin[3] = {"fin", vue.session.reglages}; // no number: not shown
     EXPECT_EQ(seuls(vue.bulles(9000), {C::ImgBulleBas, C::LbltitreXtrZ, C::LblMot}),
               R"(ImgBulleBas[1] 1800,4825 180x180 tag=1 fond=F4F4F6
 ImgBulleBas[2] 1970,4825 15x180 tag=1 fond=F4F4F6

@@ -60,8 +60,8 @@ TEST(Transcript, WithAFaultIsToldOnceAndNeverRewritten) {
         e.hote.dialogues.repondre(Reponse::Oui).repondre(Reponse::Ok, IMPOSSIBLE);
         EXPECT_FALSE(EnregistrerExtraits(e.session, e.hote));
         Texte saisi = "neuf";
-        EXPECT_FALSE(AjouterExtrait(e.session, e.hote, saisi, "001"));
-        EXPECT_EQ(SupprimerExtrait(e.session, e.hote), Suppression::Echec);
+        EXPECT_FALSE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "001"));
+        EXPECT_EQ(SupprimerExtrait(e.session, e.hote, e.cible()), Suppression::Echec);
         EXPECT_TRUE(e.hote.dossier.lire("a.Rtr") == octets) << cause;
     }
 }
@@ -97,7 +97,7 @@ TEST(Transcript, AFullDiskIsTold) {
     e.hote.dialogues.repondre(Reponse::Ok, IMPOSSIBLE).repondre(Reponse::Ok, "disque plein");
     EXPECT_FALSE(EnregistrerExtraits(e.session, e.hote));
     Texte saisi = "neuf";
-    EXPECT_FALSE(AjouterExtrait(e.session, e.hote, saisi, "001"));
+    EXPECT_FALSE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "001"));
 }
 
 TEST(Extract, IsDeletedAfterAYes) {
@@ -106,7 +106,7 @@ TEST(Extract, IsDeletedAfterAYes) {
     e.session.transcription.ExtraitDebut[2] = -20.0;
     const auto supprimer = [&](Reponse reponse) {
         e.hote.dialogues.repondre(reponse, "Etes-vous sûr(e) de vouloir supprimer cet extrait?");
-        return SupprimerExtrait(e.session, e.hote);
+        return SupprimerExtrait(e.session, e.hote, e.cible());
     };
     EXPECT_EQ(supprimer(Reponse::Non), Suppression::Annule);
     EXPECT_EQ(e.hote.dossier.lire("a.Rtr"), TETE + UN + DEUX);
@@ -118,7 +118,7 @@ TEST(Extract, IsDeletedAfterAYes) {
     e.hote.dossier.ecrire("a.Rtr", TETE);
     e.session.transcription.NbExtraits = 0;
     e.hote.dialogues.repondre(Reponse::Oui).repondre(Reponse::Ok, IMPOSSIBLE);
-    EXPECT_EQ(SupprimerExtrait(e.session, e.hote), Suppression::Echec);
+    EXPECT_EQ(SupprimerExtrait(e.session, e.hote, e.cible()), Suppression::Echec);
 }
 
 TEST(Extract, IsInsertedWithItsTextTrimmed) {
@@ -126,7 +126,7 @@ TEST(Extract, IsInsertedWithItsTextTrimmed) {
     e.session.transcription.SaisieDebut = 10.0;
     e.session.transcription.SaisieFin = 11.005;
     Texte saisi = "Oui.\r\r\r";
-    EXPECT_TRUE(AjouterExtrait(e.session, e.hote, saisi, "0025"));
+    EXPECT_TRUE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "0025"));
     EXPECT_EQ(saisi, "Oui.\r");
     LireRetranscription(e.session, e.hote);
     EXPECT_EQ(e.session.transcription.NbExtraits, 3);
@@ -139,18 +139,18 @@ TEST(Extract, MakesItsFileAndKeepsToTheLimit) {
     std::filesystem::remove(e.hote.dossier.chemin("a.Rtr"));
     e.session.transcription.SaisieFin = 2;
     Texte saisi = "a\rb";
-    EXPECT_TRUE(AjouterExtrait(e.session, e.hote, saisi, "000"));
+    EXPECT_TRUE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "000"));
     EXPECT_EQ(e.hote.dossier.lire("a.Rtr"), " 60 \r\n::0.00::000\ra\rb\r::2.00::\r\n");
     EXPECT_EQ(e.session.corpus.Entretiens[1].Duree, 60);
 
     e.hote.dossier.ecrire("a.Rtr", plein(9998));
-    EXPECT_TRUE(AjouterExtrait(e.session, e.hote, saisi, "000"));
+    EXPECT_TRUE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "000"));
     const std::string avant = e.hote.dossier.lire("a.Rtr");
     e.hote.dialogues.repondre(Reponse::Ok, "9999").repondre(Reponse::Ok, "Aucun enregistrement");
-    EXPECT_FALSE(AjouterExtrait(e.session, e.hote, saisi, "000"));
+    EXPECT_FALSE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "000"));
     EXPECT_TRUE(e.hote.dossier.lire("a.Rtr") == avant);
     e.hote.media.URL("");
-    EXPECT_FALSE(AjouterExtrait(e.session, e.hote, saisi, "000"));
+    EXPECT_FALSE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "000"));
 }
 
 TEST(Extract, LineEndsAreTrimmedAndTimesReadBothWays) {
@@ -162,10 +162,10 @@ TEST(Extract, LineEndsAreTrimmedAndTimesReadBothWays) {
         EXPECT_EQ(avant, apres);
     }
     const Reglages point{.separateurDecimal = '.'}, virgule{.separateurDecimal = ','};
-    EXPECT_EQ(valeurTexte(Texte("12,75"), virgule), 12);
+    EXPECT_EQ(valeurTexte({"12,75", virgule}, virgule), 12);
     EXPECT_EQ(valeurTexte(12.75, virgule), 12);
     EXPECT_EQ(valeurTexte(12.75, point), 12.75);
-    EXPECT_EQ(secondes(Texte("12,75"), virgule), 12.75);
+    EXPECT_EQ(secondes({"12,75", virgule}, virgule), 12.75);
 }
 
 } // namespace

@@ -128,7 +128,8 @@ const std::vector<Geste> GESTES = {
      "demande=annoncer Extraits; disque a.Rtr= -::0.00::000/ -Zéro.// +::0.00::000  Rien/ +ZPluséro.//; "
      "extrait1=0-5 000  Rien ZPluséro.\r; fenetre=cachée; span=0"},
     {"valider-retour", "retour", "clic Imgbtn0",
-     "demande=annoncer Entretiens, decharger FrmVisu; disque a.Rtr= -::10.00::001/ +::10.00::001  Travail/; "
+     "demande=annoncer Extraits, annoncer Entretiens, decharger FrmVisu; disque a.Rtr= -::10.00::001/ "
+     "+::10.00::001  Travail/; "
      "extrait2=10-20 001  Travail Un.\rDeux.\r; fenetre=cachée; retour=0; span=0"},
     {"supprimer", "repondre Oui", "clic Imgsuppr",
      "demande=annoncer Extraits; disque a.Rtr= -::10.00::001/ -Un./Deux.// -::20.00::/; dit=Etes-vous "

@@ -66,7 +66,8 @@ void FrmVisu::poserBorne(int k, bool debut, double v) {
 
     const Deplacement deplacement = deplacerBorne(session_, k, debut, v);
     if (deplacement.englobe) return refuserEnglobement();
-    const bool ecrit = EnregistrerExtraits(session_, plateforme_);
+    const Utf8 nom = nommerExtrait(session_.corpus, "Déplacer une borne de", k, etat.source.slot);
+    const bool ecrit = EnregistrerExtraits(session_, plateforme_, nom);
     LireRetranscription(session_, plateforme_);
     AfficherExtraits();
     if ((deplacement.allonge || ouvert) && ecrit) ouvrirExtrait(k);

@@ -283,14 +283,12 @@ void FrmSaisie::valider() {
     if (!texteValide(texte)) return;
     auto& etat = session_.transcription;
     const bool ecrit = cacherPour([&] {
-        return etat.NouvelExtrait ? AjouterExtrait(session_, plateforme_, texte, code_)
-                                  : saisie::validerModification(session_, plateforme_, legende_, texte);
+        return etat.NouvelExtrait
+                   ? AjouterExtrait(session_, plateforme_, retranscriptionDuLecteur(session_, plateforme_),
+                                    texte, code_)
+                   : saisie::validerModification(session_, plateforme_, legende_, texte);
     });
-    if (!ecrit) return;
-    if (etat.NouvelExtrait || !etat.RetourCorpus) {
-        fenetres_.annoncer({Sujet::Extraits, session_.corpus.EntretienCourant});
-        return;
-    }
+    if (!ecrit || etat.NouvelExtrait || !etat.RetourCorpus) return;
     etat.RetourCorpus = false;
     quitterEntretien(session_, plateforme_);
     fenetres_.decharger(Fenetre::FrmVisu);
@@ -299,9 +297,10 @@ void FrmSaisie::valider() {
 void FrmSaisie::supprimer() {
     auto& etat = session_.transcription;
     if (etat.ExtraitCourant == 0) return;
-    if (!cacherPour([&] { return SupprimerExtrait(session_, plateforme_) == Suppression::Supprime; })) return;
-    fenetres_.annoncer({Sujet::Extraits, session_.corpus.EntretienCourant});
-    if (!etat.RetourCorpus) return;
+    const Retranscription cible = retranscriptionDuLecteur(session_, plateforme_);
+    const bool supprime =
+        cacherPour([&] { return SupprimerExtrait(session_, plateforme_, cible) == Suppression::Supprime; });
+    if (!supprime || !etat.RetourCorpus) return;
     etat.RetourCorpus = false;
     quitterEntretien(session_, plateforme_);
 }

@@ -137,13 +137,12 @@ void FrmSaisie::ajouterThematique() {
     }
     saisie::ajouterThematique(corpus, nouvelle);
     try {
-        EcrireThematiques(session_, plateforme_);
+        EcrireThematiques(session_, plateforme_, "Ajouter la thématique " + versUtf8(nouvelle.TxtThema));
     } catch (const FauteExecution&) {
         saisie::retirerDerniereThematique(corpus);
         throw;
     }
     CouleurChoisie_.clear();
-    fenetres_.annoncer({Sujet::Thematiques});
     choisirThematique(int(corpus.NbThm));
     reinitialiserAjout();
 }

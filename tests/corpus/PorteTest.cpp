@@ -1,0 +1,128 @@
+#include "corpus/Porte.h"
+
+#include "corpus/EcritureCorpus.h"
+#include "support/CorpusDEssai.h"
+#include "support/Pannes.h"
+#include "textfile/faute.h"
+
+#include <cerrno>
+#include <gtest/gtest.h>
+#include <sys/file.h>
+
+namespace vermo {
+namespace {
+
+using essai::Panne;
+using essai::Pannes;
+
+/// A corpus of two interviews, scanned; the notices that are sent.
+struct Door : testing::Test {
+    essai::CorpusDEssai essai;
+    std::vector<Avis> avis;
+
+    void SetUp() override {
+        essai.ajouterEntretien("a", essai::ENTETE);
+        essai.ajouterEntretien("b", "100\r\n");
+        essai.ecrireCorpus("000,&H0, Pas\r\n", "a.wav\r\nb.wav\r\n");
+        ASSERT_TRUE(essai.ouvrir());
+        essai.analyser();
+        essai.hote.annonces.surAvis = [this](const Avis& a) { avis.push_back(a); };
+    }
+    Retranscription rtr(int slot) { return {slot, cheminCompagnon(essai.session, slot, "Rtr")}; }
+    bool changer(const std::vector<FichierAChanger>& fichiers) {
+        return changerFichiers(essai.session, essai.hote, "Essai", fichiers, Avis{Sujet::Extraits, 2});
+    }
+    static std::function<Octets(const Octets&)> ajouter(const std::string& fin) {
+        return [fin](const Octets& avant) { return avant.value_or("rien") + fin; };
+    }
+    /// What the session knows of a file is what stands on the disk.
+    static void exigerConnu(const EtatLu& lu, const Utf8& chemin) {
+        EXPECT_EQ(lu, (EtatLu{chemin, identiteFichier(chemin), empreinteDe(lireFichier(chemin))})) << chemin;
+    }
+    void exigerTousConnus() {
+        exigerConnu(essai.corpus().lu, essai.corpus().CheminCorpus);
+        for (const int slot : {1, 2})
+            exigerConnu(essai.corpus().extraits[static_cast<std::size_t>(slot)].lu, rtr(slot).chemin);
+    }
+};
+
+TEST_F(Door, EveryReadAndWriteLeavesWhatStands) {
+    exigerTousConnus();
+    ASSERT_TRUE(changer({{rtr(2), ajouter("x")}}));
+    exigerTousConnus();
+    EcrireThematiques(essai.session, essai.hote);
+    EcrireEntretiens(essai.session, essai.hote);
+    exigerTousConnus();
+    // A change from elsewhere is seen at the next read.
+    const EtatLu avant = essai.corpus().extraits[1].lu;
+    essai.dossier().ecrire("c/a.Rtr", "50\r\n");
+    EXPECT_EQ(essai.corpus().extraits[1].lu, avant);
+    EXPECT_EQ(lireRetranscription(essai.corpus(), rtr(1)), "50\r\n");
+    exigerTousConnus();
+}
+
+TEST_F(Door, AChangeOfSeveralFilesIsOneAndIsRemembered) {
+    std::filesystem::remove(rtr(1).chemin);
+    ASSERT_TRUE(changer({{rtr(2), ajouter("x"), Temporaire::Reste}, {rtr(1), ajouter("y")}}));
+    EXPECT_EQ(essai.dossier().lire("c/b.Rtr"), "100\r\nx");
+    EXPECT_EQ(essai.dossier().lire("c/b.Rtr.$$$"), "100\r\nx");
+    EXPECT_EQ(essai.dossier().lire("c/a.Rtr"), "rieny");
+    const Changement attendu{
+        "Essai", {{rtr(2).chemin, "100\r\n"}, {rtr(1).chemin, std::nullopt}}, Avis{Sujet::Extraits, 2}};
+    EXPECT_EQ(essai.session.dernierChangement, attendu);
+    EXPECT_EQ(avis, (std::vector<Avis>{{Sujet::Extraits, 2}}));
+
+    // One refusal or one fault, in whichever place, and nothing is written, remembered or told.
+    const FichierAChanger refus{rtr(1), [](const Octets&) { return Octets(); }, Temporaire::Disparu},
+        faute{rtr(1), [](const Octets&) -> Octets { throw FauteExecution("non"); }},
+        bon{rtr(2), ajouter("z"), Temporaire::Disparu};
+    for (const auto& fichiers : {std::vector{bon, refus}, std::vector{refus, bon}})
+        EXPECT_FALSE(changer(fichiers));
+    EXPECT_THROW(changer({bon, faute}), FauteExecution);
+    EXPECT_EQ(essai.dossier().lire("c/b.Rtr"), "100\r\nx");
+    EXPECT_TRUE(essai.dossier().existe("c/b.Rtr.$$$"));
+    EXPECT_EQ(essai.session.dernierChangement, attendu);
+    EXPECT_EQ(avis.size(), 1U);
+
+    ASSERT_TRUE(changer({bon}));
+    EXPECT_FALSE(essai.dossier().existe("c/b.Rtr.$$$"));
+}
+
+TEST_F(Door, GoesOnWhereTheSystemRefusesTheLock) {
+    const Panne cas[] = {{1, ENOLCK, "flock"}, {1, EWOULDBLOCK, "flock"}, {1, EACCES, "open"}};
+    std::string attendu = "100\r\n";
+    for (const Panne& panne : cas) {
+        const Pannes pannes(panne);
+        EXPECT_TRUE(changer({{rtr(2), ajouter("x")}})) << panne.appel << panne.erreur;
+        EXPECT_EQ(essai.dossier().lire("c/b.Rtr"), attendu += "x");
+    }
+    // Another one that asks for the directory while the bytes are read and written waits.
+    static int tenus;
+    tenus = 0;
+    AppelsSysteme& table = appelsSysteme();
+    const AppelsSysteme vraie = table;
+    table.flock = [](int d, int operation) {
+        errno = ENOLCK;
+        return ++tenus > 3 ? -1 : ::flock(d, operation);
+    };
+    const auto tenu = [&](const Octets& avant) {
+        const VerrouRepertoire second(essai.corpus().RepCorpus);
+        return avant;
+    };
+    EXPECT_TRUE(changer({{rtr(2), tenu}}));
+    table = vraie;
+    EXPECT_EQ(tenus, 4);
+}
+
+TEST_F(Door, FilesThatCantBeReadOrWrittenAreAFault) {
+    for (const Panne& panne : {Panne{1, EIO, "fstat"}, Panne{1, ENOSPC, "write"}, Panne{2, EACCES, "open"}}) {
+        const Pannes pannes(panne);
+        EXPECT_THROW(changer({{rtr(2), ajouter("x")}}), FauteExecution) << panne.appel;
+        EXPECT_EQ(essai.dossier().lire("c/b.Rtr"), "100\r\n") << panne.appel;
+    }
+    EXPECT_TRUE(avis.empty());
+    EXPECT_EQ(essai.session.dernierChangement, Changement{});
+}
+
+} // namespace
+} // namespace vermo
