@@ -83,8 +83,9 @@ std::optional<Utf8> IndexRepertoire::trouver(const Utf8& nom) const {
 }
 
 std::optional<FichierVu> IndexRepertoire::voir(const Utf8& nom) const {
-    const IdentiteFichier exacte = identiteFichier(repertoire_ + nom);
-    if (exacte != IdentiteFichier{}) return FichierVu{repertoire_ + nom, exacte};
+    FichierVu exact{repertoire_ + nom, {}};
+    exact.identite = identiteFichier(exact.chemin);
+    if (exact.identite != IdentiteFichier{}) return exact;
     const auto autre = trouver(nom);
     if (!autre) return std::nullopt;
     return FichierVu{*autre, identiteFichier(*autre)};
