@@ -3,7 +3,8 @@
 #include "audio/Suivi.h"
 #include "corpus/ui/FrmCorpus.h"
 
-#include <ranges>
+#include <algorithm>
+#include <iterator>
 
 namespace vermo {
 
@@ -81,8 +82,7 @@ void Application::decharger(Fenetre fenetre) {
 void Application::finir() {
     for (const Fenetre fenetre : FENETRES)
         if (entamee(fenetre)) return montrer(fenetre);
-    for (const Fenetre fenetre : std::views::reverse(FENETRES))
-        cacher(fenetre);
+    std::for_each(std::rbegin(FENETRES), std::rend(FENETRES), [this](Fenetre fenetre) { cacher(fenetre); });
     emit fini();
 }
 

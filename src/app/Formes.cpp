@@ -7,7 +7,8 @@
 #include "textfile/tables.h"
 #include "transcription/ui/FrmSaisie.h"
 
-#include <ranges>
+#include <algorithm>
+#include <iterator>
 #include <stdexcept>
 #include <type_traits>
 #include <utility>
@@ -57,10 +58,10 @@ Formes::Formes(Session& session, Plateforme& plateforme, Fenetres& fenetres,
     : session_(session), plateforme_(plateforme), fenetres_(fenetres), faite_(std::move(faite)) {}
 
 Formes::~Formes() {
-    for (const Fenetre fenetre : std::views::reverse(FENETRES)) {
+    std::for_each(std::rbegin(FENETRES), std::rend(FENETRES), [this](Fenetre fenetre) {
         delete ouverte(fenetre);
         delete placeDe(reserve_, fenetre);
-    }
+    });
 }
 
 Forme* Formes::ouverte(Fenetre fenetre) const {

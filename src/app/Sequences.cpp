@@ -52,6 +52,7 @@ void Application::montrerCorpusVide() {
     QTimer::singleShot(attenteMs, &corpus(), [] {}); // wakes the loop when the system doesn't show the window
     while (!corpus().windowHandle()->isExposed() && !limite.hasExpired())
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // what its first paint asked for
 }
 
 /// What is on the disk counts again, without a question.

@@ -19,15 +19,15 @@ namespace {
 /// Interviews read between two signs of life.
 constexpr std::size_t LOT = 64;
 
-/// Paths of one interview's files, looked up in one listing of the directory.
+/// One interview's files as they stand now.
 struct Fichiers {
-    Utf8 enregistrement;
-    std::optional<Utf8> rtr;
+    FichierVu enregistrement;
+    std::optional<FichierVu> rtr;
 };
 
 Fichiers fichiersDe(const Entretien& entretien, const Utf8& repertoire, const IndexRepertoire& index) {
     const Utf8 nom = versUtf8(entretien.Fichier);
-    return {index.trouver(nom).value_or(repertoire + nom), index.trouver(compagnon(nom, "Rtr"))};
+    return {index.voir(nom).value_or(FichierVu{repertoire + nom, {}}), index.voir(compagnon(nom, "Rtr"))};
 }
 
 /// Gives the tables of before a reopening back to the interviews that have the same transcript, and forgets
@@ -37,7 +37,7 @@ void reprendreAnciens(EtatCorpus& corpus, const std::vector<Fichiers>& fichiers,
     for (ExtraitsEntretien& ancien : corpus.anciensExtraits)
         anciens.emplace(ancien.chemin, &ancien);
     for (std::size_t i = 0; i < fichiers.size() && !anciens.empty(); ++i) {
-        const auto ancien = fichiers[i].rtr ? anciens.find(*fichiers[i].rtr) : anciens.end();
+        const auto ancien = fichiers[i].rtr ? anciens.find(fichiers[i].rtr->chemin) : anciens.end();
         if (ancien == anciens.end()) continue;
         ExtraitsEntretien* table = ancien->second;
         anciens.erase(ancien);
@@ -46,23 +46,36 @@ void reprendreAnciens(EtatCorpus& corpus, const std::vector<Fichiers>& fichiers,
     corpus.anciensExtraits = {};
 }
 
+/// What is wrong with them is told by who reads them for themselves.
+std::optional<std::vector<rtr::Choix>> attributsDe(std::string_view octets, const Utf8& fichier) {
+    try {
+        return rtr::lireAttributs(octets, fichier);
+    } catch (const FauteExecution&) {
+        return std::nullopt;
+    }
+}
+
 /// Reads a transcript into `table`, whose memory is given back first. What was wrong with it, if anything.
-/// `identite` stands for the file where it can't be read.
-std::optional<FauteExecution> lireTable(ExtraitsEntretien& table, const Utf8& chemin,
-                                        const IdentiteFichier& identite, const Reglages& reglages) {
+/// The state in `rtr` stands for the file where it can't be read.
+std::optional<FauteExecution> lireTable(ExtraitsEntretien& table, const FichierVu& rtr,
+                                        const Reglages& reglages) {
+    EnregistrementVu enregistrement = std::move(table.enregistrement);
     table = {};
-    EtatLu etat{chemin, identite, {}};
+    EtatLu etat{rtr.chemin, rtr.identite, {}};
     std::optional<FauteExecution> faute;
     try {
-        FichierLu lu = lireAvecIdentite(chemin);
-        etat = {chemin, lu.identite, empreinteDe(lu.octets)};
-        LectureRtr lecture = analyser(std::move(lu.octets), reglages, chemin);
+        FichierLu lu = lireAvecIdentite(rtr.chemin);
+        etat = {rtr.chemin, lu.identite, empreinteDe(lu.octets)};
+        auto attributs = attributsDe(lu.octets, rtr.chemin);
+        LectureRtr lecture = analyser(std::move(lu.octets), reglages, rtr.chemin);
         table = std::move(lecture.extraits);
+        table.attributs = std::move(attributs);
         faute = std::move(lecture.faute);
     } catch (const FauteExecution& illisible) {
         faute = illisible;
     }
-    table.chemin = chemin;
+    table.enregistrement = std::move(enregistrement);
+    table.chemin = rtr.chemin;
     table.identite = etat.identite;
     table.lu = std::move(etat);
     if (faute) table.fauteDite.nouveau();
@@ -71,25 +84,33 @@ std::optional<FauteExecution> lireTable(ExtraitsEntretien& table, const Utf8& ch
 
 /// What comes of one interview's files before anything is told of them.
 struct Releve {
-    std::optional<DatesDeFichier> dates;  ///< of the recording
-    std::optional<IdentiteFichier> neuve; ///< of a transcript that isn't the one that was read last
+    std::optional<DatesDeFichier> dates; ///< of the recording
+    bool neuve = false;                  ///< the transcript isn't the one that was read last
     std::optional<FauteExecution> faute;
     std::exception_ptr autre; ///< no fault of the file, as memory that runs out
 };
 
-Releve relever(const ExtraitsEntretien& table, const Fichiers& fichiers) {
+/// A recording that is as it was is not opened again.
+std::optional<DatesDeFichier> datesDe(EnregistrementVu& connu, const FichierVu& fichier) {
+    const bool existe = fichier.identite != IdentiteFichier{};
+    if (existe && connu.identite == fichier.identite && connu.chemin == fichier.chemin) return connu.dates;
+    const auto dates = datesFichier(fichier.chemin);
+    connu = dates ? EnregistrementVu{fichier.chemin, fichier.identite, *dates} : EnregistrementVu{};
+    return dates;
+}
+
+Releve relever(ExtraitsEntretien& table, const Fichiers& fichiers) {
     Releve releve;
-    releve.dates = datesFichier(fichiers.enregistrement);
-    if (!fichiers.rtr) return releve;
-    const IdentiteFichier identite = identiteFichier(*fichiers.rtr);
-    if (table.chemin != *fichiers.rtr || table.identite != identite) releve.neuve = identite;
+    releve.dates = datesDe(table.enregistrement, fichiers.enregistrement);
+    releve.neuve =
+        fichiers.rtr && (table.chemin != fichiers.rtr->chemin || table.identite != fichiers.rtr->identite);
     return releve;
 }
 
-void lireNeuve(Releve& releve, ExtraitsEntretien& table, const Utf8& chemin,
+void lireNeuve(Releve& releve, ExtraitsEntretien& table, const FichierVu& rtr,
                const Reglages& reglages) noexcept {
     try {
-        releve.faute = lireTable(table, chemin, *releve.neuve, reglages);
+        releve.faute = lireTable(table, rtr, reglages);
     } catch (...) {
         releve.autre = std::current_exception();
     }
@@ -132,7 +153,7 @@ void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const
                        const Releve& releve) {
     Entretien& entretien = entretienDe(session.corpus, slot);
     const auto dates =
-        releve.dates ? releve.dates : LireDatesFichier(fichiers.enregistrement, plateforme.dialogues);
+        releve.dates ? releve.dates : LireDatesFichier(fichiers.enregistrement.chemin, plateforme.dialogues);
     if (dates) {
         entretien.DateAjout = dates->creation;
         entretien.DateModif = dates->modification;
@@ -194,11 +215,12 @@ void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
     if (slot < 1 || slot > corpus.NbEntretiens) return;
     corpus.extraits.resize(corpus.Entretiens.size());
     ExtraitsEntretien& table = ligneDe(corpus.extraits, slot);
-    const ExtraitsEntretien avant = std::exchange(table, {});
+    ExtraitsEntretien avant = std::exchange(table, {});
+    table.enregistrement = std::move(avant.enregistrement);
     const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
     const IdentiteFichier identite = identiteFichier(chemin);
     if (fichierExiste(chemin)) {
-        const auto faute = lireTable(table, chemin, identite, session.reglages);
+        const auto faute = lireTable(table, {chemin, identite}, session.reglages);
         if (faute && avant.identite != identite) direFaute(plateforme.dialogues, *faute);
     }
     table.manqueDit = avant.manqueDit;

@@ -16,7 +16,7 @@ namespace vermo {
 
 /// What a transcript holds for the corpus-wide tables. After a fault `extraits` holds the rows before it.
 struct LectureRtr {
-    ExtraitsEntretien extraits; ///< all but `identite`, `chemin` and `lu`
+    ExtraitsEntretien extraits; ///< what follows from the lines alone
     std::optional<FauteExecution> faute;
 };
 

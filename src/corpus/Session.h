@@ -65,6 +65,14 @@ inline std::string_view codeDe(const LigneExtrait& ligne) {
     return {ligne.thm.data(), ligne.longueurThm};
 }
 
+/// A recording as the scan found it last.
+struct EnregistrementVu {
+    Utf8 chemin; ///< full path; empty: none yet
+    IdentiteFichier identite;
+    DatesDeFichier dates;
+    bool operator==(const EnregistrementVu&) const = default;
+};
+
 /// The corpus-wide extracts of one interview: its transcript's texts in one buffer, and where each stands.
 /// Row n at index n - 1. What else the scan took from that file stands beside them, so that a file that has
 /// not changed need not be read again.
@@ -77,6 +85,8 @@ struct ExtraitsEntretien {
     float duree = 0;          ///< its first line, seconds
     float somme = 0;          ///< lengths of its extracts, seconds
     Texte observations;
+    std::optional<std::vector<rtr::Choix>> attributs; ///< none: the file is to be asked
+    EnregistrementVu enregistrement;
     DejaDit fauteDite, manqueDit, dureeNulleDite; ///< about this file
     bool operator==(const ExtraitsEntretien&) const = default;
 };

@@ -64,13 +64,23 @@ std::string lireJusquAuxAttributs(EtatCorpus& corpus, const Retranscription& ret
     return suffit ? octets : lireRetranscription(corpus, retranscription);
 }
 
+/// What the scan took from the transcript, where it is still the same file.
+const std::vector<rtr::Choix>* attributsConnus(const EtatCorpus& corpus, int slot) {
+    if (static_cast<std::size_t>(slot) >= corpus.extraits.size()) return nullptr;
+    const ExtraitsEntretien& table = ligneDe(corpus.extraits, slot);
+    const bool connus = table.attributs && identiteFichier(table.chemin) == table.identite;
+    return connus ? &*table.attributs : nullptr;
+}
+
 } // namespace
 
 void LireAttributs(Session& session, int slot) {
+    rtr::Attributs& attributs = entretienDe(session.corpus, slot).Attributs;
+    if (const auto* connus = attributsConnus(session.corpus, slot)) return rtr::poser(*connus, attributs);
     const Retranscription source{slot, cheminCompagnon(session, slot, "Rtr")};
     if (!fichierExiste(source.chemin)) return;
     const std::string octets = lireJusquAuxAttributs(session.corpus, source);
-    rtr::lireAttributs(octets, entretienDe(session.corpus, slot).Attributs, source.chemin);
+    rtr::poser(rtr::lireAttributs(octets, source.chemin), attributs);
 }
 
 } // namespace vermo

@@ -148,8 +148,7 @@ void verifier(std::string_view octets, const Lecture& lecture, const Utf8& fichi
               const Reglages& reglages) {
     verifierDuree(octets, fichier, reglages);
     verifierSections(lecture.enTete, fichier);
-    Attributs attributs{};
-    lireAttributs(octets, attributs, fichier);
+    lireAttributs(octets, fichier);
     for (std::size_t n = 1; n < lecture.extraits.size(); ++n)
         verifierExtrait(lecture.extraits[n], lecture.lignes[n], fichier, reglages);
 }
@@ -218,10 +217,10 @@ std::string creerAvec(float duree, const Extrait& extrait, const Reglages& regla
     return sortie;
 }
 
-bool lireAttributs(std::string_view octets, Attributs& attributs, const Utf8& fichier) {
+std::vector<Choix> lireAttributs(std::string_view octets, const Utf8& fichier) {
     Lignes lignes(octets);
-    if (!lignes.jusqua(ATTR)) return false;
-    Attributs lus = attributs;
+    std::vector<Choix> lus;
+    if (!contient(octets, ATTR) || !lignes.jusqua(ATTR)) return lus;
     std::string_view ligne;
     while (lignes.suivante(ligne) && !contient(ligne, FIN_ATTR)) {
         if (ligne.empty()) continue;
@@ -229,11 +228,15 @@ bool lireAttributs(std::string_view octets, Attributs& attributs, const Utf8& fi
         const auto variable = avantVirgule(ligne);
         if (!variable) lieu.refuser("Il manque une virgule dans la ligne d'attribut.");
         const int v = entierBorne(*variable, 1, VARIABLES_MAX, "variable", lieu);
-        lus[static_cast<std::size_t>(v - 1)] =
-            static_cast<float>(entierBorne(ligne, 0, VARIABLES_MAX, "modalité", lieu));
+        const int m = entierBorne(ligne, 0, VARIABLES_MAX, "modalité", lieu);
+        lus.push_back({static_cast<std::uint8_t>(v), static_cast<std::uint8_t>(m)});
     }
-    attributs = lus;
-    return true;
+    return lus;
+}
+
+void poser(const std::vector<Choix>& choix, Attributs& attributs) {
+    for (const auto& [variable, modalite] : choix)
+        attributs[variable - 1U] = modalite;
 }
 
 } // namespace vermo::rtr

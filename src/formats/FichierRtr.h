@@ -17,6 +17,13 @@ constexpr int VARIABLES_MAX = 99;
 constexpr std::size_t EXTRAITS_MAX = 9999; ///< in one transcript
 using Attributs = std::array<float, VARIABLES_MAX>;
 
+/// A line of the ATTR section.
+struct Choix {
+    std::uint8_t variable = 1; ///< 1 to 99
+    std::uint8_t modalite = 0; ///< 0 to 99
+    bool operator==(const Choix&) const = default;
+};
+
 /// One extract as its three kinds of lines hold it. `texte` separates lines by one CR, as a rule with a CR at
 /// its end.
 struct Extrait {
@@ -94,9 +101,11 @@ std::string inserer(std::string_view octets, const Extrait& extrait, double debu
 /// sections. Line ends inside the extract are lone CRs.
 std::string creerAvec(float duree, const Extrait& extrait, const Reglages& reglages);
 
-/// Fills in the attributes of the ATTR section, leaving those without a line as they are. False when there is
-/// no such section. Throws FauteExecution, `attributs` untouched, for a line that is no pair of numbers, a
-/// variable outside 1 to 99 or a modality outside 0 to 99.
-bool lireAttributs(std::string_view octets, Attributs& attributs, const Utf8& fichier);
+/// The lines of the ATTR section in their order; none without such a section. Throws FauteExecution for a
+/// line that is no pair of numbers, a variable outside 1 to 99 or a modality outside 0 to 99.
+std::vector<Choix> lireAttributs(std::string_view octets, const Utf8& fichier);
+
+/// Fills in the attributes that are chosen, leaving the others as they are.
+void poser(const std::vector<Choix>& choix, Attributs& attributs);
 
 } // namespace vermo::rtr

@@ -1,10 +1,9 @@
 #include "textfile/chemins.h"
 
-#include "textfile/fichier.h"
-
 #include <cerrno>
 #include <dirent.h>
 #include <memory>
+#include <utility>
 
 namespace vermo {
 namespace {
@@ -62,11 +61,16 @@ Utf8 cheminReel(const Utf8& chemin) {
 
 IndexRepertoire::IndexRepertoire(const Utf8& repertoire) : repertoire_(repertoire) {
     if (!repertoire_.empty() && repertoire_.back() != '/') repertoire_ += '/';
-    entier_ = lister(repertoire_, [&](const Utf8& nom) { exacts_.insert(nom); });
+}
+
+void IndexRepertoire::lister() const {
+    if (std::exchange(liste_, true)) return;
+    entier_ = vermo::lister(repertoire_, [&](const Utf8& nom) { exacts_.insert(nom); });
 }
 
 std::optional<Utf8> IndexRepertoire::trouver(const Utf8& nom) const {
     if (nom.find('/') != Utf8::npos) return vermo::trouver(repertoire_ + nom);
+    lister();
     if (exacts_.contains(nom)) return repertoire_ + nom;
     if (sansCasse_.empty())
         for (const Utf8& exact : exacts_) {
@@ -76,6 +80,15 @@ std::optional<Utf8> IndexRepertoire::trouver(const Utf8& nom) const {
     const auto autre = sansCasse_.find(majusculesUtf8(nom));
     if (autre == sansCasse_.end()) return entier_ ? std::nullopt : vermo::trouver(repertoire_ + nom);
     return repertoire_ + autre->second;
+}
+
+std::optional<FichierVu> IndexRepertoire::voir(const Utf8& nom) const {
+    FichierVu exact{repertoire_ + nom, {}};
+    exact.identite = identiteFichier(exact.chemin);
+    if (exact.identite != IdentiteFichier{}) return exact;
+    const auto autre = trouver(nom);
+    if (!autre) return std::nullopt;
+    return FichierVu{*autre, identiteFichier(*autre)};
 }
 
 } // namespace vermo

@@ -1,4 +1,5 @@
 #pragma once
+#include "textfile/fichier.h"
 #include "textfile/texte.h"
 
 #include <optional>
@@ -30,17 +31,29 @@ std::optional<Utf8> trouver(const Utf8& chemin);
 /// `trouver`, or the path itself when nothing is there: the name under which to create it.
 Utf8 cheminReel(const Utf8& chemin);
 
-/// One listing of a directory, for looking up many names. A directory that can't be listed holds none.
+/// A file that was looked up: its full path, and its state where the system tells it.
+struct FichierVu {
+    Utf8 chemin;
+    IdentiteFichier identite;
+};
+
+/// One listing of a directory, made at the first need, for looking up many names. A directory that can't be
+/// listed holds none.
 class IndexRepertoire {
   public:
     explicit IndexRepertoire(const Utf8& repertoire);
     /// Full path of the file that `nom` means, by the rule of `vermo::trouver`.
     std::optional<Utf8> trouver(const Utf8& nom) const;
+    /// The same with its state: one question to the system, without the listing, where the exact name exists.
+    std::optional<FichierVu> voir(const Utf8& nom) const;
 
   private:
+    void lister() const;
+
     Utf8 repertoire_;
-    bool entier_ = false; ///< the listing came to its end; otherwise names are asked for one by one
-    std::unordered_set<Utf8> exacts_;
+    mutable bool liste_ = false;
+    mutable bool entier_ = false; ///< the listing came to its end; otherwise names are asked for one by one
+    mutable std::unordered_set<Utf8> exacts_;
     mutable std::unordered_map<Utf8, Utf8> sansCasse_; ///< upper-cased name -> name, made at the first miss
 };
 

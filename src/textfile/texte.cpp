@@ -136,6 +136,8 @@ Texte majuscules(std::string_view texte) {
 }
 
 Utf8 majusculesUtf8(std::string_view utf8) {
+    if (std::all_of(utf8.begin(), utf8.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; }))
+        return majuscules(utf8);
     Utf8 resultat;
     resultat.reserve(utf8.size());
     parcourir(utf8, [&](std::size_t, const Caractere& c, std::optional<char> octet) {

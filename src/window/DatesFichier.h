@@ -16,6 +16,7 @@ struct DateHeure {
 struct DatesDeFichier {
     DateHeure creation; ///< birth time; the last write time on file systems that keep none
     DateHeure modification;
+    bool operator==(const DatesDeFichier&) const = default;
 };
 
 /// Creation and last write time of a file that can be opened for reading.

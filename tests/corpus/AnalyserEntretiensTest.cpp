@@ -107,6 +107,10 @@ TEST_F(Scan, AnUnchangedFileIsNotReadAgain) {
     std::filesystem::last_write_time(rtr, date);
     essai.analyser();
     EXPECT_EQ(decrireExtraits(essai.session, 3), "1;2;001;UN TEXTE ASSEZ LONG/;");
+    const DateHeure avant = entretien(3).DateModif;
+    std::filesystem::last_write_time(essai.dossier().chemin("c/b.wav"), date + std::chrono::hours(48));
+    essai.analyser();
+    EXPECT_GT(entretien(3).DateModif.secondes, avant.secondes + 86400);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "data/Variables.h"
 
+#include "corpus/AnalyserEntretiens.h"
 #include "support/PlateformeDeTest.h"
 #include "textfile/faute.h"
 
@@ -52,6 +53,22 @@ TEST_F(Variables, AttributesWithoutALineStay) {
         EXPECT_EQ((std::array{attributs[0], attributs[4], attributs[6], attributs[98]}),
                   (std::array{2.F, 6.F, 0.F, 41.F}))
             << note;
+    }
+}
+
+TEST_F(Variables, AttributesOfTheScanServeWhileTheFileIsTheSame) {
+    session.corpus.RepCorpus = hote.dossier.chemin();
+    session.corpus.Entretiens.resize(2);
+    session.corpus.Entretiens[1].Fichier = "a.mp3", session.corpus.NbEntretiens = 1;
+    hote.dossier.ecrire("a.mp3", "");
+    for (const char* modalite : {"2", "41"}) {
+        hote.dossier.ecrire("a.Rtr", std::string("60\r\n<|ATTR|\r\n1,") + modalite + "\r\n>|ATTR|\r\n");
+        if (modalite == std::string("2")) AnalyserEntretiens(session, hote, 1, 1);
+        for (int fois = 0; fois < 2; ++fois) {
+            session.corpus.Entretiens[1].Attributs = {};
+            LireAttributs(session, 1);
+            EXPECT_EQ(session.corpus.Entretiens[1].Attributs[0], std::stof(modalite));
+        }
     }
 }
 

@@ -45,6 +45,29 @@ TEST(ToileTest, EdgesFallOnPixelsAndTheSurfaceScrolls) {
     EXPECT_EQ(peinte(toile, 2).pixelColor(9, 5), QColor(Qt::red)) << "two device pixels to the pixel";
 }
 
+TEST(ToileTest, NarrowBarsAreFilledAsThePainterFillsThem) {
+    Toile toile(QStringLiteral("Picture1"));
+    taille(toile, 200, 40).fond(rvb(64, 70, 90));
+    toile.decalage(45, 15);
+    Elements barres;
+    for (int i = 0; i < 200; ++i)
+        for (const Encre encre : {Encre::Copie, Encre::Fusion, Encre::Voile})
+            barres.push_back(barre({i * 14.0, 40.0 * (i % 7) - 60, 15.0 * (i % 10), 400},
+                                   rvb(i, 255 - i, i * 7 % 256), encre));
+    toile.elements(barres);
+    QImage temoin(toile.size(), QImage::Format_ARGB32_Premultiplied);
+    for (const QRect& bornes : {toile.rect(), QRect(20, 5, 90, 20)}) {
+        QImage image(toile.size(), QImage::Format_RGB32);
+        for (QImage* cible : {&image, &temoin}) {
+            cible->fill(Qt::green);
+            QPainter peintre(cible);
+            peintre.setClipRect(bornes);
+            toile.peindre(peintre, toile.rect());
+        }
+        EXPECT_EQ(image, temoin.convertToFormat(QImage::Format_RGB32));
+    }
+}
+
 TEST(ToileTest, TextKeepsBetweenItsEdges) {
     Toile toile(QStringLiteral("Picture1"));
     taille(toile, 60, 20).fond(rvb(0, 0, 0));

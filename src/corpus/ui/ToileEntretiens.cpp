@@ -62,9 +62,8 @@ void ToileEntretiens::disposerPartie(Elements& liste, const Rectangle& partie) c
     ajouterInsertion(liste);
 }
 
+/// Which pictures were seen last is kept: those that are the same at the reopening are not read again.
 void ToileEntretiens::vider() {
-    vues_.clear();
-    identites_.clear();
     dessin({});
     lignes({});
     vide_ = true;

@@ -21,7 +21,8 @@ double arrondi(double pixels) {
 } // namespace
 
 PeintreElements::PeintreElements(QPainter& peintre, const QRectF& zone)
-    : peintre_(peintre), zone_(enTwips(zone)), ratio_(peintre.device()->devicePixelRatioF()) {}
+    : peintre_(peintre), remplissage_(peintre), zone_(enTwips(zone)),
+      ratio_(peintre.device()->devicePixelRatioF()) {}
 
 void PeintreElements::peindre(const Element& element) {
     const Rectangle& r = element.cadre;
@@ -32,7 +33,7 @@ void PeintreElements::peindre(const Element& element) {
     if (element.rempli) {
         QColor couleur = couleurQt(element.fond);
         if (element.encre != Encre::Copie) couleur.setAlpha(element.encre == Encre::Fusion ? FUSION : VOILE);
-        peintre_.fillRect(cadre, couleur);
+        remplissage_.remplir(cadre, couleur);
     }
     if (!element.image.empty())
         peintre_.drawImage(cadre, imageEtiree(element.image, (cadre.size() * ratio_).toSize()));

@@ -1,5 +1,6 @@
 #pragma once
 #include "window/Element.h"
+#include "window/ui/Remplissage.h"
 #include "window/ui/Theme.h"
 
 #include <QRectF>
@@ -24,6 +25,7 @@ class PeintreElements {
     void choisirPolice(const Element& element);
 
     QPainter& peintre_;
+    Remplissage remplissage_;
     Rectangle zone_; ///< twips
     double ratio_;   ///< device pixels to the logical one
     MetriquesQt metriques_;
