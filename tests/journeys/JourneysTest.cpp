@@ -1,9 +1,12 @@
 // The whole program as a person goes through it: real windows, simulated host.
 #include "Programme.h"
 #include "audio/ui/FrmVisu.h"
+#include "corpus/ui/FrmIntro.h"
+#include "corpus/ui/FrmMenu.h"
 #include "support/Pannes.h"
 #include "textfile/faute.h"
 
+#include <QPainter>
 #include <cerrno>
 #include <gtest/gtest.h>
 
@@ -203,6 +206,66 @@ TEST_F(JourneysTest, WhatIsBeingTypedHoldsTheInterviewOpenAndItsTranscriptKeepsI
     faire("clic ImgCorpus");
     EXPECT_TRUE(rendre());
     EXPECT_EQ(extraits(1), 1);
+}
+
+TEST_F(JourneysTest, AMenuFadesInUnderItsAnchorWithinTheScreen) {
+    ouvrirCorpus();
+    const auto ouvrir = [&](Rectangle ancre) -> FrmMenu& {
+        app.montrer(Fenetre::FrmMenu, PanneauVoulu{Panneau::Corpus, ancre});
+        return dynamic_cast<FrmMenu&>(forme("FrmMenu"));
+    };
+    session.EtatFondu = 1;
+    FrmMenu& menu = ouvrir({3000, 3000, 900, 300});
+    EXPECT_EQ(menu.pos(), QPoint(200, 220));
+    session.EtatFondu = 1;
+    for (int tic = 0; tic < 24; ++tic)
+        menu.Timer1_Tick();
+    EXPECT_EQ(menu.alpha(), 241);
+    session.EtatFondu = 10240; // what another window's fade left
+    EXPECT_EQ(ouvrir({28700, 16100, 100, 100}).geometry().bottomRight(), QPoint(1919, 1079));
+    EXPECT_EQ(menu.alpha(), 250);
+}
+
+TEST_F(JourneysTest, TheStartWindowListsFiveRecentCorporaAtMost) {
+    hote.dossier.ecrire("programme/Projets.ini", "/a.Crp\r\n/b,c.Crp\r\n/d.Crp\r\n/e.Crp\r\n/f.Crp\r\n");
+    app.demarrer();
+    EXPECT_THROW(controle("lblcorpus8"), std::runtime_error);
+    EXPECT_EQ(controle<QAbstractButton>("lblcorpus4").text(), QStringLiteral("/b")) << "a comma ends an item";
+    EXPECT_EQ(controle<QAbstractButton>("lblcorpus7").text(), QStringLiteral("/e.Crp"));
+    EXPECT_EQ(fenetre().alpha(), 249);
+}
+
+TEST_F(JourneysTest, AListThatCantBeReadIsSaidAndTheStartWindowOpens) {
+    std::filesystem::remove(hote.dossier.chemin("programme/Projets.ini"));
+    std::filesystem::create_directories(hote.dossier.chemin("programme/Projets.ini"));
+    faire("repondre Ok Projets.ini");
+    app.demarrer();
+    EXPECT_THROW(controle("lblcorpus3"), std::runtime_error);
+}
+
+TEST_F(JourneysTest, TheSoundTestSaysWhyNothingIsHeard) {
+    app.demarrer();
+    faire("repondre Ok Vermo de Vermo.mp3; clic ImgTestSon");
+    hote.dossier.ecrire("donnees/Vermo de Vermo.mp3", "son");
+    hote.media.sansSon = true;
+    faire("clic ImgTestSon");
+    dynamic_cast<FrmIntro&>(fenetre()).TimerSon_Tick();
+    EXPECT_TRUE(controle<QLabel>("LblSon").text().contains(QStringLiteral("silencieuse")));
+}
+
+TEST(TimelineTest, WhatIsKeptOfThePictureIsWhatAWholePaintWouldShow) {
+    Programme programme("abcdefghijkl");
+    programme.ouvrirCorpus();
+    auto& rangees = programme.controle<Toile>("Frm_entretiens");
+    for (const char* gestes :
+         {"roule Frm_entretiens -1", "clic Frm_entretiens@ImgEnt3", "touche End; touche Up",
+          "clic Frm_entretiens@ImgOnOff11", "clic ImgOnOffthm0"}) {
+        programme.faire(gestes);
+        QImage entiere(rangees.size(), QImage::Format_RGB32);
+        QPainter peintre(&entiere);
+        rangees.peindre(peintre, rangees.rect());
+        EXPECT_TRUE(rangees.grab().toImage().convertToFormat(QImage::Format_RGB32) == entiere) << gestes;
+    }
 }
 
 } // namespace
