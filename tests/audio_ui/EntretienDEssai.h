@@ -37,7 +37,6 @@ class EntretienDEssai : public Scene {
             fenetres.enSaisie = etat == "entamée";
             fenetres.montrer(Fenetre::FrmSaisie);
         };
-        verbes["volume"] = [this](const std::string& part) { session.audio.VolumeLecture = std::stof(part); };
         verbes["tardif"] = [this](const std::string&) { hote.media.tardif = true; };
         verbes["reponse"] = [this](const std::string&) { hote.media.repondre(); };
     }

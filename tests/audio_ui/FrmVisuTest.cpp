@@ -74,17 +74,6 @@ TEST(FrmVisu, AnOpeningThatIsGivenUpLeavesTheSession) {
     EXPECT_FALSE(essai.visu->isVisible());
 }
 
-TEST(FrmVisu, EscapeFadesTheWindowAndTheSoundAndThenItGoes) {
-    const auto essai = ouvert();
-    essai->faire("volume 80; touche Esc; 9x tic Timer3; 9x tic Timer3; 6x tic Timer3");
-    EXPECT_EQ(essai->hote.media.volume(), 4);
-    EXPECT_EQ(essai->fenetres.journal(),
-              std::vector<std::string>{"annoncer Entretiens"}); // not from within the tick
-    QApplication::processEvents();
-    EXPECT_EQ(essai->fenetres.journal(),
-              (std::vector<std::string>{"annoncer Entretiens", "decharger FrmVisu"}));
-}
-
 TEST(FrmVisu, AHeldButtonGoesOnInItsDirectionUntilItIsLeft) {
     const auto essai = ouvert();
     essai->faire("6x touche Right");
@@ -98,10 +87,4 @@ TEST(FrmVisu, AHeldButtonGoesOnInItsDirectionUntilItIsLeft) {
         for (const char* timer : {"TimerPlus", "TimerMoins"})
             EXPECT_FALSE(essai->visu->findChild<QTimer*>(QLatin1String(timer))->isActive()) << nom;
     }
-}
-
-TEST(FrmVisu, ASilentPlayerIsSaid) {
-    const auto essai = ouvert();
-    essai->hote.media.sansSon = true;
-    EXPECT_EQ(essai->effetDe("tic Timer1"), "lblEtat=Pas de sortie son : la lecture est silencieuse");
 }

@@ -3,11 +3,8 @@
 #include "audio/ui/FrmVisu.h"
 #include "corpus/ui/FrmIntro.h"
 #include "corpus/ui/FrmMenu.h"
-#include "support/Pannes.h"
-#include "textfile/faute.h"
 
 #include <QPainter>
-#include <cerrno>
 #include <gtest/gtest.h>
 
 namespace vermo::essai {
@@ -172,27 +169,6 @@ TEST_F(JourneysTest, AnOpeningThatFailsLeavesTheWindowEmptied) {
     EXPECT_EQ(hote.dossier.lire("c/E.Crp"), std::string(TETE) + "a.wav\r\nb.wav\r\n>|ENTR|\r\n");
 }
 
-TEST_F(JourneysTest, AListThatCantBeWrittenIsReadAnew) {
-    ouvrirCorpus();
-    {
-        const Pannes pannes({.rang = 1, .erreur = ENOSPC, .appel = "write", .toujours = true});
-        hote.dialogues.repondre(Reponse::Ok, "Projets.ini");
-        EXPECT_THROW(app.DeplacerEntretien(1, 2), FauteExecution);
-    }
-    EXPECT_EQ(noms(), "ab");
-    EXPECT_EQ(session.corpus.Entretiens[1].Fichier, "a.wav");
-}
-
-TEST_F(JourneysTest, ARecordingThatCantBeReadLeavesTheCorpusWindowInUse) {
-    ouvrirCorpus();
-    std::filesystem::remove(hote.dossier.chemin("c/a.wav"));
-    std::filesystem::create_directory(hote.dossier.chemin("c/a.wav"));
-    EXPECT_THROW(app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu}), FauteExecution);
-    EXPECT_FALSE(app.visible(Fenetre::FrmVisu));
-    EXPECT_TRUE(enUsage());
-    EXPECT_EQ(hote.ecran.pointeurCourant, Pointeur::Normal);
-}
-
 TEST_F(JourneysTest, WhatIsBeingTypedHoldsTheInterviewOpenAndItsTranscriptKeepsItsDuration) {
     std::filesystem::remove(hote.dossier.chemin("c/a.Rtr"));
     hote.media.durees["a.wav"] = 60;
@@ -236,19 +212,15 @@ TEST_F(JourneysTest, TheStartWindowListsFiveRecentCorporaAtMost) {
 }
 
 TEST_F(JourneysTest, AListThatCantBeReadIsSaidAndTheStartWindowOpens) {
-    std::filesystem::remove(hote.dossier.chemin("programme/Projets.ini"));
-    std::filesystem::create_directories(hote.dossier.chemin("programme/Projets.ini"));
-    faire("repondre Ok Projets.ini");
+    faire("muer programme/Projets.ini; repondre Ok Projets.ini");
     app.demarrer();
     EXPECT_THROW(controle("lblcorpus3"), std::runtime_error);
 }
 
 TEST_F(JourneysTest, TheSoundTestSaysWhyNothingIsHeard) {
     app.demarrer();
-    faire("repondre Ok Vermo de Vermo.mp3; clic ImgTestSon");
     hote.dossier.ecrire("donnees/Vermo de Vermo.mp3", "son");
-    hote.media.sansSon = true;
-    faire("clic ImgTestSon");
+    faire("sourd; clic ImgTestSon");
     dynamic_cast<FrmIntro&>(fenetre()).TimerSon_Tick();
     EXPECT_TRUE(controle<QLabel>("LblSon").text().contains(QStringLiteral("silencieuse")));
 }

@@ -124,7 +124,7 @@ inline std::string Programme::fenetresEnVue() {
     for (const Forme* f : formes()) {
         std::string vue = f->objectName().toStdString();
         vue += f->isMinimized() ? "_" : f->isEnabled() ? "" : "-";
-        if (vue.starts_with("FrmVisu")) vue += ":" + std::to_string(f->alpha());
+        if (vue.starts_with("FrmVisu")) vue += ":" + std::to_string(std::lround(255 * f->windowOpacity()));
         for (const QWidget* panneau : f->findChildren<QFrame*>())
             if (panneau->isVisible() && panneau->objectName().startsWith(QLatin1String("FrmMnu")))
                 vue += ":" + panneau->objectName().toStdString();

@@ -17,7 +17,9 @@ namespace vermo::essai {
 ///    the last `focus`
 ///  - repondre ANSWER [PART-OF-THE-QUESTION], before the question comes; position SECONDS; pause; attend
 ///  (once
-///    through the waiting events); and what the window's test adds
+///    through the waiting events)
+///  - volume PART (of the session); sourd (no sound output); panne disque (every write fails); perdre FILE;
+///    muer FILE (a folder stands in its place); and what the window's test adds
 /// A PLACE is an item of a canvas ("LblXtr2"), "x,y" in pixels, or a number that the test makes a place of.
 /// Changes are parted by "; ": "name=value", "name~" where it only tells that it changed, and of files
 /// "disque path=" with the lines that went (-) and came (+), CR written "/"; " +", " -", " ~" for others.

@@ -134,7 +134,7 @@ inline std::string etatDe(const QAbstractButton& bouton) {
 }
 inline void releverControles(Releve& releve, const Forme& f) {
     releve["fenetre"] = !f.isVisible() ? "cachée" : std::to_string(f.width());
-    releve["alpha"] = std::to_string(f.alpha());
+    releve["alpha"] = std::to_string(std::lround(255 * f.windowOpacity()));
     for (const auto* c : f.findChildren<QWidget*>()) {
         std::string& etat = releve[c->objectName().toStdString()];
         if (const auto* bouton = qobject_cast<const QAbstractButton*>(c)) etat = etatDe(*bouton);

@@ -1,5 +1,6 @@
 #pragma once
 #include "support/FenetresMuettes.h"
+#include "support/Pannes.h"
 #include "support/Releve.h"
 
 #include <QApplication>
@@ -7,7 +8,9 @@
 #include <QPointer>
 #include <QTest>
 #include <QWheelEvent>
+#include <cerrno>
 #include <functional>
+#include <memory>
 
 namespace vermo::essai {
 
@@ -168,6 +171,7 @@ class Scene {
                                 quoi.substr(std::min(blanc + 1, quoi.size())));
     }
 
+    std::unique_ptr<Pannes> panne_;
     std::size_t dits_ = 0;
     QPointer<QWidget> clavier_; ///< given the focus: keys go to its window while it stands
 };
@@ -188,6 +192,18 @@ inline Scene::Scene() {
               {"position", [this](S secondes) { hote.media.currentPosition(std::stod(secondes)); }},
               {"pause", [this](S) { hote.media.pause(); }},
               {"attend", [](S) { QApplication::processEvents(); }},
+              {"sourd", [this](S) { hote.media.sansSon = true; }},
+              {"volume", [this](S part) { session.audio.VolumeLecture = std::stof(part); }},
+              {"panne",
+               [this](S) {
+                   panne_ = std::make_unique<Pannes>(Panne{1, ENOSPC, "write", true});
+               }},
+              {"perdre", [this](S nom) { std::filesystem::remove(hote.dossier.chemin(nom)); }},
+              {"muer",
+               [this](S nom) {
+                   std::filesystem::remove(hote.dossier.chemin(nom));
+                   std::filesystem::create_directory(hote.dossier.chemin(nom));
+               }},
               {"repondre", [this](S reponse) { repondre(reponse); }}};
 }
 

@@ -1,7 +1,6 @@
 #include "transcription/ui/FrmSaisie.h"
 #include "support/CommandesCouvertes.h"
 #include "support/Gestes.h"
-#include "support/Pannes.h"
 
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
@@ -23,7 +22,6 @@ constexpr auto RTR =
 class SaisieDEssai : public Scene {
   public:
     std::unique_ptr<FrmSaisie> saisie;
-    std::unique_ptr<Pannes> pannes;
 
     SaisieDEssai() {
         hote.dossier.ecrire("c.Crp", CRP);
@@ -79,13 +77,7 @@ class SaisieDEssai : public Scene {
             QEvent entree(QEvent::Enter);
             QApplication::sendEvent(&controle(nom), &entree);
         };
-        verbes["panne"] = [this](const std::string&) {
-            pannes = std::make_unique<Pannes>(Panne{1, ENOSPC, "write", true});
-        };
         verbes["vitesse"] = [this](const std::string& facteur) { hote.media.rate(std::stod(facteur)); };
-        verbes["perdre"] = [this](const std::string& nom) {
-            std::filesystem::remove(hote.dossier.chemin(nom));
-        };
         verbes["pastilles"] = [this](const std::string&) {
             for (int i = 0; i < 14; ++i)
                 faire("clic LblCoulThm" + std::to_string(i));
