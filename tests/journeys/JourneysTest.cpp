@@ -119,9 +119,9 @@ TEST_F(JourneysTest, NothingOpensOverATextThatIsBeingTyped) {
     faire("focus TxtCtrl; position 10; touche Return; position 20; touche Return");
     faire("focus TxtCtrl; position 30; touche Return; position 40; touche Return");
     EXPECT_EQ(session.transcription.SaisieDebut, 30) << "nothing was typed yet";
-    faire("focus TextRtr; tape bonjour; focus TxtCtrl; touche Ctrl+Right; touche F2; position 50; touche "
-          "Return; "
-          "position 55; touche Return");
+    faire("focus TextRtr; tape bonjour");
+    faire("focus TxtCtrl; touche Ctrl+Right; touche F2");
+    faire("position 50; touche Return; position 55; touche Return");
     EXPECT_EQ(tape(), "bonjour");
     EXPECT_EQ(session.transcription.SaisieDebut, 30);
     faire("clic Imgbtn0; focus TxtCtrl; touche F2");

@@ -178,7 +178,8 @@ inline Releve Programme::relever() {
     if (sessionEntiere) releve["session~"] = etatDeLaSession();
     releve["lecteur"] = vermo::nomDe(hote.media.URL()) + (hote.media.enLecture() ? " joue" : "");
     releve["pointeur"] = std::to_string(static_cast<int>(hote.ecran.pointeurCourant));
-    releve["fenetres"] = fenetresEnVue(), releve["fini"] = fini ? "oui" : "non";
+    releve["fenetres"] = fenetresEnVue();
+    releve["fini"] = fini ? "oui" : "non";
     releverCorpus(releve);
     releverDisque(releve, hote.dossier);
     if (app.visible(Fenetre::FrmCorpus)) releverFrmCorpus(vue_);

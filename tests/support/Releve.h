@@ -99,16 +99,19 @@ inline void releverLecteur(Releve& releve, const LecteurSimule& media) {
 
 inline void releverTranscription(Releve& releve, const Session& session) {
     const EtatTranscription& t = session.transcription;
-    releve["courant"] = dixieme(t.ExtraitCourant), releve["nouveau"] = std::to_string(t.NouvelExtrait);
+    releve["courant"] = dixieme(t.ExtraitCourant);
+    releve["nouveau"] = std::to_string(t.NouvelExtrait);
     releve["saisie"] = etendue(t.SaisieDebut, t.SaisieFin);
     const bool ouverte = t.SaisieDuree == t.SaisieFin - t.SaisieDebut;
-    releve["span"] = ouverte ? "" : dixieme(t.SaisieDuree), releve["retour"] = std::to_string(t.RetourCorpus);
+    releve["span"] = ouverte ? "" : dixieme(t.SaisieDuree);
+    releve["retour"] = std::to_string(t.RetourCorpus);
     releve["options"] =
         QString(QLatin1String(t.DicteeActive ? "dictee " : "") + QLatin1String(t.DicteeAuto ? "auto " : "") +
                 QLatin1String(t.BoucleDictee ? "boucle" : ""))
             .trimmed()
             .toStdString();
-    releve["portion"] = etendue(t.PortionDebut, t.PortionFin), releve["compteur"] = dixieme(t.Compteur);
+    releve["portion"] = etendue(t.PortionDebut, t.PortionFin);
+    releve["compteur"] = dixieme(t.Compteur);
     for (int i = 1; i <= nombreExtraits(session); ++i) {
         const auto k = static_cast<std::size_t>(i);
         releve["extrait" + std::to_string(i)] = etendue(secondesDebut(session, i), secondesFin(session, i)) +
@@ -119,8 +122,10 @@ inline void releverTranscription(Releve& releve, const Session& session) {
 inline void releverEtats(Releve& releve, const Session& session) {
     const EtatAudio& a = session.audio;
     releve["zoom"] = etendue(a.DebutZoom, a.FinZoom);
-    releve["facteur"] = dixieme(a.FacteurZoom), releve["marque"] = dixieme(a.MarqueDebut);
-    releve["volume"] = dixieme(a.VolumeLecture), releve["rythme"] = std::to_string(a.VitesseLecture);
+    releve["facteur"] = dixieme(a.FacteurZoom);
+    releve["marque"] = dixieme(a.MarqueDebut);
+    releve["volume"] = dixieme(a.VolumeLecture);
+    releve["rythme"] = std::to_string(a.VitesseLecture);
     releve["fondu"] = dixieme(session.EtatFondu);
     releverTranscription(releve, session);
     const EtatCorpus& c = session.corpus;

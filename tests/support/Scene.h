@@ -88,6 +88,8 @@ class Scene {
                     const QRectF cadre = enPixels(toile->dansLaToile(e.cadre));
                     return cadre.intersected(toile->rect()).center().toPoint();
                 }
+        if (ou.find_first_not_of("0123456789.,-") != std::string::npos)
+            throw std::runtime_error("no place " + ou);
         const auto virgule = ou.find(',');
         if (virgule == std::string::npos) return lieu(controle, ou);
         return {std::stoi(ou), std::stoi(ou.substr(virgule + 1))};
