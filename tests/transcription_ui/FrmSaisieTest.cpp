@@ -164,6 +164,6 @@ TEST(FrmSaisie, AutomaticDictationAndLengtheningGoOnByThemselves) {
     essai.faire("clic BtnOpt2; clic BtnOpt1; clic ImgPlus0; position 22");
     EXPECT_TRUE(QTest::qWaitFor([&] { return t.SaisieFin == 22; }, 10000));
     essai.faire("clic ImgPlus1; position 19");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return essai.effetDe("position 24") != ""; }, 1000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !essai.effetDe("position 24").empty(); }, 1000));
     EXPECT_TRUE(QTest::qWaitFor([&] { return essai.hote.media.currentPosition() == 10; }, 10000));
 }
