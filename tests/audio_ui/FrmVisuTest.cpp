@@ -80,7 +80,7 @@ TEST(FrmVisu, AHeldButtonGoesOnInItsDirectionUntilItIsLeft) {
     for (const auto& [nom, sens] : {std::pair("ImgMedia6", 1), std::pair("ImgMedia5", -1)}) {
         QWidget& bouton = essai->controle(nom);
         const double avant = essai->session.audio.DebutZoom;
-        const auto pas = [&] { return sens * (essai->session.audio.DebutZoom - avant); };
+        const auto pas = [&, vers = sens] { return vers * (essai->session.audio.DebutZoom - avant); };
         QTest::mousePress(&bouton, Qt::LeftButton);
         EXPECT_TRUE(QTest::qWaitFor([&] { return pas() > 5; })) << nom;
         QTest::mouseRelease(&bouton, Qt::LeftButton);
