@@ -1,6 +1,7 @@
 #pragma once
 #include "audio/OndeDEssai.h"
 #include "audio/ui/FrmVisu.h"
+#include "support/CommandesCouvertes.h"
 #include "support/Gestes.h"
 
 #include <QTimer>
@@ -40,10 +41,8 @@ class EntretienDEssai : public Scene {
             fenetres.enSaisie = etat == "entamée";
             fenetres.montrer(Fenetre::FrmSaisie);
         };
-        verbes["volume"] = [this](const std::string& part) { session.audio.VolumeLecture = std::stof(part); };
         verbes["tardif"] = [this](const std::string&) { hote.media.tardif = true; };
         verbes["reponse"] = [this](const std::string&) { hote.media.repondre(); };
-        verbes["attend"] = [](const std::string&) { QApplication::processEvents(); };
     }
     /// Writes a transcript with these spans, coded in turn 001 and 002.
     void transcrire(const std::vector<Bornes>& extraits, const Texte& texte = "Un texte.") {
@@ -67,8 +66,8 @@ class EntretienDEssai : public Scene {
         return true;
     }
 
-    Forme& fenetre() override { return *visu; }
-    QPoint lieu(const Toile& toile, const std::string& ou) override {
+    std::vector<Forme*> formes() override { return {visu.get()}; }
+    QPoint lieu(const QWidget& toile, const std::string& ou) override {
         const EtatAudio& a = session.audio;
         const bool vue = toile.objectName() == QLatin1String("Picture1");
         const double t = std::stod(ou), part = vue ? t / a.DureeFichier : (t - a.DebutZoom) / a.DureeZoom;

@@ -1,9 +1,6 @@
 // Every window of the program, at two sizes of the screen: what shows lies where it can be seen and hit, and
 // is named and drawn.
-#include "app/Application.h"
-#include "audio/OndeDEssai.h"
-#include "corpus_ui/Gestes.h"
-#include "window/ui/Forme.h"
+#include "Programme.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -56,9 +53,9 @@ bool blanche(QWidget& controle) {
 }
 
 /// What is wrong with the visible controls of one window, one line each.
-class Releve {
+class Defauts {
   public:
-    Releve(Forme& fenetre, std::string cas) : fenetre_(fenetre), cas_(std::move(cas)) {
+    Defauts(Forme& fenetre, std::string cas) : fenetre_(fenetre), cas_(std::move(cas)) {
         for (QWidget* controle : fenetre.findChildren<QWidget*>()) {
             if (controle->window() != &fenetre || !controle->isVisible()) continue;
             if (deCommande(*controle)) examiner(*controle);
@@ -96,67 +93,34 @@ class Releve {
     std::string cas_;
 };
 
-Forme* visible(std::string_view nom) {
-    for (QWidget* fenetre : QApplication::topLevelWidgets())
-        if (fenetre->isVisible() && fenetre->objectName().toStdString() == nom)
-            return qobject_cast<Forme*>(fenetre);
-    return nullptr;
+constexpr Panneau PANNEAUX[] = {Panneau::Corpus, Panneau::Entretiens, Panneau::Thematiques,
+                                Panneau::Attributs, Panneau::Volume};
+
+/// Opens the window so that it shows all that it holds.
+void ouvrir(Programme& programme, Fenetre fenetre, Panneau panneau) {
+    if (fenetre == Fenetre::FrmVisu)
+        return programme.app.montrer(fenetre, EntretienVoulu{1, Ouverture::SansFondu});
+    if (fenetre == Fenetre::FrmMenu) return programme.app.montrer(fenetre, PanneauVoulu{panneau, {}});
+    if (fenetre == Fenetre::FrmCorpus) return programme.ouvrirCorpus();
+    if (fenetre == Fenetre::FrmIntro) return programme.app.demarrer();
+    programme.app.montrer(fenetre, ExtraitVoulu{1});
+    programme.faire("clic lbl_thm"); // the panel comes out
 }
-
-class Programme {
-  public:
-    explicit Programme(QSize pixels) {
-        hote.ecran.zone.largeur = TWIPS_PAR_PIXEL * pixels.width();
-        hote.ecran.zone.hauteur = TWIPS_PAR_PIXEL * pixels.height();
-        session.reglages.separateurDecimal = '.';
-        hote.dossier.ecrire("c/E.Crp",
-                            "Projet\r\n<|THEM|\r\n000,&H0, Rien\r\n001,255, Travail\r\n>|THEM|\r\n"
-                            "<|POS|\r\n>|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\na.wav\r\n>|ENTR|\r\n");
-        hote.dossier.ecrire("c/a.wav", wav(1, 8, std::string(12000, '\x80')));
-        hote.dossier.ecrire(
-            "c/a.Rtr",
-            " 60 \r\n<|OBS|\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n::1.00::001\r\nmot\r\n::3.00::\r\n");
-        hote.dossier.ecrire("programme/Projets.ini", hote.dossier.chemin("c/E.Crp") + "\r\n");
-        session.corpus.CheminCorpus = hote.dossier.chemin("c/E.Crp");
-        session.corpus.OuvertureDirecte = true;
-    }
-    /// Opens the window so that it shows all that it holds; where it can't at once, as often as `vues` says.
-    void ouvrir(Fenetre fenetre, std::size_t vue) {
-        if (fenetre != Fenetre::FrmIntro && session.corpus.NbEntretiens == 0) {
-            app.montrer(Fenetre::FrmCorpus);
-            app.OuvrirCorpus();
-        }
-        if (fenetre == Fenetre::FrmVisu)
-            app.montrer(fenetre, EntretienVoulu{1, Ouverture::SansFondu});
-        else if (fenetre == Fenetre::FrmSaisie)
-            app.montrer(fenetre, ExtraitVoulu{1});
-        else if (fenetre == Fenetre::FrmMenu)
-            app.montrer(fenetre, PanneauVoulu{PANNEAUX[vue], {}});
-        else
-            app.montrer(fenetre);
-        if (fenetre == Fenetre::FrmSaisie) cliquer(*visible("FrmSaisie"), "lbl_thm"); // the panel comes out
-    }
-    static std::size_t vues(Fenetre fenetre) { return fenetre == Fenetre::FrmMenu ? std::size(PANNEAUX) : 1; }
-
-    PlateformeDeTest hote;
-    Session session;
-    Application app{session, hote};
-
-  private:
-    static constexpr Panneau PANNEAUX[] = {Panneau::Corpus, Panneau::Entretiens, Panneau::Thematiques,
-                                           Panneau::Attributs, Panneau::Volume};
-};
 
 TEST(Forms, EveryControlIsSeenNamedDrawnAndApart) {
     std::set<std::string> fautes;
     for (const QSize taille : {QSize(1280, 720), QSize(1920, 1080)}) {
-        Programme programme(taille);
+        Programme programme("a");
+        programme.hote.ecran.zone.largeur = TWIPS_PAR_PIXEL * taille.width();
+        programme.hote.ecran.zone.hauteur = TWIPS_PAR_PIXEL * taille.height();
         for (const Fenetre fenetre : FENETRES)
-            for (std::size_t vue = 0; vue < Programme::vues(fenetre); ++vue) {
+            for (const Panneau panneau : PANNEAUX) {
                 const std::string nom(nomFenetre(fenetre));
-                programme.ouvrir(fenetre, vue);
-                ASSERT_TRUE(visible(nom)) << nom;
-                fautes.merge(Releve(*visible(nom), nom + " " + std::to_string(taille.height())).fautes);
+                if (fenetre != Fenetre::FrmMenu && panneau != Panneau::Corpus) continue;
+                ouvrir(programme, fenetre, panneau);
+                fautes.merge(
+                    Defauts(programme.forme(nom.c_str()), nom + " " + std::to_string(taille.height()))
+                        .fautes);
             }
     }
     for (const std::string& faute : fautes)

@@ -1,60 +1,40 @@
 // The whole program as a person goes through it: real windows, simulated host.
 #include "Programme.h"
 #include "audio/ui/FrmVisu.h"
-#include "support/Pannes.h"
-#include "textfile/faute.h"
+#include "corpus/ui/FrmIntro.h"
+#include "corpus/ui/FrmMenu.h"
 
-#include <QPlainTextEdit>
-#include <algorithm>
-#include <cerrno>
-#include <cmath>
+#include <QPainter>
+#include <gtest/gtest.h>
 
-namespace vermo {
+namespace vermo::essai {
 namespace {
-
-using namespace essai;
 
 class JourneysTest : public testing::Test, protected Programme {
   protected:
-    static std::string noms() {
-        std::string suite;
-        for (const Element& e : rangees().elements())
-            if (e.controle == Controle::lblfich) suite += e.texte + " ";
-        return suite;
-    }
+    std::string noms() { return relever()["rangs"]; }
     float extraits(std::size_t slot) const { return session.corpus.Entretiens.at(slot).NbExtraits; }
+    void ouvrirEntretien() {
+        ouvrirCorpus();
+        app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
+    }
+    std::string tape() { return controle<QPlainTextEdit>("TextRtr").toPlainText().toStdString(); }
+    bool rendre() {
+        return QTest::qWaitFor([&] { return !app.visible(Fenetre::FrmVisu); });
+    }
+    bool enUsage() { return forme("FrmCorpus").isEnabled(); }
 };
-
-TEST_F(JourneysTest, ARecordingThatLiesElsewhereIsBroughtInAndOpened) {
-    ouvrirCorpus();
-    EXPECT_EQ(noms(), "a b ");
-    const std::string octets = wav(2, 16, std::string(40000, '\0'));
-    hote.dossier.ecrire("ailleurs/été.wav", octets);
-    hote.media.durees["été.wav"] = 75.5;
-    hote.dialogues.choisir(hote.dossier.chemin("ailleurs/été.wav"))
-        .repondre(Reponse::Non, "Stereo - 16 bits")
-        .repondre(Reponse::Ok, "hors du répertoire")
-        .repondre(Reponse::Ok, "a été copié");
-    cliquer(forme("FrmCorpus"), "Imgbtn7");
-    EXPECT_EQ(hote.dossier.lire("c/E.Crp"),
-              std::string(TETE) + "a.wav\r\nb.wav\r\n\xE9t\xE9.wav\r\n>|ENTR|\r\n");
-    EXPECT_EQ(hote.dossier.lire("c/été.Rtr"), std::string(RTR).replace(1, 2, "75.5"));
-    EXPECT_EQ(hote.dossier.lire("c/été.wav"), octets);
-    EXPECT_EQ(noms(), "a b \xE9t\xE9 ");
-    EXPECT_EQ(forme("FrmVisu").alpha(), 250);
-    EXPECT_TRUE(hote.media.enLecture());
-}
 
 TEST_F(JourneysTest, AnInterviewFadesInAndTheCorpusIsInUseAgainAfterIt) {
     ouvrirCorpus();
-    QTest::mouseClick(&rangees(), Qt::LeftButton, {}, place(rangees(), Controle::ImgPlay, 2));
+    faire("clic Frm_entretiens@ImgPlay2");
     auto& visu = dynamic_cast<FrmVisu&>(forme("FrmVisu"));
     EXPECT_EQ(visu.alpha(), 0);
     for (int tic = 0; tic < 25; ++tic)
         visu.Timer3_Tick();
     EXPECT_EQ(visu.alpha(), 247);
     app.decharger(Fenetre::FrmVisu);
-    EXPECT_TRUE(forme("FrmCorpus").isEnabled());
+    EXPECT_TRUE(enUsage());
     EXPECT_EQ(hote.media.URL(), "");
 }
 
@@ -62,39 +42,37 @@ TEST_F(JourneysTest, TheLateAnswerOfThePlayerIsShownWhereItBelongs) {
     hote.media.lent = true;
     ouvrirCorpus();
     session.audio.VolumeLecture = 40;
-    QTest::mouseDClick(&rangees(), Qt::LeftButton, {}, place(rangees(), Controle::lblfich, 2));
-    const auto lecture = [] { return membre<QWidget>(forme("FrmVisu"), "ImgMedia4")->isVisible(); };
-    EXPECT_FALSE(lecture());
+    faire("clic Frm_entretiens@lblfich2; double Frm_entretiens@lblfich2");
+    EXPECT_FALSE(controle("ImgMedia4").isVisible());
     hote.media.pret();
-    EXPECT_TRUE(lecture());
+    EXPECT_TRUE(controle("ImgMedia4").isVisible());
     EXPECT_EQ(hote.media.volume(), 40);
     app.decharger(Fenetre::FrmVisu);
     EXPECT_FALSE(hote.media.enLecture());
-    EXPECT_TRUE(forme("FrmCorpus").isEnabled());
+    EXPECT_TRUE(enUsage());
 }
 
 TEST_F(JourneysTest, AReopeningReadsWhatWasWrittenMeanwhile) {
     ouvrirCorpus();
     hote.dossier.ecrire("c/b.Rtr", std::string(RTR) + EXTRAIT + "::5.00::000\r\nautre\r\n::7.00::\r\n");
-    cliquer(forme("FrmCorpus"), "lblmenu0");
-    cliquer(forme("FrmMenu"), "lblcorpus1");
+    faire("clic lblmenu0; clic lblcorpus1");
     EXPECT_EQ(extraits(1), 1);
-    EXPECT_EQ(extraits(2), 2);
     EXPECT_EQ(CorpusTexte(session, 2, 2), "autre\r");
-    EXPECT_EQ(std::ranges::count(rangees().elements(), Controle::Lblthm, &Element::controle), 5) << "bars";
+    const Elements& barres = controle<Toile>("Frm_entretiens").elements();
+    EXPECT_EQ(std::ranges::count(barres, Controle::Lblthm, &Element::controle), 5);
 }
 
 TEST_F(JourneysTest, TrueSizesApplyWithTheNextRedraw) {
     hote.dossier.ecrire("c/b.Rtr", std::string(RTR).replace(1, 2, "30"));
     ouvrirCorpus();
-    const auto largeur = [] {
-        for (const Element& e : rangees().elements())
-            if (e.controle == Controle::ImgEnt && e.index == 2) return e.cadre.largeur;
-        return 0.0;
+    auto& rangees = controle<Toile>("Frm_entretiens");
+    const auto largeur = [&] {
+        const auto ici = std::ranges::find(rangees.elements(), "ImgEnt2", nomDe);
+        return ici == rangees.elements().end() ? 0 : ici->cadre.largeur;
     };
     const Twips pleine = largeur();
     session.corpus.TailleReelle = true;
-    rangees().grab();
+    rangees.grab();
     EXPECT_EQ(largeur(), pleine);
     app.annoncer({Sujet::Entretiens});
     EXPECT_EQ(largeur(), pleine / 2);
@@ -103,85 +81,63 @@ TEST_F(JourneysTest, TrueSizesApplyWithTheNextRedraw) {
 TEST_F(JourneysTest, AnInterviewOpenedAfterARestIsAsMuchInUse) {
     ouvrirCorpus();
     EXPECT_TRUE(QTest::qWaitFor([] {
-        const auto fenetres = QApplication::topLevelWidgets();
-        return std::any_of(fenetres.begin(), fenetres.end(),
-                           [](QWidget* f) { return f->objectName() == QLatin1String("FrmVisu"); });
+        return std::ranges::any_of(QApplication::topLevelWidgets(),
+                                   [](auto* f) { return f->objectName() == QLatin1String("FrmVisu"); });
     }));
     app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
-    EXPECT_FALSE(forme("FrmCorpus").isEnabled());
-    EXPECT_TRUE(membre<QWidget>(forme("FrmVisu"), "ImgMedia2")->isEnabled());
+    EXPECT_FALSE(enUsage());
+    EXPECT_TRUE(controle("ImgMedia2").isEnabled());
 }
 
 TEST_F(JourneysTest, AnExtractMarkedAndTypedIsOnTheTimelineAfterTheClosing) {
-    ouvrirCorpus();
-    app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
-    auto& visu = dynamic_cast<FrmVisu&>(forme("FrmVisu"));
-    auto* touches = membre<QWidget>(visu, "TxtCtrl");
-    hote.media.currentPosition(2); // within its neighbour: nobody asks
-    QTest::keyClick(touches, Qt::Key_Return);
+    ouvrirEntretien();
+    faire("position 2; touche Return"); // within its neighbour: nobody asks
     hote.media.avancer(15);
-    QTest::keyClick(touches, Qt::Key_Return);
-    Forme& saisie = forme("FrmSaisie");
-    QTest::keyClicks(membre<QPlainTextEdit>(saisie, "TextRtr"), QStringLiteral("bonjour"));
-    cliquer(saisie, "Imgbtn0");
-    EXPECT_EQ(hote.dossier.lire("c/a.Rtr"),
-              std::string(RTR) + EXTRAIT + "::2.00::000\r\nbonjour\r\n::17.00::\r\n");
-    cliquer(visu, "ImgCorpus");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !app.visible(Fenetre::FrmVisu); }));
-    EXPECT_EQ(extraits(1), 2);
+    EXPECT_EQ(effetDe("touche Return; tape bonjour; clic Imgbtn0"),
+              "disque c/a.Rtr= +::2.00::000/ +bonjour/ +::17.00::/");
+    faire("clic ImgCorpus");
+    EXPECT_TRUE(rendre());
     EXPECT_EQ(CorpusTexte(session, 1, 2), "bonjour\r");
-    EXPECT_TRUE(forme("FrmCorpus").isEnabled());
+    EXPECT_TRUE(enUsage());
 }
 
 TEST_F(JourneysTest, TheOpenExtractShowsWhereAPausedPlayerIsSent) {
-    ouvrirCorpus();
-    app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
+    ouvrirEntretien();
     app.montrer(Fenetre::FrmSaisie, ExtraitVoulu{1}); // 1 s to 3 s
     hote.media.pause();
-    auto* onde = membre<Toile>(forme("FrmSaisie"), "Pict_saisie");
+    auto& onde = controle<Toile>("Pict_saisie");
     for (const double part : {0.25, 0.75, 0.5}) {
         hote.media.currentPosition(1 + 2 * part);
         EXPECT_TRUE(QTest::qWaitFor([&] {
-            return std::abs(onde->elements().back().cadre.gauche - part * onde->largeurTwips()) < 30;
+            return std::abs(onde.elements().back().cadre.gauche - part * onde.largeurTwips()) < 30;
         })) << part;
     }
 }
 
 TEST_F(JourneysTest, NothingOpensOverATextThatIsBeingTyped) {
-    ouvrirCorpus();
-    app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
-    auto* touches = membre<QWidget>(forme("FrmVisu"), "TxtCtrl");
-    const auto marquer = [&](double debut, double fin) {
-        for (const double temps : {debut, fin}) {
-            hote.media.currentPosition(temps);
-            QTest::keyClick(touches, Qt::Key_Return);
-        }
-    };
-    marquer(10, 20);
-    auto* texte = membre<QPlainTextEdit>(forme("FrmSaisie"), "TextRtr");
-    marquer(30, 40);
+    ouvrirEntretien();
+    faire("focus TxtCtrl; position 10; touche Return; position 20; touche Return");
+    faire("focus TxtCtrl; position 30; touche Return; position 40; touche Return");
     EXPECT_EQ(session.transcription.SaisieDebut, 30) << "nothing was typed yet";
-    QTest::keyClicks(texte, QStringLiteral("bonjour"));
-    QTest::keyClick(touches, Qt::Key_Right, Qt::ControlModifier);
-    QTest::keyClick(touches, Qt::Key_F2);
-    marquer(50, 55);
-    EXPECT_EQ(texte->toPlainText(), QStringLiteral("bonjour"));
+    faire("focus TextRtr; tape bonjour");
+    faire("focus TxtCtrl; touche Ctrl+Right; touche F2");
+    faire("position 50; touche Return; position 55; touche Return");
+    EXPECT_EQ(tape(), "bonjour");
     EXPECT_EQ(session.transcription.SaisieDebut, 30);
-    cliquer(forme("FrmSaisie"), "Imgbtn0");
-    QTest::keyClick(touches, Qt::Key_F2);
-    EXPECT_EQ(texte->toPlainText(), QStringLiteral("mot\n"));
+    faire("clic Imgbtn0; focus TxtCtrl; touche F2");
+    EXPECT_EQ(tape(), "mot\n");
 
     for (int fois = 0; fois < 2; ++fois) { // the span may move until something is typed
-        QTest::keyClick(touches, Qt::Key_Right, Qt::AltModifier);
+        faire("focus TxtCtrl; touche Alt+Right");
         EXPECT_EQ(session.transcription.SaisieDebut, 1.1);
         EXPECT_NE(hote.dossier.lire("c/a.Rtr").find("::1.10::001"), std::string::npos);
-        QTest::keyClicks(texte, QStringLiteral("un "));
+        faire("focus TextRtr; tape un ");
     }
 
     EXPECT_FALSE(forme("FrmCorpus").close());
     app.finir();
-    EXPECT_TRUE(texte->isVisible());
-    QTest::keyClick(texte, Qt::Key_Escape);
+    EXPECT_TRUE(app.visible(Fenetre::FrmSaisie));
+    faire("focus TextRtr; touche Escape");
     app.finir();
     EXPECT_FALSE(app.visible(Fenetre::FrmCorpus));
 }
@@ -192,9 +148,9 @@ TEST_F(JourneysTest, FaultsInSingleTranscriptsAreEachToldOnceAndTheCorpusOpens) 
         mille += EXTRAIT;
     hote.dossier.ecrire("c/a.Rtr", std::string(RTR) + EXTRAIT + "::5.00::001\r\ncoup");
     hote.dossier.ecrire("c/b.Rtr", mille);
-    hote.dialogues.repondre(Reponse::Ok, "coupée").repondre(Reponse::Ok, "au plus 999 extraits");
+    faire("repondre Ok coupée; repondre Ok au plus 999 extraits");
     ouvrirCorpus();
-    EXPECT_EQ(noms(), "a b ");
+    EXPECT_EQ(noms(), "ab");
     EXPECT_EQ(extraits(2), 999);
     session.corpus.TailleReelle = true;
     app.annoncer({Sujet::Entretiens}); // a redraw says nothing anew
@@ -203,56 +159,86 @@ TEST_F(JourneysTest, FaultsInSingleTranscriptsAreEachToldOnceAndTheCorpusOpens) 
 
 TEST_F(JourneysTest, AnOpeningThatFailsLeavesTheWindowEmptied) {
     ouvrirCorpus();
-    const Utf8 parti = hote.dossier.chemin("c/parti.Crp");
-    hote.dialogues.choisir(parti).repondre(Reponse::Ok, "Le corpus suivant est inaccessible :\n" + parti);
-    app.montrer(Fenetre::FrmMenu, PanneauVoulu{Panneau::Corpus, {}});
-    cliquer(forme("FrmMenu"), "lblmenu1");
+    hote.dialogues.choisir(hote.dossier.chemin("c/parti.Crp"))
+        .repondre(Reponse::Ok, "Le corpus suivant est inaccessible :\n" + hote.dossier.chemin("c/parti.Crp"));
+    faire("clic lblmenu0; clic lblmenu1");
+    EXPECT_EQ(effetDe("clic Frm_entretiens@200,60; touche Down"), "");
     EXPECT_EQ(noms(), "");
-    QTest::mouseClick(&rangees(), Qt::LeftButton, {}, {200, 60});
-    QTest::keyClick(&rangees(), Qt::Key_Down);
     app.retirerEntretien();
     forme("FrmCorpus").grab();
     EXPECT_EQ(hote.dossier.lire("c/E.Crp"), std::string(TETE) + "a.wav\r\nb.wav\r\n>|ENTR|\r\n");
 }
 
-TEST_F(JourneysTest, AListThatCantBeWrittenIsReadAnew) {
-    ouvrirCorpus();
-    {
-        const Pannes pannes({.rang = 1, .erreur = ENOSPC, .appel = "write", .toujours = true});
-        hote.dialogues.repondre(Reponse::Ok, "Projets.ini");
-        EXPECT_THROW(app.DeplacerEntretien(1, 2), FauteExecution);
-    }
-    EXPECT_EQ(noms(), "a b ");
-    EXPECT_EQ(session.corpus.Entretiens[1].Fichier, "a.wav");
-}
-
-TEST_F(JourneysTest, ARecordingThatCantBeReadLeavesTheCorpusWindowInUse) {
-    ouvrirCorpus();
-    std::filesystem::remove(hote.dossier.chemin("c/a.wav"));
-    std::filesystem::create_directory(hote.dossier.chemin("c/a.wav"));
-    EXPECT_THROW(app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu}), FauteExecution);
-    EXPECT_FALSE(app.visible(Fenetre::FrmVisu));
-    EXPECT_TRUE(forme("FrmCorpus").isEnabled());
-    EXPECT_EQ(hote.ecran.pointeurCourant, Pointeur::Normal);
-}
-
 TEST_F(JourneysTest, WhatIsBeingTypedHoldsTheInterviewOpenAndItsTranscriptKeepsItsDuration) {
     std::filesystem::remove(hote.dossier.chemin("c/a.Rtr"));
     hote.media.durees["a.wav"] = 60;
-    hote.dialogues.repondre(Reponse::Ok, "introuvable").repondre(Reponse::Ok, "Un problème est survenu");
-    ouvrirCorpus();
-    app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
+    faire("repondre Ok introuvable; repondre Ok Un problème est survenu");
+    ouvrirEntretien();
     session.transcription.SaisieFin = 2;
     session.transcription.NouvelExtrait = true;
     app.montrer(Fenetre::FrmSaisie, NouvelExtraitVoulu{});
-    cliquer(forme("FrmVisu"), "ImgCorpus");
-    QTest::qWait(10);
-    cliquer(forme("FrmSaisie"), "Imgbtn0");
+    faire("clic ImgCorpus; attend; clic Imgbtn0");
     EXPECT_EQ(session.corpus.Entretiens[1].Duree, 60);
-    cliquer(forme("FrmVisu"), "ImgCorpus");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !app.visible(Fenetre::FrmVisu); }));
+    faire("clic ImgCorpus");
+    EXPECT_TRUE(rendre());
     EXPECT_EQ(extraits(1), 1);
 }
 
+TEST_F(JourneysTest, AMenuFadesInUnderItsAnchorWithinTheScreen) {
+    ouvrirCorpus();
+    const auto ouvrir = [&](Rectangle ancre) -> FrmMenu& {
+        app.montrer(Fenetre::FrmMenu, PanneauVoulu{Panneau::Corpus, ancre});
+        return dynamic_cast<FrmMenu&>(forme("FrmMenu"));
+    };
+    session.EtatFondu = 1;
+    FrmMenu& menu = ouvrir({3000, 3000, 900, 300});
+    EXPECT_EQ(menu.pos(), QPoint(200, 220));
+    session.EtatFondu = 1;
+    for (int tic = 0; tic < 24; ++tic)
+        menu.Timer1_Tick();
+    EXPECT_EQ(menu.alpha(), 241);
+    session.EtatFondu = 10240; // what another window's fade left
+    EXPECT_EQ(ouvrir({28700, 16100, 100, 100}).geometry().bottomRight(), QPoint(1919, 1079));
+    EXPECT_EQ(menu.alpha(), 250);
+}
+
+TEST_F(JourneysTest, TheStartWindowListsFiveRecentCorporaAtMost) {
+    hote.dossier.ecrire("programme/Projets.ini", "/a.Crp\r\n/b,c.Crp\r\n/d.Crp\r\n/e.Crp\r\n/f.Crp\r\n");
+    app.demarrer();
+    EXPECT_THROW(controle("lblcorpus8"), std::runtime_error);
+    EXPECT_EQ(controle<QAbstractButton>("lblcorpus4").text(), QStringLiteral("/b")) << "a comma ends an item";
+    EXPECT_EQ(controle<QAbstractButton>("lblcorpus7").text(), QStringLiteral("/e.Crp"));
+    EXPECT_EQ(fenetre().alpha(), 249);
+}
+
+TEST_F(JourneysTest, AListThatCantBeReadIsSaidAndTheStartWindowOpens) {
+    faire("muer programme/Projets.ini; repondre Ok Projets.ini");
+    app.demarrer();
+    EXPECT_THROW(controle("lblcorpus3"), std::runtime_error);
+}
+
+TEST_F(JourneysTest, TheSoundTestSaysWhyNothingIsHeard) {
+    app.demarrer();
+    hote.dossier.ecrire("donnees/Vermo de Vermo.mp3", "son");
+    faire("sourd; clic ImgTestSon");
+    dynamic_cast<FrmIntro&>(fenetre()).TimerSon_Tick();
+    EXPECT_TRUE(controle<QLabel>("LblSon").text().contains(QStringLiteral("silencieuse")));
+}
+
+TEST(TimelineTest, WhatIsKeptOfThePictureIsWhatAWholePaintWouldShow) {
+    Programme programme("abcdefghijkl");
+    programme.ouvrirCorpus();
+    auto& rangees = programme.controle<Toile>("Frm_entretiens");
+    for (const char* gestes :
+         {"roule Frm_entretiens -1", "clic Frm_entretiens@ImgEnt3", "touche End; touche Up",
+          "clic Frm_entretiens@ImgOnOff11", "clic ImgOnOffthm0"}) {
+        programme.faire(gestes);
+        QImage entiere(rangees.size(), QImage::Format_RGB32);
+        QPainter peintre(&entiere);
+        rangees.peindre(peintre, rangees.rect());
+        EXPECT_TRUE(rangees.grab().toImage().convertToFormat(QImage::Format_RGB32) == entiere) << gestes;
+    }
+}
+
 } // namespace
-} // namespace vermo
+} // namespace vermo::essai

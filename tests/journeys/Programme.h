@@ -1,16 +1,11 @@
 #pragma once
 #include "app/Application.h"
 #include "audio/OndeDEssai.h"
-#include "corpus_ui/Gestes.h"
+#include "support/Scene.h"
 #include "textfile/chemins.h"
-#include "window/ui/Forme.h"
 
-#include <QApplication>
-#include <QLabel>
+#include <QFrame>
 #include <QTimer>
-#include <filesystem>
-#include <map>
-#include <string>
 
 namespace vermo::essai {
 
@@ -23,24 +18,12 @@ inline constexpr const char* EXTRAIT = "::1.00::001\r\nmot\r\n::3.00::\r\n";
 inline const std::string MONO = wav(1, 8, std::string(12000, '\x80')),
                          STEREO = wav(2, 16, std::string(40000, '\0'));
 
-/// The window of this name on the screen, its timers stopped.
-inline Forme& forme(const char* nom) {
-    for (QWidget* fenetre : QApplication::topLevelWidgets())
-        if (fenetre->objectName() == QLatin1String(nom) && fenetre->isVisible()) {
-            for (QTimer* timer : fenetre->findChildren<QTimer*>())
-                timer->stop();
-            return dynamic_cast<Forme&>(*fenetre);
-        }
-    throw std::runtime_error(std::string("not on the screen: ") + nom);
-}
-
-inline Toile& rangees() {
-    return *membre<Toile>(forme("FrmCorpus"), "Frm_entretiens");
-}
-
 /// The whole program, its host simulated, beside the corpus c/E.Crp with one recording a letter: "a.wav"…
-/// with an extract of "001" each.
-class Programme {
+/// with an extract of "001" each. Its own gestures:
+///  - fichier PATH of the test's directory, before the box comes (none: the person gives up); ferme WINDOW
+///  - impatient; lent (the player's loading); muet SLOT (no duration is known)
+///  - pendant GESTURE, GESTURE (at the first wait; after lent: for the player)
+class Programme : public Scene {
   public:
     explicit Programme(const std::string& lettres = "ab") {
         session.reglages.separateurDecimal = '.';
@@ -54,129 +37,154 @@ class Programme {
         hote.dossier.ecrire("c/E.Crp", TETE + liste + ">|ENTR|\r\n");
         hote.dossier.ecrire("programme/Projets.ini", hote.dossier.chemin("c/E.Crp") + "\r\n");
         QObject::connect(&app, &Application::fini, [this] { fini = true; });
+        nommerVerbes();
     }
     /// Chosen in the start window's list of recent ones; by "ImgBtn1" none is.
-    void ouvrirCorpus(const char* par = "lblcorpus3") {
+    void ouvrirCorpus(const std::string& par = "lblcorpus3") {
         app.demarrer();
-        QTest::mouseClick(membre<QWidget>(forme("FrmIntro"), par), Qt::LeftButton);
+        faire("clic " + par);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-
-    /// What is kept, played and shown, by name: files with their bytes, the rest as in `bilan`.
-    std::map<std::string, std::string> etat() const;
-    void noter() { avant_ = etat(), sessionAvant_ = session; }
-    /// What differs from when it was last noted, "name=value" by name; of files only which.
-    std::string bilan() const;
-    bool sessionIntacte() const {
-        Session autre =
-            sessionAvant_; // but how the next opening finds its path, and the counter of the fades
-        autre.corpus.OuvertureDirecte = session.corpus.OuvertureDirecte;
-        autre.EtatFondu = session.EtatFondu;
-        return session == autre;
+    std::vector<Forme*> formes() override {
+        std::vector<Forme*> vues;
+        for (const char* nom : {"FrmMenu", "FrmSaisie", "FrmVisu", "FrmCorpus", "FrmIntro"})
+            for (QWidget* f : QApplication::topLevelWidgets())
+                if (f->isVisible() && f->objectName() == QLatin1String(nom))
+                    vues.push_back(dynamic_cast<Forme*>(f));
+        return vues;
     }
+    /// The window of this name, its timers stopped.
+    Forme& forme(const char* nom) {
+        for (Forme* fenetre : formes())
+            if (fenetre->objectName() == QLatin1String(nom)) {
+                for (QTimer* timer : fenetre->findChildren<QTimer*>())
+                    timer->stop();
+                return *fenetre;
+            }
+        throw std::runtime_error(std::string("not on the screen: ") + nom);
+    }
+    Releve relever() override;
 
-    PlateformeDeTest hote;
-    Session session;
     Application app{session, hote};
     bool fini = false;
+    bool sessionEntiere = false; ///< the report tells whether anything of the session changed
 
   private:
-    std::map<std::string, std::string> avant_;
-    Session sessionAvant_;
+    void nommerVerbes();
+    std::string fenetresEnVue();
+    std::string icone(const char* nom);
+    std::string etatDeLaSession();
+    void releverCorpus(Releve& releve) const;
+    void releverFrmCorpus(Releve& releve);
+    template <class T = QWidget>
+    T& duCorpus(const char* nom) {
+        return *forme("FrmCorpus").findChild<T*>(QLatin1String(nom));
+    }
+
+    Releve vue_; ///< what FrmCorpus showed when it was last on the screen
+    Session connue_;
+    int etats_ = 0;
 };
 
+inline void Programme::nommerVerbes() {
+    using S = const std::string&;
+    verbes["fichier"] = [this](S nom) {
+        hote.dialogues.choisir(nom.empty() ? "" : hote.dossier.chemin(nom));
+    };
+    verbes["ferme"] = [this](S nom) { forme(nom.c_str()).close(); };
+    verbes["impatient"] = [this](S) { hote.progression.patience = 0; };
+    verbes["lent"] = [this](S) { hote.media.lent = true; };
+    verbes["muet"] = [this](S slot) {
+        Entretien& entretien = session.corpus.Entretiens.at(std::stoul(slot));
+        entretien.Duree = 0;
+        hote.media.durees[versUtf8(entretien.Fichier)] = 0;
+    };
+    verbes["pendant"] = [this](S gestes) {
+        hote.progression.pendant = [this, gestes, faits = false]() mutable {
+            if (!std::exchange(faits, true)) faire(remplacer(gestes, ", ", "; "));
+            if (hote.media.lent) hote.media.pret();
+        };
+    };
+}
+
 /// Which of the icons the button shows.
-inline std::string icone(const QWidget& fenetre, const char* nom) {
-    auto* bouton = membre<BoutonImage>(fenetre, nom);
+inline std::string Programme::icone(const char* nom) {
+    auto& bouton = duCorpus<BoutonImage>(nom);
     for (const char* essai : {"ImgOn", "ImgOff", "Taille0", "Taille1"}) {
-        BoutonImage temoin({}, QString::fromLatin1(essai), {}, bouton->parentWidget());
-        temoin.resize(bouton->size());
-        if (temoin.grab().toImage() == bouton->grab().toImage()) return essai;
+        BoutonImage temoin({}, QString::fromLatin1(essai), {}, bouton.parentWidget());
+        temoin.resize(bouton.size());
+        if (temoin.grab().toImage() == bouton.grab().toImage()) return essai;
     }
     return "?";
 }
 
-/// Names of the windows on the screen: "-" where one takes no input, "_" minimised; FrmVisu with its opacity,
-/// FrmMenu with its panel.
-inline std::string fenetresEnVue() {
+/// "-" where a window takes no input, "_" minimised; FrmVisu with its opacity, FrmMenu with its panel.
+inline std::string Programme::fenetresEnVue() {
     std::string suite;
-    for (const char* nom : {"FrmIntro", "FrmCorpus", "FrmVisu", "FrmSaisie", "FrmMenu"})
-        for (const QWidget* fenetre : QApplication::topLevelWidgets()) {
-            if (fenetre->objectName() != QLatin1String(nom) || !fenetre->isVisible()) continue;
-            suite += (suite.empty() ? "" : " ") + std::string(nom);
-            suite += fenetre->isMinimized() ? "_" : fenetre->isEnabled() ? "" : "-";
-            if (nom == std::string("FrmVisu"))
-                suite += ":" + std::to_string(dynamic_cast<const Forme*>(fenetre)->alpha());
-            for (const QWidget* panneau : fenetre->findChildren<QFrame*>())
-                if (panneau->isVisible() && panneau->objectName().startsWith(QLatin1String("FrmMnu")))
-                    suite += ":" + panneau->objectName().toStdString();
-        }
-    return suite;
-}
-
-inline std::map<std::string, std::string> Programme::etat() const {
-    const EtatCorpus& corpus = session.corpus;
-    std::map<std::string, std::string> e{
-        {"choix", std::to_string(corpus.EntretienCourant)},
-        {"corpus", nomDe(corpus.CheminCorpus)},
-        {"hauteur", std::to_string(std::lround(corpus.HauteurEntretien))},
-        {"taille", corpus.TailleReelle ? "vraie" : "pleine"},
-        {"volume", std::to_string(std::lround(session.audio.VolumeLecture)) + "/" +
-                       std::to_string(hote.media.volume())},
-        {"lecteur", nomDe(hote.media.URL()) + (hote.media.enLecture() ? " joue" : "")},
-        {"pointeur", std::to_string(static_cast<int>(hote.ecran.pointeurCourant))},
-        {"fenetres", fenetresEnVue()},
-        {"fini", fini ? "oui" : "non"},
-        {"liste", ""},
-        {"eteints", ""},
-        {"rangs", ""}};
-    for (std::size_t i = 1; i < corpus.Entretiens.size(); ++i)
-        e["liste"] += corpus.Entretiens[i].Fichier.front(),
-            e["eteints"] += corpus.Entretiens[i].Visible ? "" : corpus.Entretiens[i].Fichier.substr(0, 1);
-    for (std::size_t i = 1; i < corpus.ThmVisible.size(); ++i)
-        e["thematiques"] += std::to_string(corpus.ThmVisible[i]);
-    for (const auto& entree : std::filesystem::recursive_directory_iterator(hote.dossier.chemin()))
-        if (entree.is_regular_file()) {
-            const std::string nom = entree.path().string().substr(hote.dossier.chemin().size());
-            e[nom] = hote.dossier.lire(nom);
-        }
-    if (!app.visible(Fenetre::FrmCorpus)) return e;
-    const Forme& fenetre = forme("FrmCorpus");
-    for (const char* nom : {"etq0", "etq1"})
-        e[nom] = membre<QLabel>(fenetre, nom)->text().section(QLatin1Char(' '), 2).toStdString();
-    for (const char* nom : {"ImgOnOffent", "ImgOnOffthm0", "Imgbtn3"})
-        e[nom] = icone(fenetre, nom);
-    for (const char* nom : {"PictTps", "LblScroll", "LblVide"})
-        e[nom] = membre<QWidget>(fenetre, nom)->isVisible() ? "oui" : "non";
-    e["jauge"] = membre<QWidget>(fenetre, "PictVol")->toolTip().toStdString();
-    for (const Element& rang : rangees().elements())
-        if (rang.controle == Controle::lblfich) e["rangs"] += rang.texte;
-    return e;
-}
-
-inline std::string Programme::bilan() const {
-    std::string suite;
-    auto noms = avant_;
-    const auto apres = etat();
-    noms.insert(apres.begin(), apres.end());
-    for (const auto& [nom, sansObjet] : noms) {
-        const auto la = avant_.find(nom), ici = apres.find(nom);
-        const bool fichier = nom.starts_with("c/") || nom.starts_with("programme/"),
-                   neuf = la == avant_.end(), parti = ici == apres.end();
-        if (neuf || parti ? !fichier : la->second == ici->second) continue;
-        suite += (suite.empty() ? "" : " | ") + nom;
-        suite += !fichier ? "=" + ici->second : neuf ? " +" : parti ? " -" : " ~";
+    for (const Forme* f : formes()) {
+        std::string vue = f->objectName().toStdString();
+        vue += f->isMinimized() ? "_" : f->isEnabled() ? "" : "-";
+        if (vue.starts_with("FrmVisu")) vue += ":" + std::to_string(std::lround(255 * f->windowOpacity()));
+        for (const QWidget* panneau : f->findChildren<QFrame*>())
+            if (panneau->isVisible() && panneau->objectName().startsWith(QLatin1String("FrmMnu")))
+                vue += ":" + panneau->objectName().toStdString();
+        suite = vue + (suite.empty() ? "" : " ") + suite;
     }
     return suite;
 }
 
-/// Middle of an item of the canvas as it is scrolled now, pixels.
-inline QPoint place(const Toile& toile, Controle controle, int index) {
-    Twips decalage = 0;
-    for (const Element& e : toile.elements())
-        if (e.controle == controle && e.index == index)
-            decalage = e.cadre.haut - toile.dansLaToile(e.cadre).haut;
-    return lieu(toile, controle, index, decalage);
+inline void Programme::releverCorpus(Releve& releve) const {
+    const EtatCorpus& corpus = session.corpus;
+    releve["choix"] = std::to_string(corpus.EntretienCourant);
+    releve["corpus"] = vermo::nomDe(corpus.CheminCorpus);
+    releve["hauteur"] = std::to_string(std::lround(corpus.HauteurEntretien));
+    releve["taille"] = corpus.TailleReelle ? "vraie" : "pleine";
+    releve["volume"] =
+        std::to_string(std::lround(session.audio.VolumeLecture)) + "/" + std::to_string(hote.media.volume());
+    for (std::size_t i = 1; i < corpus.Entretiens.size(); ++i) {
+        const std::string initiale = lisible(corpus.Entretiens[i].Fichier.substr(0, 1));
+        releve["liste"] += initiale;
+        releve["eteints"] += corpus.Entretiens[i].Visible ? "" : initiale;
+    }
+    for (std::size_t i = 1; i < corpus.ThmVisible.size(); ++i)
+        releve["thematiques"] += std::to_string(corpus.ThmVisible[i]);
+}
+
+inline void Programme::releverFrmCorpus(Releve& releve) {
+    for (const char* nom : {"etq0", "etq1"})
+        releve[nom] = duCorpus<QLabel>(nom).text().section(QLatin1Char(' '), 2).toStdString();
+    for (const char* nom : {"ImgOnOffent", "ImgOnOffthm0", "Imgbtn3"})
+        releve[nom] = icone(nom);
+    for (const char* nom : {"PictTps", "LblScroll", "LblVide"})
+        releve[nom] = duCorpus(nom).isVisible() ? "oui" : "non";
+    releve["jauge"] = duCorpus("PictVol").toolTip().toStdString();
+    releve["rangs"].clear();
+    for (const Element& rang : duCorpus<Toile>("Frm_entretiens").elements())
+        if (rang.controle == Controle::lblfich) releve["rangs"] += lisible(rang.texte);
+}
+
+/// Another each time that anything changed but how the next opening finds its path, and the fades' counter.
+inline std::string Programme::etatDeLaSession() {
+    Session actuelle = session;
+    actuelle.corpus.OuvertureDirecte = false;
+    actuelle.EtatFondu = 0;
+    if (connue_ != actuelle) ++etats_;
+    connue_ = actuelle;
+    return std::to_string(etats_);
+}
+
+inline Releve Programme::relever() {
+    Releve releve;
+    if (sessionEntiere) releve["session~"] = etatDeLaSession();
+    releve["lecteur"] = vermo::nomDe(hote.media.URL()) + (hote.media.enLecture() ? " joue" : "");
+    releve["pointeur"] = std::to_string(static_cast<int>(hote.ecran.pointeurCourant));
+    releve["fenetres"] = fenetresEnVue();
+    releve["fini"] = fini ? "oui" : "non";
+    releverCorpus(releve);
+    releverDisque(releve, hote.dossier);
+    if (app.visible(Fenetre::FrmCorpus)) releverFrmCorpus(vue_);
+    releve.merge(Releve(vue_));
+    return releve;
 }
 
 } // namespace vermo::essai

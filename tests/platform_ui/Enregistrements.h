@@ -11,15 +11,14 @@ struct FormatWav {
 };
 
 /// A wave file around `donnees`, whose header announces `annoncees` bytes of them (-1: as many as there are).
-inline std::string wav(const std::string& donnees, const FormatWav& f, long annoncees = -1) {
-    const auto taille =
-        static_cast<std::uint32_t>(annoncees < 0 ? static_cast<long>(donnees.size()) : annoncees);
-    const auto bloc = static_cast<std::uint32_t>(f.bits / 8 * f.voies);
-    const auto frequence = static_cast<std::uint32_t>(f.frequence);
-    return "RIFF" + entier(36 + taille, 4) + "WAVEfmt " + entier(16, 4) + entier(1, 2) +
-           entier(static_cast<std::uint32_t>(f.voies), 2) + entier(frequence, 4) +
-           entier(frequence * bloc, 4) + entier(bloc, 2) + entier(static_cast<std::uint32_t>(f.bits), 2) +
-           "data" + entier(taille, 4) + donnees;
+inline std::string wav(const std::string& donnees, const FormatWav& f, int annoncees = -1) {
+    const auto frequence = static_cast<std::uint32_t>(f.frequence),
+               parSeconde = frequence * static_cast<std::uint32_t>(f.bits / 8 * f.voies),
+               taille = static_cast<std::uint32_t>(annoncees);
+    std::string octets = wav(f.voies, f.bits, donnees);
+    octets.replace(24, 8, entier(frequence, 4) + entier(parSeconde, 4));
+    if (annoncees >= 0) octets.replace(4, 4, entier(36 + taille, 4)).replace(40, 4, entier(taille, 4));
+    return octets;
 }
 
 /// A tone of 440 Hz.

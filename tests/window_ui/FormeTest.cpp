@@ -40,14 +40,6 @@ TEST_F(FormeTest, AFaultThatRepeatsIsToldOnce) {
     EXPECT_EQ(hote.dialogues.journal().size(), 2u);
 }
 
-TEST_F(FormeTest, OpacityIsKept) {
-    for (const auto& [voulue, gardee] : {std::pair{230, 230}, {0, 0}, {-5, 0}, {260, 255}}) {
-        forme.Transparence(voulue);
-        EXPECT_EQ(forme.alpha(), gardee);
-        EXPECT_NEAR(forme.windowOpacity(), gardee / 255.0, 1e-6);
-    }
-}
-
 TEST_F(FormeTest, PlacedWithinTheScreen) {
     hote.ecran.zone.barreDesTaches = 40;
     forme.placer({27000, -300, 6000, 3000});
@@ -70,17 +62,6 @@ TEST_F(FormeTest, MovedByItsTitle) {
     QTest::mouseRelease(&titre, Qt::LeftButton, {}, {10, 10});
     QTest::mouseMove(&titre, {60, 10});
     EXPECT_EQ(forme.pos(), QPoint(130, 120));
-}
-
-TEST_F(FormeTest, AButtonAnswersKeysAndHasAName) {
-    BoutonImage bouton(QStringLiteral("ImgCroix"), QStringLiteral("Ajouter"), QStringLiteral("Fermer"),
-                       &forme);
-    int appuis = 0;
-    QObject::connect(&bouton, &QAbstractButton::clicked, [&] { ++appuis; });
-    for (Qt::Key touche : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
-        QTest::keyClick(&bouton, touche);
-    EXPECT_EQ(appuis, 3);
-    EXPECT_EQ(bouton.accessibleName(), QStringLiteral("Fermer"));
 }
 
 } // namespace

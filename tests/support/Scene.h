@@ -1,0 +1,228 @@
+#pragma once
+#include "support/FenetresMuettes.h"
+#include "support/Pannes.h"
+#include "support/Releve.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QPointer>
+#include <QTest>
+#include <QWheelEvent>
+#include <cerrno>
+#include <functional>
+#include <memory>
+
+namespace vermo::essai {
+
+/// What the gestures of a test reached, and what they could have, by window.
+struct Essais {
+    std::map<std::string, std::set<std::string>> offerts; ///< controls that answer
+    std::set<std::string> faits;                          ///< controls acted on, and keys
+};
+
+/// Windows on a simulated host, the gestures of a person at them (Gestes.h says how they are written), and
+/// the report of all that they change.
+class Scene {
+  public:
+    Session session;
+    PlateformeDeTest hote;
+    FenetresMuettes fenetres;
+    Essais essais;
+    std::map<std::string, std::function<void(const std::string&)>> verbes; ///< a test may add its own
+    std::set<std::string> montres, colores; ///< items whose place, or colour, the report tells
+
+    Scene();
+    virtual ~Scene() = default;
+    virtual std::vector<Forme*> formes() = 0; ///< those that a person sees, the topmost first
+    /// A place that is no item, in pixels of the control.
+    virtual QPoint lieu(const QWidget& controle, const std::string& ou) {
+        return {qRound(controle.width() * std::stod(ou)), controle.height() / 2};
+    }
+    virtual Releve relever();
+
+    Forme& fenetre() { return *formes().at(0); }
+    /// In the topmost window that has it. Throws when none does.
+    template <class T = QWidget>
+    T& controle(const std::string& nom) {
+        for (const Forme* forme : formes())
+            if (auto* trouve = forme->findChild<T*>(QString::fromStdString(nom))) return *trouve;
+        throw std::runtime_error("no control " + nom);
+    }
+
+    void faire(const std::string& gestes) {
+        for (const std::string& geste : couper(gestes, "; ")) {
+            const std::size_t debut = geste.find("x ") == 1 ? 3 : 0; // after "6x "
+            const auto blanc = std::min(geste.find(' ', debut), geste.size());
+            for (int i = debut == 0 ? 1 : geste[0] - '0'; i > 0; --i)
+                agir(geste.substr(debut, blanc - debut), geste.substr(std::min(blanc + 1, geste.size())));
+        }
+    }
+    /// All that `gestes` change, "nom=valeur" by name.
+    std::string effetDe(const std::string& gestes) {
+        fenetres.effacerJournal();
+        dits_ = hote.dialogues.journal().size();
+        const Releve avant = relever();
+        faire(gestes);
+        return remplacer(difference(avant, relever()), hote.dossier.chemin(), "");
+    }
+
+  private:
+    void agir(const std::string& verbe, const std::string& quoi) {
+        const auto action = verbes.find(verbe);
+        if (action == verbes.end()) throw std::runtime_error("no such gesture: " + verbe);
+        for (const Forme* forme : formes())
+            for (const auto* c : forme->findChildren<QWidget*>())
+                if (c->isEnabled() &&
+                    (c->focusPolicy() != Qt::NoFocus || qobject_cast<const QAbstractButton*>(c)))
+                    essais.offerts[forme->objectName().toStdString()].insert(c->objectName().toStdString());
+        action->second(quoi);
+    }
+
+    QPoint place(const QWidget& controle, const std::string& ou) {
+        const auto* toile = qobject_cast<const Toile*>(&controle);
+        const QPoint surIcone = QPoint(std::min(controle.width(), controle.height()), controle.height()) / 2;
+        if (ou.empty()) return toile ? toile->rect().center() : surIcone;
+        if (toile)
+            for (const Element& e : toile->elements())
+                if (nomDe(e) == ou) {
+                    const QRectF cadre = enPixels(toile->dansLaToile(e.cadre));
+                    return cadre.intersected(toile->rect()).center().toPoint();
+                }
+        if (ou.find_first_not_of("0123456789.,-") != std::string::npos)
+            throw std::runtime_error("no place " + ou);
+        const auto virgule = ou.find(',');
+        if (virgule == std::string::npos) return lieu(controle, ou);
+        return {std::stoi(ou), std::stoi(ou.substr(virgule + 1))};
+    }
+    /// The mouse reaches what lies on top there, or nothing.
+    std::pair<QWidget*, QPoint> viser(const std::string& quoi) {
+        const auto parts = couper(quoi, "@");
+        QWidget& cible = controle(parts.at(0));
+        const QPoint ici = place(cible, parts.size() > 1 ? parts[1] : "");
+        EXPECT_EQ(cible.window()->childAt(cible.mapTo(cible.window(), ici)), &cible)
+            << quoi << " is out of reach";
+        essais.faits.insert(parts[0]);
+        return {&cible, ici};
+    }
+    static void souris(QEvent::Type type, QWidget& cible, QPoint ou, Qt::MouseButtons tenus = {},
+                       Qt::MouseButton bouton = Qt::LeftButton) {
+        QMouseEvent evenement(type, QPointF(ou), QPointF(cible.mapToGlobal(ou)),
+                              type == QEvent::MouseMove ? Qt::NoButton : bouton, tenus, {});
+        QApplication::sendEvent(&cible, &evenement);
+    }
+
+    void cliquer(const std::string& ou, Qt::MouseButton bouton = Qt::LeftButton) {
+        const auto [cible, point] = viser(ou);
+        souris(QEvent::MouseButtonPress, *cible, point, bouton, bouton);
+        souris(QEvent::MouseButtonRelease, *cible, point, {}, bouton);
+    }
+    void signaler(QEvent::Type type, const std::string& ou) {
+        const auto [cible, point] = viser(ou);
+        souris(type, *cible, point);
+    }
+    void glisser(const std::string& ou) {
+        const auto bouts = couper(ou, ">");
+        const auto [cible, de] = viser(bouts.at(0));
+        const QPoint a = place(*cible, bouts.at(1));
+        souris(QEvent::MouseButtonPress, *cible, de, Qt::LeftButton);
+        for (const QPoint& point : {(de + a) / 2, a})
+            souris(QEvent::MouseMove, *cible, point, Qt::LeftButton);
+        souris(QEvent::MouseButtonRelease, *cible, a);
+    }
+    void rouler(const std::string& ou) {
+        const auto mots = couper(ou, " ");
+        const auto [cible, point] = viser(mots.at(0));
+        const auto avec = mots.size() > 2 ? Qt::ControlModifier : Qt::NoModifier;
+        QWheelEvent evenement(point, cible->mapToGlobal(point), {}, {0, 120 * std::stoi(mots.at(1))}, {},
+                              avec, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(cible, &evenement);
+    }
+    QWidget* auClavier() {
+        const bool choisie = clavier_ && clavier_->window()->isVisible();
+        QWidget* cible = choisie ? clavier_->window()->focusWidget() : fenetre().focusWidget();
+        if (!cible) throw std::runtime_error("nothing has the focus");
+        essais.faits.insert(cible->objectName().toStdString());
+        return cible;
+    }
+    void presser(const std::string& touche) {
+        const auto touches = QKeySequence(QString::fromStdString(touche));
+        if (touches.isEmpty() || touches[0].key() == Qt::Key_unknown)
+            throw std::runtime_error("no key " + touche);
+        essais.faits.insert(touche);
+        QTest::keyClick(auClavier(), touches[0].key(), touches[0].keyboardModifiers());
+    }
+    void ecrire(const QString& texte) {
+        for (const QChar c : texte)
+            QTest::sendKeyEvent(QTest::Click, auClavier(), Qt::Key(c.toUpper().unicode()), QString(c),
+                                Qt::NoModifier);
+    }
+    void coller(const std::string& texte) {
+        QGuiApplication::clipboard()->setText(QString::fromStdString(texte));
+        presser("Ctrl+V");
+    }
+    void attirer(const std::string& nom) {
+        clavier_ = &controle(nom);
+        clavier_->setFocus();
+    }
+    /// "Oui" and, where given, a part of the question.
+    void repondre(const std::string& quoi) {
+        static const std::map<std::string, Reponse> REPONSES = {
+            {"Oui", Reponse::Oui}, {"Non", Reponse::Non}, {"Ok", Reponse::Ok}, {"Annuler", Reponse::Annuler}};
+        const auto blanc = std::min(quoi.find(' '), quoi.size());
+        hote.dialogues.repondre(REPONSES.at(quoi.substr(0, blanc)),
+                                quoi.substr(std::min(blanc + 1, quoi.size())));
+    }
+
+    std::unique_ptr<Pannes> panne_;
+    std::size_t dits_ = 0;
+    QPointer<QWidget> clavier_; ///< given the focus: keys go to its window while it stands
+};
+
+inline Scene::Scene() {
+    hote.annonces.surAvis = [this](const Avis& avis) { fenetres.annoncer(avis); };
+    using S = const std::string&;
+    verbes = {{"clic", [this](S ou) { cliquer(ou); }},
+              {"droit", [this](S ou) { cliquer(ou, Qt::RightButton); }},
+              {"double", [this](S ou) { signaler(QEvent::MouseButtonDblClick, ou); }},
+              {"survole", [this](S ou) { signaler(QEvent::MouseMove, ou); }},
+              {"glisse", [this](S ou) { glisser(ou); }},
+              {"roule", [this](S ou) { rouler(ou); }},
+              {"focus", [this](S nom) { attirer(nom); }},
+              {"touche", [this](S touche) { presser(touche); }},
+              {"tape", [this](S texte) { ecrire(QString::fromStdString(texte)); }},
+              {"colle", [this](S texte) { coller(texte); }},
+              {"position", [this](S secondes) { hote.media.currentPosition(std::stod(secondes)); }},
+              {"pause", [this](S) { hote.media.pause(); }},
+              {"attend", [](S) { QApplication::processEvents(); }},
+              {"sourd", [this](S) { hote.media.sansSon = true; }},
+              {"volume", [this](S part) { session.audio.VolumeLecture = std::stof(part); }},
+              {"panne",
+               [this](S) {
+                   panne_ = std::make_unique<Pannes>(Panne{1, ENOSPC, "write", true});
+               }},
+              {"perdre", [this](S nom) { std::filesystem::remove(hote.dossier.chemin(nom)); }},
+              {"muer",
+               [this](S nom) {
+                   std::filesystem::remove(hote.dossier.chemin(nom));
+                   std::filesystem::create_directory(hote.dossier.chemin(nom));
+               }},
+              {"repondre", [this](S reponse) { repondre(reponse); }}};
+}
+
+inline Releve Scene::relever() {
+    Releve releve;
+    releverLecteur(releve, hote.media);
+    releve["focus"] = fenetre().focusWidget() ? fenetre().focusWidget()->objectName().toStdString() : "";
+    for (const std::string& demande : fenetres.journal())
+        releve["demande"] += (releve["demande"].empty() ? "" : ", ") + demande;
+    for (std::size_t i = dits_; i < hote.dialogues.journal().size(); ++i)
+        releve["dit"] += couper(hote.dialogues.journal()[i], "|").at(1);
+    releverEtats(releve, session);
+    releverDisque(releve, hote.dossier);
+    releverControles(releve, fenetre());
+    for (auto* toile : fenetre().findChildren<Toile*>())
+        releverToile(releve, *toile, montres, colores);
+    return releve;
+}
+
+} // namespace vermo::essai
