@@ -113,5 +113,16 @@ TEST_F(Scan, AnUnchangedFileIsNotReadAgain) {
     EXPECT_GT(entretien(3).DateModif.secondes, avant.secondes + 86400);
 }
 
+TEST(Analysis, ATranscriptThatCantBeReadIsToldOnce) {
+    essai::CorpusDEssai essai;
+    essai.ecrireCorpus("000,&H0, Sans\r\n", "a.wav\r\n");
+    essai.dossier().ecrire("c/a.wav", "");
+    std::filesystem::create_directory(essai.dossier().chemin("c/a.Rtr"));
+    ASSERT_TRUE(essai.ouvrir());
+    essai.dialogues().repondre(Reponse::Ok, "c'est un répertoire");
+    essai.analyser();
+    essai.analyser(); // once
+}
+
 } // namespace
 } // namespace vermo
