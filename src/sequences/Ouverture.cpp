@@ -1,5 +1,6 @@
 #include "sequences/Ouverture.h"
 
+#include "corpus/AnalyserEntretiens.h"
 #include "corpus/EcritureCorpus.h"
 #include "corpus/Frise.h"
 #include "corpus/Ordre.h"
@@ -8,6 +9,10 @@
 #include "data/Variables.h"
 #include "platform/Sablier.h"
 #include "textfile/faute.h"
+#include "textfile/fichier.h"
+
+#include <filesystem>
+#include <system_error>
 
 namespace vermo {
 namespace {
@@ -16,6 +21,9 @@ namespace {
 bool lireCorpus(Session& session, Plateforme& plateforme, const Spectateur& spectateur) {
     spectateur.montrer(Etape::Debut);
     nommerCorpus(session);
+    if (session.histoire.corpus != session.corpus.CheminCorpus)
+        session.histoire = {.corpus = session.corpus.CheminCorpus, .faits = {}, .defaits = {}};
+    retirerAbandonnes(session.corpus.RepCorpus);
     MettreAJourProjets(session, plateforme);
     viderCorpus(session);
     spectateur.montrer(Etape::Vide);
@@ -43,6 +51,17 @@ IssueOuverture demanderEtLire(Session& session, Plateforme& plateforme, const Sp
     return lireCorpus(session, plateforme, spectateur) ? IssueOuverture::Ouverte : IssueOuverture::Echouee;
 }
 
+/// Writes the list as memory holds it; `nom` says to people what was done to it.
+SuiteListe enregistrerListe(Session& session, Plateforme& plateforme, const Utf8& nom) {
+    SuiteListe suite{.aRouvrir = true, .faute = {}};
+    try {
+        EcrireEntretiens(session, plateforme, nom);
+    } catch (const FauteExecution& faute) {
+        suite.faute = faute;
+    }
+    return suite;
+}
+
 } // namespace
 
 IssueOuverture ouvrirCorpus(Session& session, Plateforme& plateforme, const Spectateur& spectateur) {
@@ -59,6 +78,15 @@ bool nouveauCorpus(Session& session, Plateforme& plateforme) {
     return true;
 }
 
+Utf8 nomVerrou(const Emplacements& emplacements, const EtatCorpus& corpus) {
+    if (emplacements.execution.empty()) return {};
+    std::error_code erreur;
+    const Utf8 repertoire = std::filesystem::canonical(corpus.RepCorpus, erreur).string();
+    const Empreinte empreinte = empreinteDe(erreur ? corpus.RepCorpus : repertoire);
+    return emplacements.execution + "vermo-" + std::to_string(empreinte.haut) + "-" +
+           std::to_string(empreinte.bas) + ".verrou";
+}
+
 void lireAttributs(Session& session, Plateforme& plateforme, int slot) {
     try {
         LireAttributs(session, slot);
@@ -66,6 +94,15 @@ void lireAttributs(Session& session, Plateforme& plateforme, int slot) {
         if (ligneDe(session.corpus.extraits, slot).fauteDite.nouveau())
             direFaute(plateforme.dialogues, faute);
     }
+}
+
+void actualiserEntretien(Session& session, Plateforme& plateforme, int slot) {
+    const ExtraitsEntretien& table = ligneDe(session.corpus.extraits, slot);
+    const IdentiteFichier actuelle = identiteFichier(cheminCompagnon(session, slot, "Rtr"));
+    if (certainementMeme(table.identite, actuelle)) return;
+    RelireEntretien(session, plateforme, slot);
+    lireAttributs(session, plateforme, slot);
+    plateforme.annonces.annoncer({Sujet::Entretiens, slot});
 }
 
 SuiteListe retirerEntretien(Session& session, Plateforme& plateforme) {
@@ -87,16 +124,6 @@ SuiteListe deplacerDansListe(Session& session, Plateforme& plateforme, int sourc
     DeplacerEntretien(session, source, cible);
     return enregistrerListe(session, plateforme,
                             "Déplacer l'entretien " + nomEntretien(session.corpus, cible));
-}
-
-SuiteListe enregistrerListe(Session& session, Plateforme& plateforme, const Utf8& nom) {
-    SuiteListe suite{.aRouvrir = true, .faute = {}};
-    try {
-        EcrireEntretiens(session, plateforme, nom);
-    } catch (const FauteExecution& faute) {
-        suite.faute = faute;
-    }
-    return suite;
 }
 
 } // namespace vermo
