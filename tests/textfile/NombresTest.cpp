@@ -89,29 +89,31 @@ TEST(Numbers, AreWritten) {
               "00:00|00:59|01:00|01:00|07:05|59:59|1:00:00|1:02:05|10:00:00|100:00:00|");
 }
 
-/// Whether a locale is installed or not, it must come to the same separator.
-TEST(SystemSettings, TheLanguagesSeparator) {
+/// Whether a locale is installed or not, it must come to the same.
+TEST(SystemSettings, AreTheLanguages) {
+    using Variables = std::map<std::string, std::string>;
     constexpr const char* NOMS[] = {"LC_ALL", "LC_NUMERIC", "LC_TIME", "LANG"};
-    const auto poser = [&](const std::map<std::string, std::string>& valeurs) {
+    const auto poser = [&](const Variables& valeurs) {
         for (const char* nom : NOMS)
             valeurs.contains(nom) ? setenv(nom, valeurs.at(nom).c_str(), 1) : unsetenv(nom);
     };
-    std::map<std::string, std::string> avant;
+    Variables avant;
     for (const char* nom : NOMS)
         if (const char* valeur = std::getenv(nom)) avant[nom] = valeur;
-    const std::pair<std::map<std::string, std::string>, char> cas[] = {
-        {{}, '.'},
-        {{{"LANG", "fr_FR.UTF-8"}}, ','},
-        {{{"LANG", "fr_BE@euro"}}, ','},
-        {{{"LANG", "fr_FR.UTF-8"}, {"LC_NUMERIC", "en_GB.UTF-8"}}, '.'},
-        {{{"LC_ALL", "de_DE.UTF-8"}, {"LC_NUMERIC", "C"}}, ','},
-        {{{"LANG", "xx_XX"}}, '.'}};
-    for (const auto& [variables, separateur] : cas) {
+    const std::string francaise = "%d/%m/%Y", iso = "%Y-%m-%d", duC = "%m/%d/%y";
+    const std::tuple<Variables, char, std::string> cas[] = {
+        {{}, '.', duC},
+        {{{"LANG", "fr_FR.UTF-8"}}, ',', francaise},
+        {{{"LANG", "fr_FR.UTF-8"}, {"LC_NUMERIC", "en_GB.UTF-8"}}, '.', francaise},
+        {{{"LC_ALL", "wa_BE@euro"}, {"LC_NUMERIC", "C"}, {"LC_TIME", "C"}}, ',', francaise},
+        {{{"LC_ALL", ""}, {"LC_TIME", "fr_FR.UTF-8"}}, '.', francaise},
+        {{{"LANG", "xx_XX"}}, '.', iso},
+        {{{"LANG", "xx_XX"}, {"LC_TIME", "C"}}, '.', duC}};
+    for (const auto& [variables, separateur, date] : cas) {
         poser(variables);
-        EXPECT_EQ(reglagesDuSysteme().separateurDecimal, separateur) << testing::PrintToString(variables);
+        EXPECT_EQ(reglagesDuSysteme(), (Reglages{separateur, date, "%H:%M:%S"}))
+            << testing::PrintToString(variables);
     }
-    poser({{"LC_TIME", "fr_FR.UTF-8"}});
-    EXPECT_EQ(reglagesDuSysteme().formatDate, "%d/%m/%Y");
     poser(avant);
 }
 
