@@ -15,12 +15,16 @@ TEST(Sequences, OpenInsertAndList) {
     essai.ecrireCorpus("000,&H0, Sans\r\n001,255, Travail\r\n", "a.wav\r\nb.wav\r\n");
     essai.ajouterEntretien("a", essai::ENTETE);
     essai.ajouterEntretien("b", "100\r\n<|ATTR|\r\n3,7\r\n>|ATTR|\r\n");
+    std::vector<Etape> etapes;
     const auto ouvrir = [&] {
         session.corpus.CheminCorpus = essai.dossier().chemin("c/Essai.Crp");
         session.corpus.OuvertureDirecte = true;
-        return ouvrirCorpus(session, essai.hote);
+        etapes.clear();
+        return ouvrirCorpus(session, essai.hote, {3000, [&](Etape etape) { etapes.push_back(etape); }});
     };
     ASSERT_EQ(ouvrir(), IssueOuverture::Ouverte);
+    EXPECT_EQ(etapes,
+              (std::vector{Etape::Debut, Etape::Vide, Etape::Thematiques, Etape::Frise, Etape::Pistes}));
     EXPECT_EQ(session.corpus.Entretiens[2].Attributs[2], 7);
     session.corpus.EntretienCourant = 2;
     essai.hote.media.URL(cheminEnregistrement(session, 2));

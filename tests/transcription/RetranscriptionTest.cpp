@@ -204,6 +204,8 @@ TEST(Dictation, PortionsGoOnWholeAndStartASecondEarlier) {
     EXPECT_EQ(std::pair(etat.PortionDebut, etat.PortionFin), std::pair(20.0, std::int16_t(26)));
     demarrerPortion(session, 32762, 5);
     EXPECT_EQ(etat.PortionFin, 32767);
+    EXPECT_EQ(selectionnerPortion(session, 200, 240, 1000), 1);
+    EXPECT_EQ(std::pair(etat.PortionDebut, etat.PortionFin), std::pair(12.0, std::int16_t(13)));
 }
 
 TEST(Thematics, WhatAnExtractShowsAndWhatMayBeAdded) {
