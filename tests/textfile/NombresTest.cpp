@@ -91,17 +91,8 @@ TEST(Numbers, AreWritten) {
 
 /// Whether a locale is installed or not, it must come to the same.
 TEST(SystemSettings, AreTheLanguages) {
-    using Variables = std::map<std::string, std::string>;
-    constexpr const char* NOMS[] = {"LC_ALL", "LC_NUMERIC", "LC_TIME", "LANG"};
-    const auto poser = [&](const Variables& valeurs) {
-        for (const char* nom : NOMS)
-            valeurs.contains(nom) ? setenv(nom, valeurs.at(nom).c_str(), 1) : unsetenv(nom);
-    };
-    Variables avant;
-    for (const char* nom : NOMS)
-        if (const char* valeur = std::getenv(nom)) avant[nom] = valeur;
     const std::string francaise = "%d/%m/%Y", iso = "%Y-%m-%d", duC = "%m/%d/%y";
-    const std::tuple<Variables, char, std::string> cas[] = {
+    const std::tuple<std::map<std::string, std::string>, char, std::string> cas[] = {
         {{}, '.', duC},
         {{{"LANG", "fr_FR.UTF-8"}}, ',', francaise},
         {{{"LANG", "fr_FR.UTF-8"}, {"LC_NUMERIC", "en_GB.UTF-8"}}, '.', francaise},
@@ -110,11 +101,13 @@ TEST(SystemSettings, AreTheLanguages) {
         {{{"LANG", "xx_XX"}}, '.', iso},
         {{{"LANG", "xx_XX"}, {"LC_TIME", "C"}}, '.', duC}};
     for (const auto& [variables, separateur, date] : cas) {
-        poser(variables);
-        EXPECT_EQ(reglagesDuSysteme(), (Reglages{separateur, date, "%H:%M:%S"}))
+        for (const char* nom : {"LC_ALL", "LC_NUMERIC", "LC_TIME", "LANG"})
+            variables.contains(nom) ? setenv(nom, variables.at(nom).c_str(), 1) : unsetenv(nom);
+        const Reglages lus = reglagesDuSysteme();
+        EXPECT_EQ(std::pair(lus.separateurDecimal, lus.formatDate), std::pair(separateur, date))
             << testing::PrintToString(variables);
+        EXPECT_TRUE(lus.formatHeure == "%T" || lus.formatHeure == "%H:%M:%S") << lus.formatHeure;
     }
-    poser(avant);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "window/Commande.h"
 #include "window/DatesFichier.h"
 #include "window/Detourage.h"
 #include "window/Fondu.h"
@@ -6,6 +7,7 @@
 
 #include "support/DialoguesScriptees.h"
 #include "support/DossierTemporaire.h"
+#include "textfile/faute.h"
 
 #include <cstdlib>
 #include <fcntl.h>
@@ -90,20 +92,12 @@ TEST(Fade, OpensInItsTicksAndClosesFromItsOwnBase) {
     EXPECT_EQ(avancer(infos, milieu).reste, 0.5F);
 }
 
-/// Local time of a place that keeps summer time.
-struct FileDates : testing::Test {
-    FileDates() { fuseau("CET-1CEST,M3.5.0,M10.5.0/3"); }
-    ~FileDates() override { fuseau(nullptr); }
-    static void fuseau(const char* nom) {
-        nom ? setenv("TZ", nom, 1) : unsetenv("TZ");
-        tzset();
-    }
-    essai::DossierTemporaire dossier;
+TEST(FileDates, GiveTheLocalTimeOfTheLastWriteOrTellWhatDoesNotOpen) {
+    setenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3", 1); // a place that keeps summer time
+    tzset();
+    const essai::DossierTemporaire dossier;
     essai::DialoguesScriptees dialogues;
-};
-
-TEST_F(FileDates, GiveTheLocalTimeOfTheLastWrite) {
-    const Utf8 chemin = dossier.ecrire("entretien été.wav", "RIFF");
+    const Utf8 chemin = dossier.ecrire("dossier/entretien été.wav", "RIFF");
     // 2009-01-03 12:30 and 2009-07-03 12:30, universal time; an hour and two later there.
     for (const auto& [universel, decalage] : {std::pair{1230985800L, 3600}, {1246624200L, 7200}}) {
         const timespec temps[2] = {{universel, 0}, {universel, 999999999}};
@@ -112,15 +106,42 @@ TEST_F(FileDates, GiveTheLocalTimeOfTheLastWrite) {
         EXPECT_EQ(dates.modification.secondes, universel + decalage);
         EXPECT_GE(dates.creation.secondes, universel + decalage);
     }
+    for (const Utf8& faux : {dossier.chemin("absent.wav"), dossier.chemin("dossier/")}) {
+        dialogues.repondre(Reponse::Ok);
+        EXPECT_FALSE(LireDatesFichier(faux, dialogues));
+        EXPECT_EQ(dialogues.dernier(), "|Impossible ouvrir le fichier : " + faux + "|Ok|Exclamation -> Ok");
+    }
 }
 
-TEST_F(FileDates, OfAFileThatDoesNotOpenAreTold) {
-    dossier.ecrire("dossier.wav/a", "");
-    for (const Utf8& chemin : {dossier.chemin("absent.wav"), dossier.chemin("dossier.wav/")}) {
-        dialogues.repondre(Reponse::Ok);
-        EXPECT_FALSE(LireDatesFichier(chemin, dialogues));
-        EXPECT_EQ(dialogues.dernier(), "|Impossible ouvrir le fichier : " + chemin + "|Ok|Exclamation -> Ok");
-    }
+constexpr Commande COMMANDES[] = {
+    {.id = "lire", .bulle = "Lire ({})", .indice = "lecture", .touches = {{"Espace"}, {"Alt + Espace"}}},
+    {.id = "reculer", .indice = "déplacer", .touches = {{"←"}}},
+    {.id = "avancer", .indice = "déplacer", .touches = {{"→"}}},
+    {.id = "valider", .texte = "  Valider {+}", .touches = {{"Ctrl + Maj + Entrée", "Texte Liste", ALT}}},
+    {.id = "muette"},
+    {.id = "plus", .indice = "zoom", .aide = "Plus grand", .touches = {{"Ctrl + +"}}},
+};
+
+TEST(Commande, TextsTakeTheirKeysFromTheTable) {
+    const std::pair<std::string_view, const char*> textes[] = {
+        {"sans touche", "sans touche"},
+        {"{} et {+}", "Ctrl + Maj + Entrée et Ctrl+Maj+Entrée"},
+        {"{lire} puis {plus}.", "Espace puis Ctrl + +."}};
+    for (const auto& [texte, attendu] : textes)
+        EXPECT_EQ(avecTouches(COMMANDES, texte, &COMMANDES[3]), attendu);
+    EXPECT_THROW(avecTouches(COMMANDES, "{partie}"), FauteExecution);
+    EXPECT_EQ(ligneIndices(COMMANDES), "Espace : lecture    ← → : déplacer    Ctrl + + : zoom");
+    EXPECT_EQ(aideDe(COMMANDES, COMMANDES[0]), "Lire");
+    EXPECT_EQ(aideDe(COMMANDES, COMMANDES[3]), "Valider Ctrl+Maj+Entrée");
+    EXPECT_EQ(aideDe(COMMANDES, COMMANDES[5]), "Plus grand");
+}
+
+TEST(Commande, AKeyHoldsWithItsModifiersAndInItsControls) {
+    const Raccourci valider = COMMANDES[3].touches[0], lire = COMMANDES[0].touches[0];
+    EXPECT_TRUE(valider.vaut("Ctrl + Alt + Maj + Entrée") && lire.vaut("Maj + Espace"));
+    EXPECT_FALSE(valider.vaut("Ctrl + Entrée") || lire.vaut("Ctrl + Espace") || Raccourci().vaut({}));
+    EXPECT_TRUE(valider.tientDans("Liste") && lire.tientDans(""));
+    EXPECT_FALSE(valider.tientDans("List") || valider.tientDans("") || lire.tientDans("Liste"));
 }
 
 } // namespace
