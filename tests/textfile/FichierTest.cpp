@@ -97,6 +97,11 @@ TEST(FileReplacement, TellsEachCallThatFails) {
     EXPECT_THROW(remplacerFichier(dossier.chemin("absent/neuf"), "x"), FauteExecution);
     EXPECT_EQ(faute([&] { remplacerFichier(dossier.chemin(), "x"); }),
               es + "c'est un répertoire\n" + dossier.chemin());
+    for (const char* nom : {"neuf", "neuf", "absent/neuf"}) // what isn't there is no fault
+        EXPECT_EQ(faute([&] { supprimerFichier(dossier.chemin(nom)); }), "") << nom;
+    EXPECT_EQ(faute([&] { supprimerFichier(dossier.chemin()); }),
+              "Suppression impossible : c'est un répertoire\n" + dossier.chemin());
+    EXPECT_FALSE(dossier.existe("neuf"));
 }
 
 TEST(FileReplacement, KeepsLinksOwnerAndMode) {

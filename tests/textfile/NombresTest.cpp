@@ -33,10 +33,13 @@ std::string sous(std::string texte, const Reglages& reglages) {
 TEST(Numbers, AreReadWithTheSeparatorOfTheSettings) {
     for (const Reglages& reglages : {virgule, point}) {
         std::ostringstream lus;
-        for (const char* texte : {" 12.50 ", ".5", "5.", "-3", "+4.25x", "1E-2", "1.5e+3", "7e+", "12.5.6",
-                                  "3::001", "100000000000000000000"})
+        lus.precision(16);
+        for (const char* texte :
+             {" 12.50 ", ".5", "5.", "-3", "+4.25x", "1E-2", "1.5e+3", "7e+", "12.5.6", "3::001",
+              "100000000000000000000", "0.1234567", "0.12345678", "123456789012345", "1234567890123456"})
             lus << nombre(sous(texte, reglages), reglages) << " ";
-        EXPECT_EQ(lus.str(), "12.5 0.5 5 -3 4.25 0.01 1500 7 12.5 3 1e+20 ");
+        EXPECT_EQ(lus.str(), "12.5 0.5 5 -3 4.25 0.01 1500 7 12.5 3 1e+20 0.1234567 0.12345678 "
+                             "123456789012345 1234567890123456 ");
         for (const char* texte : {"", "  ", "abc", "-", ".", ",", "+-1", "inf", "nan", "e5", "1e999"})
             EXPECT_THROW(nombre(texte, reglages), FauteExecution) << texte;
     }
