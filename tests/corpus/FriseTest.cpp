@@ -178,6 +178,16 @@ TEST(Panels, Thematics) {
                                                "ShpCoul[2] 0,250 900x250 fond=FF0000\n");
 }
 
+TEST(Panels, FramesStandAroundThem) {
+    const DispositionCorpus seule = disposerFenetreCorpus(28800, 16200, false),
+                            deux = disposerFenetreCorpus(28800, 16200, true);
+    EXPECT_EQ(seule.cadreThm, (Rectangle{120, 1560, 3460, 14280}));
+    EXPECT_EQ(seule.cadreEntretiens, (Rectangle{3640, 1560, 25100, 14580}));
+    EXPECT_EQ(deux.cadreEntretiens, (Rectangle{3640, 1560, 25100, 11460}));
+    EXPECT_EQ(std::pair(seule.PictTAP, deux.PictTAP),
+              std::pair(Rectangle(), Rectangle{3760, 13620, 24860, 2400}));
+}
+
 TEST(Panels, AnActiveOneAloneCountsAsNoneAndNotAllAsNone) {
     EtatCorpus corpus = corpusDEssai(3).corpus;
     isolerEntretien(corpus, 3);

@@ -10,28 +10,32 @@ namespace {
 
 TEST(Sequences, OpenInsertAndList) {
     essai::CorpusDEssai essai;
-    essai.session.reglages.separateurDecimal = '.';
+    Session& session = essai.session;
+    session.reglages.separateurDecimal = '.';
     essai.ecrireCorpus("000,&H0, Sans\r\n001,255, Travail\r\n", "a.wav\r\nb.wav\r\n");
-    for (const char* nom : {"a", "b"})
-        essai.ajouterEntretien(nom, essai::ENTETE);
-    const auto viser = [&] {
-        essai.corpus().CheminCorpus = essai.dossier().chemin("c/Essai.Crp");
-        essai.corpus().OuvertureDirecte = true;
+    essai.ajouterEntretien("a", essai::ENTETE);
+    essai.ajouterEntretien("b", "100\r\n<|ATTR|\r\n3,7\r\n>|ATTR|\r\n");
+    std::vector<Etape> etapes;
+    const auto ouvrir = [&] {
+        session.corpus.CheminCorpus = essai.dossier().chemin("c/Essai.Crp");
+        session.corpus.OuvertureDirecte = true;
+        etapes.clear();
+        return ouvrirCorpus(session, essai.hote, {3000, [&](Etape etape) { etapes.push_back(etape); }});
     };
-    viser();
-    ASSERT_EQ(ouvrirCorpus(essai.session, essai.hote), IssueOuverture::Ouverte);
-    essai.corpus().EntretienCourant = 2;
-    LireRetranscription(essai.session, essai.hote);
-    essai.hote.media.URL(cheminEnregistrement(essai.session, 2));
-    essai.session.transcription.SaisieDebut = 12.5;
-    essai.session.transcription.SaisieFin = 20;
+    ASSERT_EQ(ouvrir(), IssueOuverture::Ouverte);
+    EXPECT_EQ(etapes,
+              (std::vector{Etape::Debut, Etape::Vide, Etape::Thematiques, Etape::Frise, Etape::Pistes}));
+    EXPECT_EQ(session.corpus.Entretiens[2].Attributs[2], 7);
+    session.corpus.EntretienCourant = 2;
+    essai.hote.media.URL(cheminEnregistrement(session, 2));
+    session.transcription.SaisieDebut = 12.5;
+    session.transcription.SaisieFin = 20;
     Texte dit = "bonjour";
-    ASSERT_TRUE(AjouterExtrait(essai.session, essai.hote, retranscriptionDuLecteur(essai.session, essai.hote),
-                               dit, "001"));
-    viser();
-    ASSERT_EQ(ouvrirCorpus(essai.session, essai.hote), IssueOuverture::Ouverte);
-    EXPECT_EQ(essai::decrireExtraits(essai.session, 1), "");
-    EXPECT_EQ(essai::decrireExtraits(essai.session, 2), "12.50;20.00;001;bonjour/;");
+    ASSERT_TRUE(
+        AjouterExtrait(session, essai.hote, retranscriptionDuLecteur(session, essai.hote), dit, "001"));
+    ASSERT_EQ(ouvrir(), IssueOuverture::Ouverte);
+    EXPECT_EQ(essai::decrireExtraits(session, 1), "");
+    EXPECT_EQ(essai::decrireExtraits(session, 2), "12.50;20.00;001;bonjour/;");
 }
 
 } // namespace

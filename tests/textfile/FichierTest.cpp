@@ -1,4 +1,5 @@
 #include "support/Pannes.h"
+#include "textfile/empreinte.h"
 #include "textfile/faute.h"
 
 #include <sys/stat.h>
@@ -96,6 +97,11 @@ TEST(FileReplacement, TellsEachCallThatFails) {
     EXPECT_THROW(remplacerFichier(dossier.chemin("absent/neuf"), "x"), FauteExecution);
     EXPECT_EQ(faute([&] { remplacerFichier(dossier.chemin(), "x"); }),
               es + "c'est un répertoire\n" + dossier.chemin());
+    for (const char* nom : {"neuf", "neuf", "absent/neuf"}) // what isn't there is no fault
+        EXPECT_EQ(faute([&] { supprimerFichier(dossier.chemin(nom)); }), "") << nom;
+    EXPECT_EQ(faute([&] { supprimerFichier(dossier.chemin()); }),
+              "Suppression impossible : c'est un répertoire\n" + dossier.chemin());
+    EXPECT_FALSE(dossier.existe("neuf"));
 }
 
 TEST(FileReplacement, KeepsLinksOwnerAndMode) {
@@ -120,6 +126,14 @@ TEST(FileReplacement, KeepsLinksOwnerAndMode) {
     EXPECT_EQ(fs::status(dossier.chemin("loin/futur")).permissions(), fs::perms(0640));
     EXPECT_EQ(faute([&] { remplacerFichier(dossier.chemin("boucle"), "x"); }),
               "Écriture impossible : trop de liens symboliques\n" + dossier.chemin("boucle"));
+}
+
+TEST(Fingerprint, IsTheSameOnEveryMachineAndSeesOneBit) {
+    EXPECT_EQ(empreinteDe(""), (Empreinte{0x99aa06d3014798d8, 0x6001c324468d497f}));
+    std::string octets(100'000, 'a');
+    const Empreinte avant = empreinteDe(octets);
+    octets[77'777] ^= 1;
+    EXPECT_NE(empreinteDe(octets), avant);
 }
 
 TEST(FileCopy, TellsItsProgressAndCanBeStopped) {
