@@ -148,8 +148,7 @@ TEST_F(Import, CopiesAfterAYesAndTellsACopyThatFails) {
 TEST_F(Import, KeepsATranscriptAndRefusesWhatCannotStandInTheList) {
     ajouterEntretien(session, "la.wav", 12.5);
     hote.dossier.ecrire("c/la.Rtr", "gardee");
-    creerRetranscription(session, hote, 1);
-    EXPECT_EQ(hote.dossier.lire("c/la.Rtr"), "gardee");
+    EXPECT_FALSE(retranscriptionACreer(session, 1));
     for (const char* nom : {"/x/łódź.wav", "/x/a\rb.wav"})
         EXPECT_THROW(nomImporte(nom), FauteExecution);
     hote.dialogues.repondre(Reponse::Ok, "Le fichier la.wav est déjà présent dans le projet.");
