@@ -87,9 +87,10 @@ void EcrireThematiques(Session& session, Plateforme& plateforme, const Utf8& nom
     };
     const auto issue =
         changerFichiers(session, plateforme, nom,
-                        {changementDuCorpus(corpus, reecriture, &corpus.luThematiques, Temporaire::Disparu)},
-                        Avis{Sujet::Thematiques});
-    if (issue == IssueChangement::Refuse) direSansBalise(plateforme.dialogues, "thématiques");
+                        {changementDuCorpus(corpus, reecriture, &corpus.luThematiques, Temporaire::Disparu)});
+    if (issue == IssueChangement::Refuse) return direSansBalise(plateforme.dialogues, "thématiques");
+    if (issue == IssueChangement::Conflit && !lireThematiques(session, plateforme)) return;
+    plateforme.annonces.annoncer({Sujet::Thematiques});
 }
 
 bool InsererThematique(Session& session, Plateforme& plateforme, const crp::Thematique& rang,

@@ -97,7 +97,7 @@ TEST_F(Door, GoesOnWhereTheSystemRefusesTheLockAndNotWhereItRefusesTheFile) {
     };
     EXPECT_TRUE(changer({{rtr(2), tenu}}));
     appelsSysteme() = vraie;
-    EXPECT_EQ(demandes, 4);
+    EXPECT_EQ(demandes, 5);
 }
 
 } // namespace

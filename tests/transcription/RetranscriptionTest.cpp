@@ -79,7 +79,7 @@ TEST(Transcript, KeepsTheDisksNameAndTheMachinesComma) {
     EXPECT_TRUE(EnregistrerExtraits(e.session, e.hote));
     const std::string ecrit = e.hote.dossier.lire("A.RTR");
     EXPECT_EQ(ecrit.substr(0, 9) + ecrit.substr(ecrit.find("::")),
-              " 125,5 \r\n::1,50::000\r\na\r\r\n::2,00::\r\n");
+              " 60 \r\n<|O::1,50::000\r\na\r\r\n::2,00::\r\n");
     EXPECT_FALSE(e.hote.dossier.existe("a.Rtr"));
 }
 
