@@ -4,7 +4,6 @@
 #include "support/CorpusDEssai.h"
 
 #include <cmath>
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace vermo {
@@ -17,10 +16,8 @@ Session sessionDe(const std::vector<float>& durees) {
     Session session = corpusDEssai(static_cast<int>(durees.size()));
     EtatCorpus& corpus = session.corpus;
     corpus.HauteurEntretien = 400;
-    for (std::size_t i = 1; i <= durees.size(); ++i) {
-        corpus.Entretiens[i].Duree = durees[i - 1];
-        corpus.extraits[i] = {};
-    }
+    for (std::size_t i = 1; i <= durees.size(); ++i)
+        corpus.Entretiens[i].Duree = durees[i - 1], corpus.extraits[i] = {};
     corpus.extraits[1] =
         analyser("100\r\n::0::000\r\n::10::\r\n::20::001\r\n::30::\r\n::40::002\r\n::50::\r\n"
                  "::60::999\r\n::60::\r\n",
@@ -61,8 +58,7 @@ TEST(Timeline, RowsInViewAndRealSize) {
     const std::tuple<Twips, int, int> cas[] = {{0, 1, 5}, {639, 1, 6}, {640, 2, 7}, {399000, 997, 999}};
     for (const auto& [defilement, premiere, derniere] : cas) {
         const LignesEnVue lignes = lignesEnVue(session, {3900, defilement, 2000});
-        EXPECT_EQ(lignes.premiere, premiere) << defilement;
-        EXPECT_EQ(lignes.derniere, derniere) << defilement;
+        EXPECT_EQ(std::pair(lignes.premiere, lignes.derniere), std::pair(premiere, derniere)) << defilement;
     }
     const std::pair<Twips, int> sous[] = {{239, 0}, {240, 1}, {639, 1}, {640, 2}, {399839, 999}, {399840, 0}};
     for (const auto& [y, slot] : sous)
@@ -105,16 +101,13 @@ TEST(Timeline, ScrollAndZoom) {
     EXPECT_FALSE(AjusterDefilement(session, 2120).visible);
     EXPECT_EQ(AjusterDefilement(session, 3000).hauteurSurface, 3000);
     const Defilement d = AjusterDefilement(session, 1060);
-    EXPECT_EQ(d.hauteurSurface, 2120);
-    EXPECT_EQ(d.excedent, 1060);
-    EXPECT_EQ(d.hauteurPouce, 470);
+    EXPECT_EQ((std::vector{d.hauteurSurface, d.excedent, d.hauteurPouce}), (std::vector{2120., 1060., 470.}));
     const std::pair<Twips, Twips> places[] = {{0, 60}, {530, 295}, {1060, 530}};
     for (const auto& [defile, haut] : places) {
         EXPECT_DOUBLE_EQ(hautPouce(d, defile), haut);
         EXPECT_DOUBLE_EQ(defilementDe(d, haut), defile);
     }
-    EXPECT_EQ(defilementDe(d, -500), 0);
-    EXPECT_EQ(defilementDe(d, 5000), 1060);
+    EXPECT_EQ(std::pair(defilementDe(d, -500), defilementDe(d, 5000)), std::pair(0., 1060.));
 }
 
 TEST(Timeline, DurationsOfZeroAreTold) {

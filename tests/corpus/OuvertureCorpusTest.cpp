@@ -53,35 +53,25 @@ TEST(Opening, RefusesWhatItCannotRead) {
     }
 }
 
-TEST(CorpusRewriting, ThematicsThenInterviews) {
+TEST(CorpusRewriting, LeavesOutWhatIsEmptyAndAFileWithoutItsTag) {
     CorpusDEssai essai;
-    const auto disque = [&] { return essai.dossier().lire("c/Essai.Crp"); };
-    essai.ajouterEntretien("a", ENTETE);
-    essai.ajouterEntretien("b", ENTETE);
+    for (const char* nom : {"a", "b"})
+        essai.ajouterEntretien(nom, ENTETE);
     essai.ecrireCorpus(PAS + "001,255, Un\r\n002,9,Deux\r\n", "a.wav\r\nparti.wav\r\nb.wav\r\n");
-    essai.dialogues().repondre(Reponse::Ok);
+    essai.dialogues().repondre(Reponse::Ok, "parti.wav");
     ASSERT_TRUE(essai.ouvrir());
+    const auto ecrire = [&] {
+        EcrireThematiques(essai.session, essai.hote);
+        EcrireEntretiens(essai.session, essai.hote);
+        return essai.dossier().lire("c/Essai.Crp");
+    };
     essai.corpus().ThmCode[2].clear();
-    essai.corpus().ThmNom[3] = " Deux, \"trois\"";
-    essai.dossier().ecrire("c/Essai.Crp.$$$", "reste");
-    EcrireThematiques(essai.session, essai.hote);
-    const std::string attendu = "Projet\r\n<|THEM|\r\n" + PAS + "002,9, Deux, \"trois\"\r\n" +
-                                ">|THEM|\r\n<|POS|\r\n>|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\n";
-    EXPECT_EQ(disque(), attendu + "a.wav\r\nparti.wav\r\nb.wav\r\n>|ENTR|\r\n");
-    EXPECT_FALSE(essai.dossier().existe("c/Essai.Crp.$$$"));
-    DeplacerEntretien(essai.session, 1, 2);
-    EcrireEntretiens(essai.session, essai.hote);
-    EXPECT_EQ(disque(), attendu + "b.wav\r\na.wav\r\n>|ENTR|\r\n");
     essai.corpus().Entretiens[1].Fichier.clear();
-    EcrireEntretiens(essai.session, essai.hote);
-    for (const char* nom : {"c/Essai.Crp", "c/Essai.Crp.$$$"})
-        EXPECT_EQ(essai.dossier().lire(nom), attendu + "a.wav\r\n>|ENTR|\r\n");
-
+    EXPECT_EQ(ecrire(), "Projet\r\n<|THEM|\r\n" + PAS + "002,9,Deux\r\n>|THEM|\r\n<|POS|\r\n>|POS|\r\n" +
+                            "<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\nb.wav\r\n>|ENTR|\r\n");
     essai.dossier().ecrire("c/Essai.Crp", "rien\r\n");
     essai.dialogues().repondre(Reponse::Ok, "des thématiques").repondre(Reponse::Ok, "des entretiens");
-    EcrireThematiques(essai.session, essai.hote);
-    EcrireEntretiens(essai.session, essai.hote);
-    EXPECT_EQ(disque(), "rien\r\n");
+    EXPECT_EQ(ecrire(), "rien\r\n");
 }
 
 TEST(Order, MovesInterviewsWithTheirExtracts) {
