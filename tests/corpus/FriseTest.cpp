@@ -6,10 +6,10 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-namespace vermo {
-namespace {
+using namespace vermo;
+using namespace vermo::essai;
 
-using essai::corpusDEssai;
+namespace {
 
 /// `durees` seconds; extracts of 10 s each at 0, 20, 40... in the first, coded "000", "001", "002", "999".
 Session sessionDe(const std::vector<float>& durees) {
@@ -111,7 +111,7 @@ TEST(Timeline, ScrollAndZoom) {
 }
 
 TEST(Timeline, DurationsOfZeroAreTold) {
-    essai::CorpusDEssai essai;
+    CorpusDEssai essai;
     essai.ajouterEntretien("a", " 0 \r\n");
     essai.ecrireCorpus("", "a.wav\r\n");
     ASSERT_TRUE(essai.ouvrir());
@@ -192,4 +192,3 @@ TEST(Panels, AnActiveOneAloneCountsAsNoneAndNotAllAsNone) {
 }
 
 } // namespace
-} // namespace vermo

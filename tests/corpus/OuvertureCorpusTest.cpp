@@ -6,12 +6,10 @@
 
 #include <gtest/gtest.h>
 
-namespace vermo {
-namespace {
+using namespace vermo;
+using namespace vermo::essai;
 
-using essai::CorpusDEssai;
-using essai::ENTETE;
-using essai::ordre;
+namespace {
 
 const std::string PAS = "000,&H0, Pas de thematique\r\n";
 
@@ -79,7 +77,7 @@ TEST(Order, MovesInterviewsWithTheirExtracts) {
                                                      {2, 2, "1 2 3 4 "}, {4, 3, "1 2 4 3 "},
                                                      {0, 2, "1 2 3 4 "}, {1, 5, "1 2 3 4 "}};
     for (const auto& [source, cible, attendu] : cas) {
-        Session session = essai::corpusDEssai(4);
+        Session session = corpusDEssai(4);
         for (std::size_t i = 1; i <= 4; ++i)
             session.corpus.Entretiens[i].Fichier = session.corpus.extraits[i].chemin = std::to_string(i);
         DeplacerEntretien(session, source, cible);
@@ -90,7 +88,7 @@ TEST(Order, MovesInterviewsWithTheirExtracts) {
 }
 
 struct Import : testing::Test {
-    essai::PlateformeDeTest hote;
+    PlateformeDeTest hote;
     Session session;
     void SetUp() override {
         session.corpus.RepCorpus = hote.dossier.chemin("c/");
@@ -150,4 +148,3 @@ TEST_F(Import, KeepsATranscriptAndRefusesWhatCannotStandInTheList) {
 }
 
 } // namespace
-} // namespace vermo

@@ -4,12 +4,11 @@
 
 #include <sys/stat.h>
 
-namespace vermo {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
-using essai::DossierTemporaire;
-using essai::Panne;
-using essai::Pannes;
 namespace fs = std::filesystem;
 
 /// The fault's whole message, or nothing when `action` succeeds.
@@ -89,7 +88,7 @@ TEST(FileReplacement, TellsEachCallThatFails) {
                   message.empty() ? "" : message + "\n" + chemin)
             << panne.appel << " " << panne.erreur;
         EXPECT_TRUE(dossier.lire("a.Rtr") == (remplace ? nouveau : ancien)) << panne.appel << panne.erreur;
-        EXPECT_EQ(essai::temporairesRestants(dossier), 0);
+        EXPECT_EQ(temporairesRestants(dossier), 0);
     }
     EXPECT_EQ(descripteursOuverts(), avant);
     remplacerFichier(dossier.chemin("neuf"), "");
@@ -148,7 +147,7 @@ TEST(FileCopy, TellsItsProgressAndCanBeStopped) {
     };
     EXPECT_FALSE(copierFichier(source, cible, suivre));
     EXPECT_TRUE(dossier.lire("cible.wav") == ancien);
-    EXPECT_EQ(essai::temporairesRestants(dossier), 0);
+    EXPECT_EQ(temporairesRestants(dossier), 0);
     avance.assign(2, 0);
     EXPECT_TRUE(copierFichier(source, cible, suivre));
     EXPECT_EQ(avance, (std::vector<std::int64_t>{0, 0, 1 << 20, 2 << 20, 2'500'000}));
@@ -160,8 +159,7 @@ TEST(FileCopy, TellsItsProgressAndCanBeStopped) {
     EXPECT_EQ(faute([&] { copierFichier(source, cible, raccourcir); }),
               "Copie impossible : le fichier a été raccourci pendant la lecture\n" + source);
     EXPECT_TRUE(dossier.lire("cible.wav") == octets);
-    EXPECT_EQ(essai::temporairesRestants(dossier), 0);
+    EXPECT_EQ(temporairesRestants(dossier), 0);
 }
 
 } // namespace
-} // namespace vermo

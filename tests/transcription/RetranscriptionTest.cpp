@@ -9,7 +9,9 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
-namespace vermo::essai {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
 const std::string TETE = " 125.5 \r\n<|OBS|\r\nNote\r\r\n>|OBS|\r\n<|ATTR|\r\n1,2\r\n99,41\r\n>|ATTR|\r\n";
@@ -217,4 +219,3 @@ TEST(Thematics, WhatAnExtractShowsAndWhatMayBeAdded) {
 }
 
 } // namespace
-} // namespace vermo::essai
