@@ -40,11 +40,15 @@ TEST(Opening, RefusesWhatItCannotRead) {
         CorpusDEssai essai;
         if (!octets.empty()) essai.dossier().ecrire("c/Essai.Crp", octets);
         essai.corpus().NbEntretiens = 4;
+        essai.session.donnees.NbVariables = 3;
+        essai.session.transcription.source.slot = 2;
         essai.dialogues().repondre(Reponse::Ok);
         EXPECT_FALSE(essai.ouvrir());
         EXPECT_NE(essai.dialogues().dernier().find(message), std::string::npos) << message;
         EXPECT_EQ(essai.corpus().NbEntretiens, 4);
         // The window stays emptied, and what was not read is never rewritten.
+        EXPECT_EQ(essai.session.donnees, EtatDonnees());
+        EXPECT_EQ(essai.session.transcription.source.slot, 0);
         EXPECT_EQ(preparerFrise(essai.session, essai.hote), 0);
         EXPECT_THROW(EcrireEntretiens(essai.session, essai.hote), FauteExecution);
         EXPECT_THROW(EcrireThematiques(essai.session, essai.hote), FauteExecution);

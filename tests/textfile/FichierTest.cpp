@@ -2,7 +2,9 @@
 #include "textfile/empreinte.h"
 #include "textfile/faute.h"
 
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace vermo;
 using namespace vermo::essai;
@@ -57,6 +59,27 @@ TEST(FileReading, GivesAllBytesOrRefusesWithTheCause) {
     EXPECT_EQ(descripteursOuverts(), avant);
 }
 
+TEST(FileReading, GoesOnAfterShortAndInterruptedReads) {
+    const DossierTemporaire dossier;
+    const std::string octets = contenu(5000);
+    const Utf8 chemin = dossier.ecrire("a", octets);
+    const AppelsSysteme vrais = appelsSysteme();
+    static int appels;
+    static const auto interrompu = [] { return errno = EINTR, ++appels % 2 == 0; };
+    appelsSysteme().read = [](int d, void* vers, std::size_t n) {
+        return interrompu() ? -1 : ::read(d, vers, std::min<std::size_t>(n, 700));
+    };
+    appelsSysteme().pread = [](int d, void* vers, std::size_t n, off_t position) {
+        return interrompu() ? -1 : ::pread(d, vers, std::min<std::size_t>(n, 700), position);
+    };
+    std::string morceau(4000, ' ');
+    EXPECT_EQ(Source(chemin).lireA(500, morceau.data(), 4000), 4000U);
+    EXPECT_EQ(lireFichier(chemin), octets);
+    EXPECT_EQ(lireDebut(chemin, 4000), octets.substr(0, 4000));
+    appelsSysteme() = vrais;
+    EXPECT_EQ(morceau, octets.substr(500, 4000));
+}
+
 TEST(FileReplacement, TellsEachCallThatFails) {
     const DossierTemporaire dossier;
     const Utf8 chemin = dossier.chemin("a.Rtr");
@@ -101,6 +124,17 @@ TEST(FileReplacement, TellsEachCallThatFails) {
     EXPECT_EQ(faute([&] { supprimerFichier(dossier.chemin()); }),
               "Suppression impossible : c'est un répertoire\n" + dossier.chemin());
     EXPECT_FALSE(dossier.existe("neuf"));
+}
+
+TEST(FileReplacement, PastTheLimitOfAFilesSizeIsAFaultAndNotTheEnd) {
+    const DossierTemporaire dossier;
+    rlimit avant{};
+    getrlimit(RLIMIT_FSIZE, &avant);
+    const rlimit petite{1000, avant.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &petite);
+    EXPECT_EQ(faute([&] { remplacerFichier(dossier.chemin("a"), nouveau); }),
+              "Écriture impossible : fichier trop grand\n" + dossier.chemin("a"));
+    setrlimit(RLIMIT_FSIZE, &avant);
 }
 
 TEST(FileReplacement, KeepsLinksOwnerAndMode) {
