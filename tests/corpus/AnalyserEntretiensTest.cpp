@@ -3,12 +3,10 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
-namespace vermo {
-namespace {
+using namespace vermo;
+using namespace vermo::essai;
 
-using essai::CorpusDEssai;
-using essai::decrireExtraits;
-using essai::ENTETE;
+namespace {
 
 TEST(Analysis, RowsAndFaults) {
     const std::string ok = "::1::001\r\nt\r\n::2::\r\n";
@@ -134,4 +132,3 @@ TEST_F(Scan, AFaultIsToldOnceForEachStateOfItsFile) {
 }
 
 } // namespace
-} // namespace vermo

@@ -6,12 +6,10 @@
 
 #include <gtest/gtest.h>
 
-namespace vermo {
-namespace {
+using namespace vermo;
+using namespace vermo::essai;
 
-using essai::CorpusDEssai;
-using essai::ENTETE;
-using essai::ordre;
+namespace {
 
 const std::string PAS = "000,&H0, Pas de thematique\r\n";
 
@@ -42,47 +40,41 @@ TEST(Opening, RefusesWhatItCannotRead) {
         CorpusDEssai essai;
         if (!octets.empty()) essai.dossier().ecrire("c/Essai.Crp", octets);
         essai.corpus().NbEntretiens = 4;
+        essai.session.donnees.NbVariables = 3;
+        essai.session.transcription.source.slot = 2;
         essai.dialogues().repondre(Reponse::Ok);
         EXPECT_FALSE(essai.ouvrir());
         EXPECT_NE(essai.dialogues().dernier().find(message), std::string::npos) << message;
         EXPECT_EQ(essai.corpus().NbEntretiens, 4);
         // The window stays emptied, and what was not read is never rewritten.
+        EXPECT_EQ(essai.session.donnees, EtatDonnees());
+        EXPECT_EQ(essai.session.transcription.source.slot, 0);
         EXPECT_EQ(preparerFrise(essai.session, essai.hote), 0);
         EXPECT_THROW(EcrireEntretiens(essai.session, essai.hote), FauteExecution);
         EXPECT_THROW(EcrireThematiques(essai.session, essai.hote), FauteExecution);
     }
 }
 
-TEST(CorpusRewriting, ThematicsThenInterviews) {
+TEST(CorpusRewriting, LeavesOutWhatIsEmptyAndAFileWithoutItsTag) {
     CorpusDEssai essai;
-    const auto disque = [&] { return essai.dossier().lire("c/Essai.Crp"); };
-    essai.ajouterEntretien("a", ENTETE);
-    essai.ajouterEntretien("b", ENTETE);
+    for (const char* nom : {"a", "b"})
+        essai.ajouterEntretien(nom, ENTETE);
     essai.ecrireCorpus(PAS + "001,255, Un\r\n002,9,Deux\r\n", "a.wav\r\nparti.wav\r\nb.wav\r\n");
-    essai.dialogues().repondre(Reponse::Ok);
+    essai.dialogues().repondre(Reponse::Ok, "parti.wav");
     ASSERT_TRUE(essai.ouvrir());
+    const auto ecrire = [&] {
+        EcrireThematiques(essai.session, essai.hote);
+        EcrireEntretiens(essai.session, essai.hote);
+        return essai.dossier().lire("c/Essai.Crp");
+    };
     essai.corpus().ThmCode[2].clear();
-    essai.corpus().ThmNom[3] = " Deux, \"trois\"";
-    essai.dossier().ecrire("c/Essai.Crp.$$$", "reste");
-    EcrireThematiques(essai.session, essai.hote);
-    const std::string attendu = "Projet\r\n<|THEM|\r\n" + PAS + "002,9, Deux, \"trois\"\r\n" +
-                                ">|THEM|\r\n<|POS|\r\n>|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\n";
-    EXPECT_EQ(disque(), attendu + "a.wav\r\nparti.wav\r\nb.wav\r\n>|ENTR|\r\n");
-    EXPECT_FALSE(essai.dossier().existe("c/Essai.Crp.$$$"));
-    DeplacerEntretien(essai.session, 1, 2);
-    EcrireEntretiens(essai.session, essai.hote);
-    EXPECT_EQ(disque(), attendu + "b.wav\r\na.wav\r\n>|ENTR|\r\n");
     essai.corpus().Entretiens[1].Fichier.clear();
-    EcrireEntretiens(essai.session, essai.hote);
-    for (const char* nom : {"c/Essai.Crp", "c/Essai.Crp.$$$"})
-        EXPECT_EQ(essai.dossier().lire(nom), attendu + "a.wav\r\n>|ENTR|\r\n");
-
+    EXPECT_EQ(ecrire(), "Projet\r\n<|THEM|\r\n" + PAS + "002,9,Deux\r\n>|THEM|\r\n<|POS|\r\n>|POS|\r\n" +
+                            "<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\nb.wav\r\n>|ENTR|\r\n");
     essai.dossier().ecrire("c/Essai.Crp", "rien\r\n");
     for (int fois = 0; fois < 2; ++fois)
         essai.dialogues().repondre(Reponse::Ok, "changé par un autre programme");
-    EcrireThematiques(essai.session, essai.hote);
-    EcrireEntretiens(essai.session, essai.hote);
-    EXPECT_EQ(disque(), "rien\r\n");
+    EXPECT_EQ(ecrire(), "rien\r\n");
 }
 
 TEST(Order, MovesInterviewsWithTheirExtracts) {
@@ -90,7 +82,7 @@ TEST(Order, MovesInterviewsWithTheirExtracts) {
                                                      {2, 2, "1 2 3 4 "}, {4, 3, "1 2 4 3 "},
                                                      {0, 2, "1 2 3 4 "}, {1, 5, "1 2 3 4 "}};
     for (const auto& [source, cible, attendu] : cas) {
-        Session session = essai::corpusDEssai(4);
+        Session session = corpusDEssai(4);
         for (std::size_t i = 1; i <= 4; ++i)
             session.corpus.Entretiens[i].Fichier = session.corpus.extraits[i].chemin = std::to_string(i);
         DeplacerEntretien(session, source, cible);
@@ -101,7 +93,7 @@ TEST(Order, MovesInterviewsWithTheirExtracts) {
 }
 
 struct Import : testing::Test {
-    essai::PlateformeDeTest hote;
+    PlateformeDeTest hote;
     Session session;
     void SetUp() override {
         session.corpus.RepCorpus = hote.dossier.chemin("c/");
@@ -160,4 +152,3 @@ TEST_F(Import, KeepsATranscriptAndRefusesWhatCannotStandInTheList) {
 }
 
 } // namespace
-} // namespace vermo

@@ -9,19 +9,18 @@
 #include <gtest/gtest.h>
 #include <sys/file.h>
 
-namespace vermo {
-namespace {
+using namespace vermo;
+using namespace vermo::essai;
 
-using essai::Panne;
-using essai::Pannes;
+namespace {
 
 /// A corpus of two interviews, scanned; the notices that are sent.
 struct Door : testing::Test {
-    essai::CorpusDEssai essai;
+    CorpusDEssai essai;
     std::vector<Avis> avis;
 
     void SetUp() override {
-        essai.ajouterEntretien("a", essai::ENTETE);
+        essai.ajouterEntretien("a", ENTETE);
         essai.ajouterEntretien("b", "100\r\n");
         essai.ecrireCorpus("000,&H0, Pas\r\n", "a.wav\r\nb.wav\r\n");
         ASSERT_TRUE(essai.ouvrir());
@@ -101,4 +100,3 @@ TEST_F(Door, GoesOnWhereTheSystemRefusesTheLockAndNotWhereItRefusesTheFile) {
 }
 
 } // namespace
-} // namespace vermo

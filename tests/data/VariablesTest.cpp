@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
-namespace vermo::essai {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
 struct Variables : testing::Test {
@@ -73,4 +75,3 @@ TEST_F(Variables, AttributesOfTheScanServeWhileTheFileIsTheSame) {
 }
 
 } // namespace
-} // namespace vermo::essai

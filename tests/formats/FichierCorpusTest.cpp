@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
-namespace vermo::crp {
+using namespace vermo;
+using namespace vermo::crp;
+
 namespace {
 
 const std::string CORPUS =
@@ -122,4 +124,3 @@ TEST(WaveHeader, FieldsStandAtTheirPlacesAndAreZeroBehindTheEnd) {
 }
 
 } // namespace
-} // namespace vermo::crp

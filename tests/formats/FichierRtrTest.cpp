@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
-namespace vermo::rtr {
+using namespace vermo;
+using namespace vermo::rtr;
+
 namespace {
 
 const Reglages POINT{.separateurDecimal = '.'};
@@ -145,4 +147,3 @@ TEST(TranscriptFile, AttributesAreTakenAllOrNone) {
 }
 
 } // namespace
-} // namespace vermo::rtr

@@ -114,7 +114,7 @@ const struct Sorte {
      }},
     {"change thematics", "c/Essai.Crp", false,
      [](Programme& p) {
-         p.corpus().ThmNom.back() = " Autre";
+         p.corpus().ThmNom.at(1) = " Autre";
          EcrireThematiques(p.session, p.hote);
      }},
     {"bring an interview in", "c/Essai.Crp", true,

@@ -9,7 +9,8 @@
 #include <map>
 #include <sstream>
 
-namespace vermo {
+using namespace vermo;
+
 namespace {
 
 const Reglages virgule;
@@ -114,4 +115,3 @@ TEST(SystemSettings, AreTheLanguages) {
 }
 
 } // namespace
-} // namespace vermo

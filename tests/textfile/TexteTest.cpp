@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
-namespace vermo {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
 TEST(Text, EveryByteSurvivesTheRoundTrip) {
@@ -74,7 +76,7 @@ TEST(Paths, Parts) {
 }
 
 TEST(Paths, AreFoundWhateverTheirCase) {
-    const essai::DossierTemporaire dossier;
+    const DossierTemporaire dossier;
     for (const char* nom :
          {"Entretien Été.WAV", "a.rtr", "A.Rtr", "a.rtR", "B.wav", "b.wav", "sous/C.wav", "日\xE9.Rtr"})
         dossier.ecrire(nom, "");
@@ -101,7 +103,7 @@ TEST(Paths, AreFoundWhateverTheirCase) {
 }
 
 TEST(Places, WhereToReadAndWhereToWrite) {
-    const essai::DossierTemporaire dossier;
+    const DossierTemporaire dossier;
     dossier.ecrire("donnees/Vermo.mp3", "");
     dossier.ecrire("prog/Projets.ini", "");
     Emplacements e{dossier.chemin("prog/"), dossier.chemin("donnees/"), dossier.chemin("moi/share/vermo/")};
@@ -115,4 +117,3 @@ TEST(Places, WhereToReadAndWhereToWrite) {
 }
 
 } // namespace
-} // namespace vermo

@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
-namespace vermo::essai {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
 /// A person who agrees to everything, and always names the same file.
@@ -74,4 +76,3 @@ TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
 }
 
 } // namespace
-} // namespace vermo::essai

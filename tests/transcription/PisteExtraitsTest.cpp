@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
-namespace vermo::essai {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
 using C = Controle;
@@ -101,4 +103,3 @@ LblMot[2] 5170,495 700x200 "encore " tag=1 encre=202024
 }
 
 } // namespace
-} // namespace vermo::essai

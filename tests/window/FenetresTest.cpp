@@ -13,7 +13,9 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 
-namespace vermo {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
 /// Rows of a picture, one character a pixel; segments as "start-end@y".
@@ -95,8 +97,8 @@ TEST(Fade, OpensInItsTicksAndClosesFromItsOwnBase) {
 TEST(FileDates, GiveTheLocalTimeOfTheLastWriteOrTellWhatDoesNotOpen) {
     setenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3", 1); // a place that keeps summer time
     tzset();
-    const essai::DossierTemporaire dossier;
-    essai::DialoguesScriptees dialogues;
+    const DossierTemporaire dossier;
+    DialoguesScriptees dialogues;
     const Utf8 chemin = dossier.ecrire("dossier/entretien été.wav", "RIFF");
     // 2009-01-03 12:30 and 2009-07-03 12:30, universal time; an hour and two later there.
     for (const auto& [universel, decalage] : {std::pair{1230985800L, 3600}, {1246624200L, 7200}}) {
@@ -145,4 +147,3 @@ TEST(Commande, AKeyHoldsWithItsModifiersAndInItsControls) {
 }
 
 } // namespace
-} // namespace vermo
