@@ -37,12 +37,11 @@ class EntretienDEssai : public Scene {
         verbes["tic"] = [this](const std::string& timer) {
             timer == "Timer1" ? visu->Timer1_Tick() : visu->Timer3_Tick();
         };
+        verbes["ecoule"] = [this](const std::string& secondes) { hote.media.avancer(std::stod(secondes)); };
         verbes["saisie"] = [this](const std::string& etat) {
             fenetres.enSaisie = etat == "entamée";
             fenetres.montrer(Fenetre::FrmSaisie);
         };
-        verbes["tardif"] = [this](const std::string&) { hote.media.tardif = true; };
-        verbes["reponse"] = [this](const std::string&) { hote.media.repondre(); };
     }
     /// Writes a transcript with these spans, coded in turn 001 and 002.
     void transcrire(const std::vector<Bornes>& extraits, const Texte& texte = "Un texte.") {
