@@ -138,6 +138,7 @@ void FrmSaisie::preparer() {
     arreterAllongement();
     if (!media.enLecture()) media.play();
     if (session_.audio.VitesseLecture != 0) media.rate(session_.audio.VitesseLecture);
+    if (media.currentPosition() < etat.SaisieDebut) positionner(etat.SaisieDebut);
     Picture2_->setVisible(media.rateDisponible());
     fiche_ = saisie::ficheOuverte(session_);
     montrerFiche();

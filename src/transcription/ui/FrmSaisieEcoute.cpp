@@ -75,9 +75,9 @@ void FrmSaisie::Timer1_Tick() {
     LecteurMedia& media = plateforme_.media;
     if (!media.enLecture()) Timer1_.stop(); // until it plays again or is sent elsewhere
     if (!isVisible()) return;
-    const bool arrete = media.playState() == EtatLecture::Arrete;
-    const auto boucle =
-        saisie::suivreBoucle(session_, media.currentPosition(), Pict_saisie_->largeurTwips(), arrete);
+    const double position = media.currentPosition();
+    const bool arrete = media.playState() == EtatLecture::Arrete && position >= media.duration();
+    const auto boucle = saisie::suivreBoucle(session_, position, Pict_saisie_->largeurTwips(), arrete);
     if (!boucle.ouverte) return;
     if (boucle.position) positionner(*boucle.position);
     if (boucle.pause)
