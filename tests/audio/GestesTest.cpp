@@ -15,7 +15,8 @@ Element piece(Controle controle, int index, Twips gauche) {
 TEST(Gestures, ThePressOnTheZoomBandTellsWhatItsReleaseMeans) {
     const Element rien = piece(Controle::Aucun, 0, 0), debut = piece(Controle::ImgBulleInt, 3, 200),
                   fin = piece(Controle::ImgBulleInt, 4, 290), bord = piece(Controle::ImgBulleInt, 1, 0),
-                  avant = piece(Controle::ImgBulleInt, 1, -50), label = piece(Controle::LblXtrZ, 2, 210);
+                  avant = piece(Controle::ImgBulleInt, 1, -50), label = piece(Controle::LblXtrZ, 2, 210),
+                  bulle = piece(Controle::ImgBulleBlanche, 5, 200), pied = piece(Controle::ImgBulleBas, 4, 0);
     const auto cherche = [](Twips x) { return GesteZoom{.acte = ActeZoom::Chercher, .x = x}; };
     const auto borne = [](bool laquelle, Twips x) {
         return GesteZoom{.acte = ActeZoom::Borner, .x = x, .extrait = 7, .borneDebut = laquelle};
@@ -32,10 +33,15 @@ TEST(Gestures, ThePressOnTheZoomBandTellsWhatItsReleaseMeans) {
                {rien, 250, -1, {}},
                {debut, 250, 900, borne(true, 900)},
                {fin, 300, -40, borne(false, 0)}, // held at the band's left edge
-               {bord, 20, 900, {}},              // a handle at X = 0 counts as none
+               {bord, 20, 900, borne(true, 900)},
                {avant, 20, 900, borne(true, 900)},
                {label, 250, 900, {.acte = ActeZoom::Elargir, .x = 690, .index = 2}},
-               {label, 250, 210, {}}};
+               {label, 250, 210, {}},
+               {bulle, 250, 279, {.acte = ActeZoom::Ouvrir, .extrait = 7}},
+               {bulle, 250, 280, {.acte = ActeZoom::Creer, .debut = 250, .x = 280}},
+               {bulle, 250, 220, cherche(220)},
+               {bulle, 250, 219, {.acte = ActeZoom::Defiler, .debut = 250, .x = 219}},
+               {pied, 0, 20, {.acte = ActeZoom::Ouvrir, .extrait = 7}}};
     for (const auto& c : cas) {
         PriseZoom prise;
         EXPECT_EQ(relacher(prise, c.relache, false), GesteZoom()); // pressed elsewhere
