@@ -164,8 +164,9 @@ struct EtatTranscription {
     bool DicteeActive = false, DicteeAuto = false, BoucleDictee = false;
     double PortionDebut = 0;
     std::int16_t PortionFin = 0; ///< whole seconds
-    float PortionSecondes = 5;
-    float Compteur = 0; ///< seconds since the last key
+    float PortionSecondes = 5;   ///< as the last switching on of the dictation read LblSec
+    int LblSec = 5;              ///< its caption
+    float Compteur = 0;          ///< seconds since the last key
     bool operator==(const EtatTranscription&) const = default;
 };
 

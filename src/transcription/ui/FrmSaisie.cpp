@@ -26,7 +26,7 @@ constexpr Fondu FONDU{.pas = 50};
 } // namespace
 
 FrmSaisie::FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent)
-    : Forme("FrmSaisie", session, plateforme, fenetres, parent) {
+    : Forme("FrmSaisie", session, plateforme, fenetres, parent), tagSecondes_(session.transcription.LblSec) {
     setWindowTitle(QStringLiteral("Vermo - Saisie d'un extrait"));
     Picture1_ = new Toile(QStringLiteral("Picture1"), this);
     Picture1_->setAccessibleName(QStringLiteral("Fenêtre de saisie"));
@@ -34,7 +34,6 @@ FrmSaisie::FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetre
     poser(Picture1_, {0, 0, t::LARGEUR_NOUVEL_EXTRAIT, t::HAUTEUR});
     deplacerPar(Picture1_);
     Picture1_->surPression = [this](const Souris&) { TextRtr_->setFocus(); };
-    secondes_ = tagSecondes_ = std::max(1, static_cast<int>(session_.transcription.PortionSecondes));
     creerEntete();
     creerEcoute();
     creerOptions();

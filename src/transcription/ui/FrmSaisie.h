@@ -151,8 +151,7 @@ class FrmSaisie : public Forme {
     Twips curseur_ = 0;   ///< Left of Curseur
     Rectangle portion_{}; ///< ShpDict; no width: hidden
     bool pressionSecondes_ = false, pressionVitesse_ = false;
-    int tagSecondes_ = 5; ///< tag of LblSec
-    int secondes_ = 5;    ///< caption of LblSec
+    int tagSecondes_;     ///< tag of LblSec
     float fondu_ = 0;     ///< counter of the fade
     int rangSurvole_ = 1; ///< row of the panel that the keyboard stands on
     Twips defilementPanneau_ = 0, hauteurPanneau_ = 0;
