@@ -77,6 +77,10 @@ class SaisieDEssai : public Scene {
             QEvent entree(QEvent::Enter);
             QApplication::sendEvent(&controle(nom), &entree);
         };
+        verbes["revient"] = [this](const std::string&) {
+            QEvent activation(QEvent::WindowActivate);
+            QApplication::sendEvent(saisie.get(), &activation);
+        };
         verbes["ecoule"] = [this](const std::string& secondes) { hote.media.avancer(std::stod(secondes)); };
         verbes["vitesse"] = [this](const std::string& facteur) { hote.media.rate(std::stod(facteur)); };
         verbes["pastilles"] = [this](const std::string&) {

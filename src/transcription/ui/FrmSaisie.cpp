@@ -123,7 +123,8 @@ void FrmSaisie::prendrePlace() {
     show();
     raise();
     activateWindow();
-    reprendreFocus();
+    Imgsuppr_->setVisible(!session_.transcription.NouvelExtrait);
+    placerCurseur();
     TextRtr_->setFocus();
 }
 
@@ -207,16 +208,11 @@ void FrmSaisie::colorer() {
     Picture1_->elements(std::move(bandes));
 }
 
-void FrmSaisie::reprendreFocus() {
-    Imgsuppr_->setVisible(!session_.transcription.NouvelExtrait);
+/// At an opening only: who comes back from another window goes on typing where the caret was.
+void FrmSaisie::placerCurseur() {
     QTextCursor curseur = TextRtr_->textCursor();
     curseur.setPosition(std::min(1, int(TextRtr_->toPlainText().size())));
     TextRtr_->setTextCursor(curseur);
-}
-
-bool FrmSaisie::event(QEvent* evenement) {
-    if (evenement->type() == QEvent::WindowActivate) garder([this] { reprendreFocus(); });
-    return Forme::event(evenement);
 }
 
 void FrmSaisie::closeEvent(QCloseEvent* evenement) {

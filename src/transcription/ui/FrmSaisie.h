@@ -54,7 +54,6 @@ class FrmSaisie : public Forme {
     void suivreLecteur();
 
   protected:
-    bool event(QEvent* evenement) override;
     bool eventFilter(QObject* objet, QEvent* evenement) override;
     void closeEvent(QCloseEvent* evenement) override;
 
@@ -70,7 +69,7 @@ class FrmSaisie : public Forme {
     void montrerFiche();
     void montrerThematique();
     void titrer();
-    void reprendreFocus();
+    void placerCurseur();
     bool cacherPour(const std::function<bool()>& ecrire);
     void valider();
     void supprimer();
