@@ -38,6 +38,7 @@ TEST(Rulers, SecondsAreLabelledByTheSpan) {
     EXPECT_EQ(dessin.traits[1], (Trait{200, 0, 200, 120, rvb(64, 64, 64)}));
     ASSERT_EQ(textes(dessin), "1:00:05 1:00:15 ");
     EXPECT_EQ(dessin.inscriptions[0], (Inscription{880, 330, "1:00:05", rvb(64, 64, 64), 7}));
+    EXPECT_EQ(dessinerRegleSecondes(0, 3164.953, 3006).inscriptions.size(), 26U) << "marks are thinned";
     for (const auto& [duree, pas] :
          {std::pair(300, 10), {600, 15}, {601, 30}, {2400, 60}, {2401, 120}, {4801, 300}})
         EXPECT_EQ(pasEtiquettes(duree), pas) << duree;
