@@ -9,7 +9,7 @@
 #include "window/ui/BarreDefilement.h"
 #include "window/ui/Glace.h"
 
-#include <QCloseEvent>
+#include <QEvent>
 #include <QLabel>
 #include <QTimer>
 #include <utility>
@@ -144,8 +144,7 @@ void FrmCorpus::croix() {
 }
 
 void FrmCorpus::closeEvent(QCloseEvent* evenement) {
-    garder([this] { fenetres_.finir(); });
-    evenement->setAccepted(!isVisible());
+    finirPar(*evenement);
 }
 
 /// Windows that are open over this one stay in front of it.
