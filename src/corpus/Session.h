@@ -102,7 +102,7 @@ struct EtatCorpus {
     std::vector<Texte> ThmCode, ThmCouleur, ThmNom; ///< rows 1 to NbThm
     float NbThm = 0;
     std::vector<std::int16_t> ThmVisible;    ///< rows 1 to NbThm; 1: shown
-    float HauteurEntretien = 0;              ///< twips; 0: computed at the next opening
+    float HauteurEntretien = 0;              ///< twips; 0: computed by the next opening or redraw
     bool TailleReelle = false;               ///< bars in proportion to their durations
     std::vector<ExtraitsEntretien> extraits; ///< by slot, as Entretiens
     std::vector<ExtraitsEntretien>
