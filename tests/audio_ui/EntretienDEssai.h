@@ -37,7 +37,6 @@ class EntretienDEssai : public Scene {
         verbes["tic"] = [this](const std::string& timer) {
             timer == "Timer1" ? visu->Timer1_Tick() : visu->Timer3_Tick();
         };
-        verbes["ecoule"] = [this](const std::string& secondes) { hote.media.avancer(std::stod(secondes)); };
         verbes["saisie"] = [this](const std::string& etat) {
             fenetres.enSaisie = etat == "entamée";
             fenetres.montrer(Fenetre::FrmSaisie);

@@ -198,6 +198,7 @@ inline Scene::Scene() {
               {"tape", [this](S texte) { ecrire(QString::fromStdString(texte)); }},
               {"colle", [this](S texte) { coller(texte); }},
               {"position", [this](S secondes) { hote.media.currentPosition(std::stod(secondes)); }},
+              {"ecoule", [this](S secondes) { hote.media.avancer(std::stod(secondes)); }},
               {"pause", [this](S) { hote.media.pause(); }},
               {"attend", [](S) { QApplication::processEvents(); }},
               {"sourd", [this](S) { hote.media.sansSon = true; }},

@@ -78,10 +78,8 @@ class SaisieDEssai : public Scene {
             QApplication::sendEvent(&controle(nom), &entree);
         };
         verbes["revient"] = [this](const std::string&) {
-            QEvent activation(QEvent::WindowActivate);
-            QApplication::sendEvent(saisie.get(), &activation);
+            QApplication::sendEvent(saisie.get(), std::make_unique<QEvent>(QEvent::WindowActivate).get());
         };
-        verbes["ecoule"] = [this](const std::string& secondes) { hote.media.avancer(std::stod(secondes)); };
         verbes["vitesse"] = [this](const std::string& facteur) { hote.media.rate(std::stod(facteur)); };
         verbes["pastilles"] = [this](const std::string&) {
             for (int i = 0; i < 14; ++i)
