@@ -4,6 +4,7 @@
 #include "textfile/nombres.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace vermo {
@@ -47,12 +48,16 @@ std::optional<GesteVue> relacher(PriseVue& prise, Twips x, Twips W) {
     return GesteVue{std::exchange(prise.GlisseVueDebut, 0), x};
 }
 
+bool estBulle(const Element* sous) {
+    return sous && (sous->controle == Controle::ImgBulleBlanche || sous->controle == Controle::ImgBulleBas);
+}
+
 GesteZoom presser(PriseZoom& prise, const Element* sous, Twips x) {
-    if (!sous) {
-        prise = {.tenue = true, .GlisseZoomDebut = x};
+    if (!sous || estBulle(sous)) {
+        prise = {.tenue = true, .extrait = sous ? numero(*sous) : 0, .GlisseZoomDebut = x, .presse = x};
         return {};
     }
-    prise = {true, sous->controle, sous->index, numero(*sous), sous->cadre.gauche, prise.GlisseZoomDebut};
+    prise = {true, sous->controle, sous->index, numero(*sous), sous->cadre.gauche, prise.GlisseZoomDebut, x};
     if (sous->controle != Controle::LbltxtXtrZ) return {};
     return {.acte = ActeZoom::Ecouter, .x = x};
 }
@@ -60,7 +65,7 @@ GesteZoom presser(PriseZoom& prise, const Element* sous, Twips x) {
 GesteZoom relacher(PriseZoom& prise, Twips x, bool marque) {
     const PriseZoom avant = std::exchange(prise, {.GlisseZoomDebut = prise.GlisseZoomDebut});
     if (!avant.tenue) return {};
-    if (poigneeTenue(avant))
+    if (avant.controle == Controle::ImgBulleInt)
         return {.acte = ActeZoom::Borner,
                 .x = std::max(x, 0.0),
                 .extrait = avant.extrait,
@@ -68,7 +73,10 @@ GesteZoom relacher(PriseZoom& prise, Twips x, bool marque) {
     if (avant.controle == Controle::LblXtrZ && x > avant.gauche)
         return {.acte = ActeZoom::Elargir, .x = x - avant.gauche, .index = avant.index};
     if (avant.controle != Controle::Aucun || x < 0) return {};
-    return surLaBande(std::exchange(prise.GlisseZoomDebut, 0), x, marque);
+    const Twips debut = std::exchange(prise.GlisseZoomDebut, 0);
+    if (avant.extrait != 0 && std::abs(x - avant.presse) < SEUIL_GLISSE)
+        return {.acte = ActeZoom::Ouvrir, .extrait = avant.extrait};
+    return surLaBande(debut, x, marque);
 }
 
 bool poigneeTenue(const PriseZoom& prise) {

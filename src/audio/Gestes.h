@@ -39,6 +39,7 @@ struct PriseZoom {
     int index = 0, extrait = 0;          ///< of the piece, and of what it shows
     Twips gauche = 0;                    ///< of the piece
     Twips GlisseZoomDebut = 0;           ///< where a drag began
+    Twips presse = 0;                    ///< where the button went down
     bool operator==(const PriseZoom&) const = default;
 };
 
@@ -50,6 +51,7 @@ enum class ActeZoom {
     Creer,    ///< an extract from `debut` to `x`
     Borner,   ///< bound of `extrait` to `x`
     Elargir,  ///< label `index` as wide as `x`
+    Ouvrir,   ///< `extrait`
 };
 struct GesteZoom {
     ActeZoom acte = ActeZoom::Aucun;
@@ -59,6 +61,10 @@ struct GesteZoom {
     int index = 0;
     bool operator==(const GesteZoom&) const = default;
 };
+
+/// A piece of a bubble that is neither handle nor text: the band under it is dragged, a click opens the
+/// extract.
+bool estBulle(const Element* sous);
 
 /// A press on a bubble's text plays from there at once.
 GesteZoom presser(PriseZoom& prise, const Element* sous, Twips x);

@@ -62,6 +62,15 @@ int enPixels(Twips twips, double densite) {
     return std::max(1, static_cast<int>(arrondi(twips * densite)));
 }
 
+/// Brings Y to the picture's own height. In stereo the zoom band's mid line falls the faster the higher the
+/// band is: where the wave would leave it, it is made to fill it.
+double facteurDe(const DemandeOnde& demande, const EnTeteWav& entete, const Echelles& echelles) {
+    if (demande.vue == Vue::Picture1) return 1;
+    const double facteur = demande.hauteur / demande.hauteurVue;
+    if (demande.vue != Vue::Pict_zoom || entete.NbCanaux != 2) return facteur;
+    return std::min(facteur, demande.hauteur / (2.0 * echelles.MilieuCanal[0]));
+}
+
 } // namespace
 
 Echelles calculerEchelles(const EnTeteWav& entete, long HauteurCible) {
@@ -123,8 +132,8 @@ EnTeteWav dessinerOnde(Bitmap8& image, std::uint8_t indice, const DemandeOnde& d
         lirePoints(fichier, entete, demande.empan, LargeurCible, points, avance.suite());
     }
     convertirPoints(points, entete, echelles, LargeurCible);
-    const double facteurY = demande.vue == Vue::Picture1 ? 1 : demande.hauteur / demande.hauteurVue;
-    tracerOnde(image, indice, demande.vue, points, entete, LargeurCible, facteurY, demande.densite);
+    tracerOnde(image, indice, demande.vue, points, entete, LargeurCible, facteurDe(demande, entete, echelles),
+               demande.densite);
     return entete;
 }
 

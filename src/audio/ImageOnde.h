@@ -35,7 +35,8 @@ struct Echelles {
 Echelles calculerEchelles(const EnTeteWav& entete, long HauteurCible);
 
 /// Height for the zoom band: with 2 channels its own, divided by 3 (the "2,8" of the design, which counts as
-/// 3 in every locale); else the overview's. The drawn Y are brought to the band's height afterwards.
+/// 3 in every locale); else the overview's. The drawn Y are brought to the band's height afterwards, and kept
+/// within it.
 long hauteurCibleZoom(const EnTeteWav& entete, Twips hauteurZoom, Twips hauteurVue);
 
 /// Turns samples into Y coordinates, for the first NbCanaux x largeur - 1 elements of at most two rows; the

@@ -50,15 +50,18 @@ int pasEtiquettes(double DureeZoom) {
 Dessin dessinerRegleSecondes(double DebutZoom, double DureeZoom, Twips largeur) {
     Dessin dessin;
     if (!(DureeZoom > 0) || !(largeur > 0)) return dessin;
+    dessin.bord = largeur;
     const Twips s = largeur / DureeZoom;
-    const long pas = pasVisible(s);
-    const int etiquettes = pasEtiquettes(DureeZoom);
-    for (long i = 1; i <= arrondi(DureeZoom) + 1; i += pas) {
+    const long pas = pasVisible(s), etiquettes = pasEtiquettes(DureeZoom);
+    const long marques = arrondi(DureeZoom) + 1;
+    for (long i = 1; i <= marques; i += pas) {
         const Twips x = static_cast<double>(i) * s;
         dessin.traits.push_back({x, 0, x, 120, ENCRE_REGLE});
-        if (i % etiquettes == 0)
-            dessin.inscriptions.push_back(
-                {x - 120, 330, HeureTexte(DebutZoom + static_cast<double>(i)), ENCRE_REGLE, 7});
+    }
+    for (long i = etiquettes; i <= marques; i += etiquettes) {
+        const auto secondes = static_cast<double>(i);
+        dessin.inscriptions.push_back(
+            {secondes * s - 120, 330, HeureTexte(DebutZoom + secondes), ENCRE_REGLE, 7});
     }
     return dessin;
 }

@@ -20,8 +20,8 @@ Dessin dessinerRegleMinutes(double DureeFichier, Twips largeur, std::string_view
 /// Seconds between two labels of the zoom's ruler.
 int pasEtiquettes(double DureeZoom);
 
-/// The second ruler of a span: a mark a second, counted from the span's left edge, and at some of them the
-/// time.
+/// The second ruler of a span: a mark a second, counted from the span's left edge, and at some seconds, mark
+/// or not, the time, which is kept within `largeur`.
 Dessin dessinerRegleSecondes(double DebutZoom, double DureeZoom, Twips largeur);
 
 } // namespace vermo

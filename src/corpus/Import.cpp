@@ -182,6 +182,7 @@ void ajouterEntretien(Session& session, const Texte& nom, double duree) {
     if (corpus.NbEntretiens >= ENTRETIENS_MAX)
         throw FauteExecution("Un corpus tient au plus " + std::to_string(ENTRETIENS_MAX) + " entretiens.",
                              corpus.CheminCorpus);
+    if (corpus.NbEntretiens == 0) corpus.HauteurEntretien = 0; // what it was without a row says nothing
     corpus.Entretiens.resize(static_cast<std::size_t>(corpus.NbEntretiens) + 2);
     corpus.extraits.resize(corpus.Entretiens.size());
     ++corpus.NbEntretiens;

@@ -153,7 +153,7 @@ void disposerPistes(const Session& session, const VueFrise& vue, Elements& sorti
 }
 
 Texte compteThematiques(const EtatCorpus& corpus) {
-    const int nombre = static_cast<int>(corpus.NbThm);
+    const int nombre = corpus.ouvertureInachevee ? 0 : nombreThematiques(corpus);
     int allumees = 0;
     for (int rang = 1; rang <= nombre; ++rang)
         allumees += thematiqueVisible(corpus, rang) ? 1 : 0;

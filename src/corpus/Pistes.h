@@ -21,7 +21,7 @@ bool thematiqueVisible(const EtatCorpus& corpus, int rang);
 /// duration 0 has no bars.
 void disposerPistes(const Session& session, const VueFrise& vue, Elements& sortie);
 
-/// "Thématiques  (n/N)" and "Entretiens  (n/N)".
+/// "Thématiques  (n/N)" and "Entretiens  (n/N)", "(0/0)" while no corpus is open or after an opening failed.
 Texte compteThematiques(const EtatCorpus& corpus);
 Texte compteEntretiens(const EtatCorpus& corpus);
 

@@ -102,7 +102,7 @@ struct EtatCorpus {
     std::vector<Texte> ThmCode, ThmCouleur, ThmNom; ///< rows 1 to NbThm
     float NbThm = 0;
     std::vector<std::int16_t> ThmVisible;    ///< rows 1 to NbThm; 1: shown
-    float HauteurEntretien = 0;              ///< twips; 0: computed at the next opening
+    float HauteurEntretien = 0;              ///< twips; 0: computed by the next opening or redraw
     bool TailleReelle = false;               ///< bars in proportion to their durations
     std::vector<ExtraitsEntretien> extraits; ///< by slot, as Entretiens
     std::vector<ExtraitsEntretien>
@@ -165,8 +165,9 @@ struct EtatTranscription {
     bool DicteeActive = false, DicteeAuto = false, BoucleDictee = false;
     double PortionDebut = 0;
     std::int16_t PortionFin = 0; ///< whole seconds
-    float PortionSecondes = 5;
-    float Compteur = 0; ///< seconds since the last key
+    float PortionSecondes = 5;   ///< as the last switching on of the dictation read LblSec
+    int LblSec = 5;              ///< its caption
+    float Compteur = 0;          ///< seconds since the last key
     bool operator==(const EtatTranscription&) const = default;
 };
 

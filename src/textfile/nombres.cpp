@@ -107,7 +107,8 @@ std::string formeExposant(const Decimal& d, char separateur) {
 std::string formeFixe(const Decimal& d, char separateur) {
     const auto nombre = static_cast<int>(d.chiffres.size());
     if (d.exposant < 0)
-        return separateur + std::string(static_cast<std::size_t>(-1 - d.exposant), '0') + d.chiffres;
+        return std::string("0") + separateur + std::string(static_cast<std::size_t>(-1 - d.exposant), '0') +
+               d.chiffres;
     const auto entiers = static_cast<std::size_t>(d.exposant + 1);
     if (nombre <= d.exposant + 1) return d.chiffres + std::string(entiers - d.chiffres.size(), '0');
     return d.chiffres.substr(0, entiers) + separateur + d.chiffres.substr(entiers);

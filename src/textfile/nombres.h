@@ -28,8 +28,8 @@ std::uint32_t couleur(std::string_view texte);
 /// Nearest whole number, halves to the even one.
 long arrondi(double valeur) noexcept;
 
-/// A 32-bit float as a print statement writes it: at most 7 significant digits, no zero before the separator
-/// where it can be spared (".5"), one blank (or "-") before, one blank after. From 1E+07 up, below 1E-04, and
+/// A 32-bit float as a print statement writes it: at most 7 significant digits, a zero before the separator
+/// of a number below one ("0.5"), one blank (or "-") before, one blank after. From 1E+07 up, below 1E-04, and
 /// where more than 7 decimals would be needed, in the exponent form ("1.234568E+07").
 /// This and the pictures throw FauteExecution on what is no finite number.
 std::string imprimer(float valeur, const Reglages& reglages);

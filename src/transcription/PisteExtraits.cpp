@@ -77,9 +77,7 @@ class Bulle {
     }
 
     void etiquettes(Elements& sortie) const {
-        Element& zone = ajouter(sortie, Controle::LblXtrZ, numero_, dedans_);
-        zone.bulle = codeExtrait(session_, extrait_);
-        zone.sensible = true;
+        ajouter(sortie, Controle::LblXtrZ, numero_, dedans_).bulle = codeExtrait(session_, extrait_);
         titre(sortie);
         ajouter(sortie, Controle::LbltxtXtrZ, numero_, cadreTexte()).sensible = true;
     }
@@ -117,11 +115,11 @@ class Bulle {
         return element;
     }
 
-    Element& piece(Elements& sortie, Controle controle, int index, const Rectangle& cadre) const {
+    void piece(Elements& sortie, Controle controle, int index, const Rectangle& cadre) const {
         Element& element = ajouter(sortie, controle, index, cadre);
         element.rempli = true;
         element.fond = taille_.fond;
-        return element;
+        element.sensible = true;
     }
 
     /// A handle runs down to the picture's edge, so that a bound can be taken anywhere below the bubble's
@@ -129,7 +127,7 @@ class Bulle {
     void poser(Elements& sortie, int index, Twips gauche) const {
         const Rectangle cadre{gauche, taille_.haut, taille_.poignee,
                               std::max(0.0, hauteurZoom_ - taille_.haut)};
-        piece(sortie, Controle::ImgBulleInt, index, cadre).sensible = true;
+        piece(sortie, Controle::ImgBulleInt, index, cadre);
     }
 
     void titre(Elements& sortie) const {

@@ -37,7 +37,8 @@ Elements disposerPiste(const Session& session, Twips largeurPicture1, const Tail
 
 /// Bubbles of the extracts that the span DebutZoom..FinZoom shows, touching a bound not counted. Indexes are
 /// bubble numbers from 1, tags the extracts' numbers; bubble k owns the handles ImgBulleInt[2k - 1] (start)
-/// and ImgBulleInt[2k] (end), which take the mouse, as LblXtrZ, LbltitreXtrZ and LbltxtXtrZ do. LblMot carry
+/// and ImgBulleInt[2k] (end), which take the mouse, as its other pieces, LbltitreXtrZ and LbltxtXtrZ do;
+/// LblXtrZ, which they cover, carries the tooltip. LblMot carry
 /// one word each, numbered through all bubbles, tag its line; words outside the picture or below their bubble
 /// are left out. LbltxtXtrZ frames the words and has no caption of its own.
 Elements disposerBulles(const Session& session, Twips largeurZoom, Twips hauteurZoom,

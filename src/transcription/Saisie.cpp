@@ -74,8 +74,9 @@ Boucle suivreBoucle(Session& session, double position, Twips largeur, bool arret
     Boucle suite;
     if (etat.SaisieDuree == 0) return suite;
     suite.ouverte = true;
-    if (position > etat.SaisieFin || (arrete && position >= etat.SaisieFin)) {
-        const bool reprise = etat.BoucleDictee && etat.DicteeActive;
+    if (position > etat.SaisieFin || (arrete && position > etat.SaisieDebut)) {
+        const bool reste = !arrete || etat.PortionDebut < position;
+        const bool reprise = etat.BoucleDictee && etat.DicteeActive && reste;
         position = reprise ? etat.PortionDebut : etat.SaisieDebut;
         suite.position = position;
         suite.pause = !reprise;

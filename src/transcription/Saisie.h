@@ -43,8 +43,8 @@ struct Boucle {
 };
 
 /// Decides one tick from the player's position; sets Compteur to 0 where a portion ends.
-/// `arrete`: the player has stopped at the recording's end, beyond which no position lies; a span that ends
-/// there is then over.
+/// `arrete`: the player has stopped at the recording's end, beyond which no position lies; the span is then
+/// over, wherever its rounded end stands.
 Boucle suivreBoucle(Session& session, double position, Twips largeur, bool arrete = false);
 
 // --- Dictation by portions

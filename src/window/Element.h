@@ -99,6 +99,7 @@ struct Inscription {
 struct Dessin {
     std::vector<Trait> traits;
     std::vector<Inscription> inscriptions;
+    Twips bord = 0; ///< a text that would run over it ends there; 0: none does
     bool operator==(const Dessin&) const = default;
 };
 

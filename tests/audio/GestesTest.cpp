@@ -55,7 +55,7 @@ TEST(Gestures, TheOverviewShowsADragAndTakesItsRelease) {
 TEST(Gestures, ThePressOnTheZoomBandTellsWhatItsReleaseMeans) {
     const Element debut = piece(Controle::ImgBulleInt, 3, 200), fin = piece(Controle::ImgBulleInt, 4, 290),
                   bord = piece(Controle::ImgBulleInt, 1, 0), avant = piece(Controle::ImgBulleInt, 1, -50),
-                  label = piece(Controle::LblXtrZ, 2, 210);
+                  label = piece(Controle::LblXtrZ, 2, 210), bulle = piece(Controle::ImgBulleBas, 5, 200);
     const auto cherche = [](Twips x) { return GesteZoom{.acte = ActeZoom::Chercher, .x = x}; };
     const auto borne = [](bool laquelle, Twips x) {
         return GesteZoom{.acte = ActeZoom::Borner, .x = x, .extrait = 7, .borneDebut = laquelle};
@@ -75,10 +75,12 @@ TEST(Gestures, ThePressOnTheZoomBandTellsWhatItsReleaseMeans) {
                {nullptr, 250, -1, false, {}},
                {&debut, 250, 900, false, borne(true, 900)},
                {&fin, 300, -40, false, borne(false, 0)}, // held at the band's left edge
-               {&bord, 20, 900, false, {}},              // a handle at X = 0 counts as none
+               {&bord, 20, 900, false, borne(true, 900)},
                {&avant, 20, 900, false, borne(true, 900)},
                {&label, 250, 900, false, {.acte = ActeZoom::Elargir, .x = 690, .index = 2}},
-               {&label, 250, 210, false, {}}};
+               {&label, 250, 210, false, {}},
+               {&bulle, 250, 279, false, {.acte = ActeZoom::Ouvrir, .extrait = 7}},
+               {&bulle, 250, 220, false, cherche(220)}};
     for (const auto& c : cas) {
         PriseZoom prise;
         EXPECT_EQ(relacher(prise, c.relache, false), GesteZoom()); // pressed elsewhere

@@ -99,7 +99,8 @@ TEST_F(Wave, LevelsStandAtTheirRowsOfThePicture) {
     } cas[] = {{1, 16, 32767, -32768, Vue::Picture1, 1500, {6, 6}, {1494, 1494}},
                {1, 16, 43, -44, Vue::Picture1, 1500, {750, 750}, {751, 751}},
                {2, 16, 0, 20000, Vue::Picture1, 1500, {375, 896}, {375, 896}},
-               {2, 16, 0, 20000, Vue::Pict_zoom, 6000, {2000, 2000}, {2000, 2000}}, // one trace
+               {2, 16, 0, 20000, Vue::Pict_zoom, 6000, {2000, 2000}, {2000, 2000}},  // one trace
+               {2, 16, 0, 20000, Vue::Pict_zoom, 12000, {6000, 6000}, {6000, 6000}}, // else below the band
                {1, 8, 128, 254, Vue::Picture1, 1500, {744, 744}, {0, 0}},
                {2, 8, 128, 1, Vue::Picture1, 1500, {372, 1497}, {372, 1497}}};
     for (const auto& c : cas) {

@@ -44,6 +44,7 @@ TEST(Rulers, SecondsAreLabelledByTheSpan) {
     for (const auto& [duree, marques] : {std::pair(300, 301U), {301, 151}, {600, 201}, {0, 0}})
         EXPECT_EQ(dessinerRegleSecondes(0, duree, 300).traits.size(), marques) << duree;
     EXPECT_EQ(dessinerRegleSecondes(0, 20, 0), Dessin());
+    EXPECT_EQ(dessinerRegleSecondes(0, 3164.953, 3006).inscriptions.size(), 26U) << "marks are thinned";
     for (const auto& [duree, pas] :
          {std::pair(300, 10), {600, 15}, {601, 30}, {2400, 60}, {2401, 120}, {4801, 300}})
         EXPECT_EQ(pasEtiquettes(duree), pas) << duree;

@@ -41,8 +41,6 @@ class EntretienDEssai : public Scene {
             fenetres.enSaisie = etat == "entamée";
             fenetres.montrer(Fenetre::FrmSaisie);
         };
-        verbes["tardif"] = [this](const std::string&) { hote.media.tardif = true; };
-        verbes["reponse"] = [this](const std::string&) { hote.media.repondre(); };
     }
     /// Writes a transcript with these spans, coded in turn 001 and 002.
     void transcrire(const std::vector<Bornes>& extraits, const Texte& texte = "Un texte.") {

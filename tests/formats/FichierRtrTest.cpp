@@ -78,7 +78,7 @@ TEST(TranscriptFile, WritesRoundedTimesAndTheChosenExtracts) {
                                            {"1.005", "12", "004 Vie", "t"},
                                            {"2e1", "3", "", "\r"},
                                            {"0", "4", "000", "z"}};
-    const std::string tete = " .5 \r\n";
+    const std::string tete = " 0.5 \r\n";
     const std::string un = "::-0.50::000\r\n\r\n::1.00::\r\n", deux = "::1.01::004 Vie\r\nt\r\n::12.00::\r\n",
                       trois = "::20.00::\r\n\r\r\n::3.00::\r\n::0.00::000\r\nz\r\n::4.00::\r\n";
     EXPECT_EQ(ecrireApres(tete, extraits, {}, POINT), tete + un + deux + trois);

@@ -45,6 +45,7 @@ TEST_F(JourneysTest, TheLateAnswerOfThePlayerIsShownWhereItBelongs) {
     faire("clic Frm_entretiens@lblfich2; double Frm_entretiens@lblfich2");
     EXPECT_FALSE(controle("ImgMedia4").isVisible());
     hote.media.pret();
+    faire("attend");
     EXPECT_TRUE(controle("ImgMedia4").isVisible());
     EXPECT_EQ(hote.media.volume(), 40);
     app.decharger(Fenetre::FrmVisu);

@@ -99,6 +99,7 @@ TEST_F(LecteurReel, WhatCantBePlayedSaysWhyAndTheNextFilePlays) {
 TEST_F(LecteurReel, PlaysPausesAndHoldsItsPlace) {
     ASSERT_TRUE(charger(enregistrement(5)));
     jouer();
+    EXPECT_TRUE(lecteur.enLecture()) << "before it is told";
     ASSERT_TRUE(attendrePosition(0.3));
     lecteur.pause();
     const double pose = lecteur.currentPosition();

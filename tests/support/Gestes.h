@@ -15,9 +15,8 @@ namespace vermo::essai {
 ///  - clic, droit, double, survole CONTROL[@PLACE]; glisse CONTROL@PLACE>PLACE; roule CONTROL NOTCHES [Ctrl]
 ///  - focus CONTROL; touche KEY; tape TEXT; colle TEXT: where the focus is, in the topmost window or that of
 ///    the last `focus`
-///  - repondre ANSWER [PART-OF-THE-QUESTION], before the question comes; position SECONDS; pause; attend
-///  (once
-///    through the waiting events)
+///  - repondre ANSWER [PART-OF-THE-QUESTION], before the question comes; position SECONDS; ecoule SECONDS
+///    (while it plays); pause; attend (once through the waiting events)
 ///  - volume PART (of the session); sourd (no sound output); panne disque (every write fails); perdre FILE;
 ///    muer FILE (a folder stands in its place); and what the window's test adds
 /// A PLACE is an item of a canvas ("LblXtr2"), "x,y" in pixels, or a number that the test makes a place of.

@@ -2,22 +2,29 @@
 #include "platform/LecteurMedia.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace vermo::essai {
 
 /// A player whose clock is moved by hand. A recording is ready as soon as it is loaded, unless `lent` is set:
-/// then `pret()` ends the loading.
+/// then `pret()` ends the loading. Its state changes within the call, and as with the real one its listeners
+/// hear of it later only: in `dire()`, which `reveil` is asked for.
 class LecteurSimule : public LecteurMedia {
   public:
     std::map<Utf8, double> durees; ///< seconds, by the name alone
     double dureeParDefaut = 60;    ///< of a recording that the table doesn't name; 0: it can't be loaded
     bool lent = false;
     bool sansSon = false;
-    bool tardif = false; ///< `play` is answered by `repondre()` only
+    std::function<void()> reveil; ///< there is a change to tell
 
-    void repondre() { passer(EtatLecture::Lecture); }
+    void dire() {
+        for (const EtatLecture etat : std::exchange(aDire_, {}))
+            annoncerEtat(etat);
+    }
 
     /// Lets `secondes` of the clock pass. At the end of the recording it stops there.
     void avancer(double secondes) {
@@ -42,7 +49,7 @@ class LecteurSimule : public LecteurMedia {
         jouerUneFoisPret_ = etat_ == EtatLecture::Chargement;
         if (duree_ <= 0) return;
         if (position_ >= duree_) position_ = 0;
-        if (!tardif) passer(EtatLecture::Lecture);
+        passer(EtatLecture::Lecture);
     }
     void pause() override {
         jouerUneFoisPret_ = false;
@@ -84,11 +91,13 @@ class LecteurSimule : public LecteurMedia {
     void passer(EtatLecture etat) {
         if (etat == etat_) return;
         etat_ = etat;
-        annoncerEtat(etat);
+        aDire_.push_back(etat);
+        if (reveil) reveil();
     }
 
     Utf8 url_, erreur_;
     EtatLecture etat_ = EtatLecture::Indefini;
+    std::vector<EtatLecture> aDire_;
     double position_ = 0, duree_ = 0, vitesse_ = 1;
     int volume_ = 100;
     bool jouerUneFoisPret_ = false;

@@ -76,6 +76,7 @@ class Scene {
                     (c->focusPolicy() != Qt::NoFocus || qobject_cast<const QAbstractButton*>(c)))
                     essais.offerts[forme->objectName().toStdString()].insert(c->objectName().toStdString());
         action->second(quoi);
+        QCoreApplication::sendPostedEvents(&boucle_); // a person's next gesture comes later
     }
 
     QPoint place(const QWidget& controle, const std::string& ou) {
@@ -173,12 +174,17 @@ class Scene {
                                 quoi.substr(std::min(blanc + 1, quoi.size())));
     }
 
+    QObject boucle_; ///< of events, in which the player tells what it does
     std::unique_ptr<Pannes> panne_;
     std::size_t dits_ = 0;
     QPointer<QWidget> clavier_; ///< given the focus: keys go to its window while it stands
 };
 
 inline Scene::Scene() {
+    hote.media.reveil = [this] {
+        QMetaObject::invokeMethod(
+            &boucle_, [this] { hote.media.dire(); }, Qt::QueuedConnection);
+    };
     hote.annonces.surAvis = [this](const Avis& avis) { fenetres.annoncer(avis); };
     using S = const std::string&;
     verbes = {{"clic", [this](S ou) { cliquer(ou); }},
@@ -192,6 +198,7 @@ inline Scene::Scene() {
               {"tape", [this](S texte) { ecrire(QString::fromStdString(texte)); }},
               {"colle", [this](S texte) { coller(texte); }},
               {"position", [this](S secondes) { hote.media.currentPosition(std::stod(secondes)); }},
+              {"ecoule", [this](S secondes) { hote.media.avancer(std::stod(secondes)); }},
               {"pause", [this](S) { hote.media.pause(); }},
               {"attend", [](S) { QApplication::processEvents(); }},
               {"sourd", [this](S) { hote.media.sansSon = true; }},

@@ -72,11 +72,11 @@ TEST(Numbers, ValuesNeverFailAndColoursDo) {
 TEST(Numbers, AreWritten) {
     for (const Reglages& reglages : {virgule, point}) {
         const auto imprime = [&](double v) { return imprimer(static_cast<float>(v), reglages); };
-        EXPECT_EQ(
-            tous({-0., 125.5, .5, -.5, 1e10, .001, 1e-5, 9999999, 1e7, 12345678}, imprime),
-            sous(" 0 | 125.5 | .5 |-.5 | 1E+10 | .001 | 1E-05 | 9999999 | 1E+07 | 1.234568E+07 |", reglages));
+        EXPECT_EQ(tous({-0., 125.5, .5, -.5, 1e10, .001, 1e-5, 9999999, 1e7, 12345678}, imprime),
+                  sous(" 0 | 125.5 | 0.5 |-0.5 | 1E+10 | 0.001 | 1E-05 | 9999999 | 1E+07 | 1.234568E+07 |",
+                       reglages));
         EXPECT_EQ(tous({.01234567, .1234567, 100.05, 3.4e38, 119.99999}, imprime),
-                  sous(" 1.234567E-02 | .1234567 | 100.05 | 3.4E+38 | 120 |", reglages));
+                  sous(" 1.234567E-02 | 0.1234567 | 100.05 | 3.4E+38 | 120 |", reglages));
         const auto image = [&](double v) { return formatDeuxDecimales(v, reglages); };
         EXPECT_EQ(
             tous({0, .125, -.125, -.001, 1.005, 9.995, .004, .005, 1234567.891, .0995, 1e15}, image),

@@ -181,7 +181,7 @@ TEST(Dictation, PortionsAreWholeAndHaveTheirBounds) {
     etat.SaisieDebut = 10;
     allonger(session, 20);
     EXPECT_FALSE(suivreBoucle(session, 20, 1000).pause);
-    EXPECT_TRUE(suivreBoucle(session, 20, 1000, true).pause) << "the recording ends with the span";
+    EXPECT_EQ(suivreBoucle(session, 10, 1000, true).position, std::nullopt) << "the span is behind its end";
     activerDictee(session, 10.6, 5);
     EXPECT_EQ(suivreBoucle(session, 16, 1000).position, std::nullopt);
     EXPECT_EQ(portionSuivante(session, 4), 15);

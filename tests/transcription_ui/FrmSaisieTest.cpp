@@ -77,6 +77,9 @@ class SaisieDEssai : public Scene {
             QEvent entree(QEvent::Enter);
             QApplication::sendEvent(&controle(nom), &entree);
         };
+        verbes["revient"] = [this](const std::string&) {
+            QApplication::sendEvent(saisie.get(), std::make_unique<QEvent>(QEvent::WindowActivate).get());
+        };
         verbes["vitesse"] = [this](const std::string& facteur) { hote.media.rate(std::stod(facteur)); };
         verbes["pastilles"] = [this](const std::string&) {
             for (int i = 0; i < 14; ++i)
@@ -146,7 +149,7 @@ TEST(FrmSaisie, ThePlayerIsSeenOnItsButton) {
     const auto icone = [&] { return essai.controle("ImgMedia1").grab().toImage(); };
     essai.hote.media.play();
     const QImage joue = icone();
-    essai.hote.media.pause();
+    essai.faire("pause");
     EXPECT_NE(icone(), joue);
 }
 

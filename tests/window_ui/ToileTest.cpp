@@ -45,6 +45,18 @@ TEST(ToileTest, EdgesFallOnPixelsAndTheSurfaceScrolls) {
     EXPECT_EQ(peinte(toile, 2).pixelColor(9, 5), QColor(Qt::red)) << "two device pixels to the pixel";
 }
 
+TEST(ToileTest, ATextOfARulerEndsAtTheEdge) {
+    Toile toile(QStringLiteral("Pict_tpsZ"));
+    taille(toile, 200, 20).fond(BLANC);
+    const auto image = [&](Twips x, Twips bord) {
+        toile.dessin({.traits = {}, .inscriptions = {{x, 0, "1:00:00", 0, 7}}, .bord = bord});
+        return peinte(toile);
+    };
+    EXPECT_EQ(image(2880, 3000), image(2995, 3000));
+    EXPECT_NE(image(2880, 3000), image(2880, 0));
+    EXPECT_EQ(image(1500, 3000), image(1500, 0)) << "where there is room it stays";
+}
+
 TEST(ToileTest, NarrowBarsAreFilledAsThePainterFillsThem) {
     Toile toile(QStringLiteral("Picture1"));
     taille(toile, 200, 40).fond(rvb(64, 70, 90));

@@ -77,6 +77,7 @@ bool FrmVisu::OuvrirEntretienVue(Ouverture ouverture) {
         if (entretien().Reprise != 0) media.currentPosition(entretien().Reprise);
     }
     if (!attendreDuree()) return false;
+    deplacements_ = media.ecouterDeplacements([this] { garder([this] { suivreArret(); }); });
     // The screen makes room for the window while its pictures are drawn; what takes long is drawn before.
     if (fichierExiste(cheminCache(media.URL()))) show();
 
@@ -124,8 +125,11 @@ void FrmVisu::commencerFondu(Ouverture ouverture) {
 
 void FrmVisu::changeEvent(QEvent* evenement) {
     Forme::changeEvent(evenement);
-    if (evenement->type() == QEvent::ActivationChange && isActiveWindow())
-        garder([this] { DessinerVolume(); });
+    if (evenement->type() != QEvent::ActivationChange || !isActiveWindow()) return;
+    garder([this] {
+        DessinerVolume();
+        suivreArret(); // FrmSaisie may have sent it elsewhere
+    });
 }
 
 void FrmVisu::closeEvent(QCloseEvent* evenement) {

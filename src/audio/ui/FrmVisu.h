@@ -109,6 +109,8 @@ class FrmVisu : public Forme {
     void marquer();
     void ouvrirSaisie(Bornes span);
     void montrerVolume();
+    SuiviLecture montrerPosition(double p);
+    void suivreArret(); ///< shows where a player that doesn't play has been sent
     void direEtatSon();
     bool ramenerSaisie(bool enCours);
     bool quitter();
@@ -140,10 +142,11 @@ class FrmVisu : public Forme {
     QTimer Timer1_, Timer3_, TimerPlus_, TimerMoins_;
 
     PointsOnde PointsVue_, PointsZoom_;
-    Ecoute ecoute_;              ///< of the player, once an interview is opened
-    bool dessinEnCours_ = false; ///< the progress shown meanwhile lets other ticks in
-    bool ferme_ = false;         ///< the closing fade runs, or is done
-    bool marqueDemarre_ = false; ///< the Enter key has started the player and set the mark
+    Ecoute ecoute_, deplacements_; ///< of the player, once an interview is opened
+    bool dessinEnCours_ = false;   ///< the progress shown meanwhile lets other ticks in
+    bool ferme_ = false;           ///< the closing fade runs, or is done
+    bool departADire_ = false;     ///< the next start that the player tells of is that of the Enter key
+    bool finRefusee_ = false; ///< the Enter key came at or before the mark, and nothing since was beyond it
 };
 
 } // namespace vermo

@@ -55,6 +55,9 @@ void FrmVisu::suivreGeste(const GesteZoom& geste) {
         return creerExtrait({tempsZoom(audio, geste.debut, Z), tempsZoom(audio, geste.x, Z)});
     case ActeZoom::Borner:
         return poserBorne(geste.extrait, geste.borneDebut, tempsZoom(audio, geste.x, Z));
+    case ActeZoom::Ouvrir:
+        cacherSelections();
+        return ouvrirExtrait(geste.extrait);
     default:
         return;
     }

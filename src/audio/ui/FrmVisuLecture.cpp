@@ -1,11 +1,14 @@
 #include "audio/Zoom.h"
 #include "audio/ui/FrmVisu.h"
 #include "corpus/AnalyserEntretiens.h"
+#include "textfile/nombres.h"
 #include "transcription/Retranscription.h"
 #include "window/ui/Glace.h"
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <algorithm>
+#include <utility>
 
 namespace vermo {
 
@@ -16,26 +19,44 @@ void FrmVisu::Timer1_Tick() {
     if (ferme_ || !media.enLecture() || fenetres_.visible(Fenetre::FrmSaisie)) return;
     EtatAudio& audio = session_.audio;
     const double p = media.currentPosition();
-    const SuiviLecture suivi = suivreLecture(audio, p, Picture1_->largeurTwips(), Pict_zoom_->largeurTwips());
-    LblCompteur_->setText(versQt(suivi.LblCompteur));
-    Pict_zoom_->curseur(suivi.largeurCurseurZoom);
+    const SuiviLecture suivi = montrerPosition(p);
     if (suivi.TotalSelect) Picture1_->montrerSelection(*suivi.TotalSelect);
     if (suivi.ZoomSelect) Pict_zoom_->montrerSelection(*suivi.ZoomSelect);
     if (suivi.pageFinie && !Pict_zoom_->glisse()) {
         tournerPage(audio, p);
         apresZoom();
     }
-    Picture1_->curseur(suivi.gaucheCurseur);
     entretien().Reprise = suivi.Reprise;
+}
+
+SuiviLecture FrmVisu::montrerPosition(double p) {
+    const SuiviLecture suivi =
+        suivreLecture(session_.audio, p, Picture1_->largeurTwips(), Pict_zoom_->largeurTwips());
+    LblCompteur_->setText(versQt(suivi.LblCompteur));
+    Pict_zoom_->curseur(suivi.largeurCurseurZoom);
+    Picture1_->curseur(suivi.gaucheCurseur);
+    return suivi;
+}
+
+/// A player that stands still is followed by no tick.
+void FrmVisu::suivreArret() {
+    const LecteurMedia& media = plateforme_.media;
+    if (!deplacements_ || ferme_ || media.enLecture() || fenetres_.visible(Fenetre::FrmSaisie)) return;
+    montrerPosition(media.currentPosition());
 }
 
 void FrmVisu::direEtatSon() {
     const LecteurMedia& media = plateforme_.media;
+    const double marque = session_.audio.MarqueDebut;
+    finRefusee_ = finRefusee_ && marque != 0 && media.currentPosition() <= marque;
     const Utf8 erreur = media.erreur();
-    const bool alerte = !erreur.empty() || media.muet();
-    const QString texte = !erreur.empty() ? utf8VersQt(erreur)
-                          : media.muet()  ? QStringLiteral("Pas de sortie son : la lecture est silencieuse")
-                                          : commandes_.indices();
+    const bool alerte = !erreur.empty() || media.muet() || finRefusee_;
+    const QString texte =
+        !erreur.empty() ? utf8VersQt(erreur)
+        : finRefusee_ ? QStringLiteral("La fin d'un extrait vient après son début, qui reste marqué à %1")
+                            .arg(versQt(HeureTexte(marque)))
+        : media.muet() ? QStringLiteral("Pas de sortie son : la lecture est silencieuse")
+                       : commandes_.indices();
     if (texte == lblEtat_->text()) return;
     QPalette palette = lblEtat_->palette();
     palette.setColor(QPalette::WindowText, couleurQt(alerte ? rvb(255, 196, 110) : theme::TEXTE_DISCRET));
@@ -67,7 +88,7 @@ void FrmVisu::Media_PlayStateChange(EtatLecture etat) {
     const bool joue = enMouvement(etat);
     ImgMedia_[4]->setVisible(joue);
     ImgMedia_[1]->setVisible(!joue);
-    if (!joue || std::exchange(marqueDemarre_, false)) return;
+    if (!joue || std::exchange(departADire_, false)) return;
     session_.audio.MarqueDebut = 0;
     cacherSelections();
 }
@@ -103,18 +124,21 @@ void FrmVisu::apresZoom() {
     DessinerZoom();
 }
 
-/// The player's answer to `play` may come later than the mark: it must not take this mark back.
+/// The player tells later that it plays, and that takes a mark back: not the one that this key keeps. At the
+/// recording's end it starts from 0, so the span's end is read before.
 void FrmVisu::marquer() {
+    constexpr double PREMIER_INSTANT = 0.001; // a mark at 0 would be none
     EtatAudio& audio = session_.audio;
     LecteurMedia& media = plateforme_.media;
-    const bool arrete = !media.enLecture();
-    if (arrete) media.play();
-    if (audio.MarqueDebut == 0) {
-        marqueDemarre_ = arrete && !media.enLecture();
-        audio.MarqueDebut = media.currentPosition();
+    const Bornes span{audio.MarqueDebut, media.currentPosition()};
+    departADire_ = !media.enLecture() || ImgMedia_[4]->isHidden();
+    if (!media.enLecture()) media.play();
+    if (span.debut == 0) {
+        audio.MarqueDebut = std::max(media.currentPosition(), PREMIER_INSTANT);
         return;
     }
-    const Bornes span{audio.MarqueDebut, media.currentPosition()};
+    finRefusee_ = span.fin <= span.debut;
+    if (finRefusee_) return direEtatSon();
     audio.MarqueDebut = 0;
     cacherSelections();
     ouvrirSaisie(span);

@@ -40,6 +40,8 @@ Qt::CursorShape pointeurSur(const Element* element) {
     switch (element->controle) {
     case Controle::ImgBulleInt:
         return Qt::SizeHorCursor;
+    case Controle::ImgBulleBlanche:
+    case Controle::ImgBulleBas:
     case Controle::LbltitreXtrZ:
     case Controle::LbltxtXtrZ:
         return Qt::PointingHandCursor;
@@ -64,7 +66,7 @@ ToileZoom::ToileZoom(const Session& session, QWidget* parent)
     };
     surDoubleClic = [this](const Souris& souris) {
         if (const int k = extraitOuvert(souris.element, true)) return surOuverture(k);
-        presserZoom(souris);
+        if (!estBulle(souris.element)) presserZoom(souris); // its first click has opened it
     };
 }
 

@@ -1,5 +1,6 @@
 #include "corpus/ui/FrmCorpus.h"
 
+#include "corpus/OuvertureCorpus.h"
 #include "corpus/Panneaux.h"
 #include "corpus/Pistes.h"
 #include "corpus/ui/CroixDouble.h"
@@ -9,7 +10,7 @@
 #include "window/ui/BarreDefilement.h"
 #include "window/ui/Glace.h"
 
-#include <QCloseEvent>
+#include <QEvent>
 #include <QLabel>
 #include <QTimer>
 #include <utility>
@@ -24,6 +25,7 @@ void FrmCorpus::surAvis(const Avis& avis) {
 }
 
 void FrmCorpus::RedessinerFrise() {
+    if (nombreLignes(session_.corpus) > 0) calculerHauteur(session_, hauteurFond());
     preparerFrise(session_, plateforme_);
     montrerFrise();
 }
@@ -64,8 +66,7 @@ void FrmCorpus::viderAffichage() {
     LblScroll_->hide();
     LblVide_->hide();
     QTimer::singleShot(0, this, [this] { montrerInvite(); }); // an opening may end here
-    for (QLabel* compte : etq_)
-        compte->clear();
+    montrerComptes();
     ImgOnOffent_->icone(QStringLiteral("ImgOn"));
     ImgOnOffthm_->icone(QStringLiteral("ImgOn"));
 }
@@ -144,8 +145,7 @@ void FrmCorpus::croix() {
 }
 
 void FrmCorpus::closeEvent(QCloseEvent* evenement) {
-    garder([this] { fenetres_.finir(); });
-    evenement->setAccepted(!isVisible());
+    finirPar(*evenement);
 }
 
 /// Windows that are open over this one stay in front of it.

@@ -27,6 +27,9 @@ class FrmIntro : public Forme {
     /// Tells what hinders the sound that is being tested.
     void TimerSon_Tick();
 
+  protected:
+    void closeEvent(QCloseEvent* evenement) override { finirPar(*evenement); }
+
   private:
     void peindreFond();
     void decouper();

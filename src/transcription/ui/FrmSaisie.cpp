@@ -26,7 +26,7 @@ constexpr Fondu FONDU{.pas = 50};
 } // namespace
 
 FrmSaisie::FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent)
-    : Forme("FrmSaisie", session, plateforme, fenetres, parent) {
+    : Forme("FrmSaisie", session, plateforme, fenetres, parent), tagSecondes_(session.transcription.LblSec) {
     setWindowTitle(QStringLiteral("Vermo - Saisie d'un extrait"));
     Picture1_ = new Toile(QStringLiteral("Picture1"), this);
     Picture1_->setAccessibleName(QStringLiteral("Fenêtre de saisie"));
@@ -34,7 +34,6 @@ FrmSaisie::FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetre
     poser(Picture1_, {0, 0, t::LARGEUR_NOUVEL_EXTRAIT, t::HAUTEUR});
     deplacerPar(Picture1_);
     Picture1_->surPression = [this](const Souris&) { TextRtr_->setFocus(); };
-    secondes_ = tagSecondes_ = std::max(1, static_cast<int>(session_.transcription.PortionSecondes));
     creerEntete();
     creerEcoute();
     creerOptions();
@@ -147,7 +146,8 @@ void FrmSaisie::prendrePlace() {
     show();
     raise();
     activateWindow();
-    reprendreFocus();
+    Imgsuppr_->setVisible(!session_.transcription.NouvelExtrait);
+    placerCurseur();
     TextRtr_->setFocus();
 }
 
@@ -161,6 +161,7 @@ void FrmSaisie::preparer() {
     arreterAllongement();
     if (!media.enLecture()) media.play();
     if (session_.audio.VitesseLecture != 0) media.rate(session_.audio.VitesseLecture);
+    if (media.currentPosition() < etat.SaisieDebut) positionner(etat.SaisieDebut);
     Picture2_->setVisible(media.rateDisponible());
     fiche_ = saisie::ficheOuverte(session_);
     montrerFiche();
@@ -230,16 +231,11 @@ void FrmSaisie::colorer() {
     Picture1_->elements(std::move(bandes));
 }
 
-void FrmSaisie::reprendreFocus() {
-    Imgsuppr_->setVisible(!session_.transcription.NouvelExtrait);
+/// At an opening only: who comes back from another window goes on typing where the caret was.
+void FrmSaisie::placerCurseur() {
     QTextCursor curseur = TextRtr_->textCursor();
     curseur.setPosition(std::min(1, int(TextRtr_->toPlainText().size())));
     TextRtr_->setTextCursor(curseur);
-}
-
-bool FrmSaisie::event(QEvent* evenement) {
-    if (evenement->type() == QEvent::WindowActivate) garder([this] { reprendreFocus(); });
-    return Forme::event(evenement);
 }
 
 void FrmSaisie::closeEvent(QCloseEvent* evenement) {

@@ -54,7 +54,6 @@ class FrmSaisie : public Forme {
     void suivreLecteur();
 
   protected:
-    bool event(QEvent* evenement) override;
     bool eventFilter(QObject* objet, QEvent* evenement) override;
     void closeEvent(QCloseEvent* evenement) override;
 
@@ -72,7 +71,7 @@ class FrmSaisie : public Forme {
     void relireExtrait();
     void montrerThematique();
     void titrer();
-    void reprendreFocus();
+    void placerCurseur();
     bool cacherPour(const std::function<bool()>& ecrire);
     void valider();
     void supprimer();
@@ -153,8 +152,7 @@ class FrmSaisie : public Forme {
     Twips curseur_ = 0;   ///< Left of Curseur
     Rectangle portion_{}; ///< ShpDict; no width: hidden
     bool pressionSecondes_ = false, pressionVitesse_ = false;
-    int tagSecondes_ = 5; ///< tag of LblSec
-    int secondes_ = 5;    ///< caption of LblSec
+    int tagSecondes_;     ///< tag of LblSec
     float fondu_ = 0;     ///< counter of the fade
     int rangSurvole_ = 1; ///< row of the panel that the keyboard stands on
     Twips defilementPanneau_ = 0, hauteurPanneau_ = 0;

@@ -75,9 +75,9 @@ void FrmSaisie::Timer1_Tick() {
     LecteurMedia& media = plateforme_.media;
     if (!media.enLecture()) Timer1_.stop(); // until it plays again or is sent elsewhere
     if (!isVisible()) return;
-    const bool arrete = media.playState() == EtatLecture::Arrete;
-    const auto boucle =
-        saisie::suivreBoucle(session_, media.currentPosition(), Pict_saisie_->largeurTwips(), arrete);
+    const double position = media.currentPosition();
+    const bool arrete = media.playState() == EtatLecture::Arrete && position >= media.duration();
+    const auto boucle = saisie::suivreBoucle(session_, position, Pict_saisie_->largeurTwips(), arrete);
     if (!boucle.ouverte) return;
     if (boucle.position) positionner(*boucle.position);
     if (boucle.pause)
@@ -91,7 +91,7 @@ void FrmSaisie::Timer1_Tick() {
 }
 
 void FrmSaisie::Timer3_Tick() {
-    const auto decompte = saisie::compter(session_, isVisible(), secondes_);
+    const auto decompte = saisie::compter(session_, isVisible(), session_.transcription.LblSec);
     LblTimer_->setVisible(decompte.montrer);
     LblTimer_->setText(versQt(decompte.LblTimer));
     suivreLecteur(); // the next tick hides the count again
@@ -103,7 +103,7 @@ void FrmSaisie::Timer3_Tick() {
 }
 
 void FrmSaisie::portionSuivante() {
-    if (const auto position = saisie::portionSuivante(session_, secondes_)) {
+    if (const auto position = saisie::portionSuivante(session_, session_.transcription.LblSec)) {
         positionner(*position);
         plateforme_.media.play();
         if (session_.audio.VitesseLecture != 0) plateforme_.media.rate(session_.audio.VitesseLecture);
@@ -189,12 +189,12 @@ void FrmSaisie::ondeRelachee(const Souris& souris) {
         positionner(position);
         curseur_ = souris.x;
         if (etat.DicteeActive) {
-            saisie::demarrerPortion(session_, position, secondes_);
+            saisie::demarrerPortion(session_, position, etat.LblSec);
             MontrerPortion(etat.PortionDebut, etat.PortionFin);
             Timer3_.stop();
         }
     } else {
-        secondes_ = tagSecondes_ = saisie::selectionnerPortion(session_, GlisseDebut_, souris.x, largeur);
+        etat.LblSec = tagSecondes_ = saisie::selectionnerPortion(session_, GlisseDebut_, souris.x, largeur);
         positionner(etat.PortionDebut);
         etat.Compteur = 0;
         if (!etat.DicteeActive) basculerDictee();

@@ -44,10 +44,10 @@ void FrmSaisie::creerSecondes() {
     LblSec_->surMouvement = [this](const Souris& souris) { glisserSecondes(souris); };
     LblSec_->surRelachement = [this](const Souris&) {
         pressionSecondes_ = false;
-        tagSecondes_ = secondes_;
+        tagSecondes_ = session_.transcription.LblSec;
     };
     LblSec_->surMolette = [this](int crans, Qt::KeyboardModifiers) {
-        reglerSecondes(std::max(1, secondes_ + crans));
+        reglerSecondes(std::max(1, session_.transcription.LblSec + crans));
     };
     auto* unite = new QLabel(QStringLiteral("sec."), BtnOpt_[1]);
     unite->setObjectName(QStringLiteral("Label1"));
@@ -83,7 +83,7 @@ void FrmSaisie::montrerOptions() {
     poser(BtnOpt_[1], dictee);
     LblSec_->elements({{.controle = Controle::Shape2,
                         .cadre = {0, 0, t::LBLSEC.largeur, t::LBLSEC.hauteur},
-                        .texte = std::to_string(secondes_),
+                        .texte = std::to_string(etat.LblSec),
                         .alignement = Alignement::Centre,
                         .corps = 10}});
     const Rectangle glissiere = t::LBLVIT;
@@ -105,7 +105,7 @@ void FrmSaisie::basculerDictee() {
     auto& etat = session_.transcription;
     etat.DicteeActive = !etat.DicteeActive;
     if (etat.DicteeActive) {
-        saisie::activerDictee(session_, plateforme_.media.currentPosition(), secondes_);
+        saisie::activerDictee(session_, plateforme_.media.currentPosition(), etat.LblSec);
         MontrerPortion(etat.PortionDebut, etat.PortionFin);
         Timer3_.stop();
     } else {
@@ -123,10 +123,10 @@ void FrmSaisie::glisserSecondes(const Souris& souris) {
 
 void FrmSaisie::reglerSecondes(int secondes) {
     auto& etat = session_.transcription;
-    secondes_ = secondes;
-    saisie::demarrerPortion(session_, etat.PortionDebut, secondes_);
+    etat.LblSec = secondes;
+    saisie::demarrerPortion(session_, etat.PortionDebut, secondes);
     MontrerPortion(etat.PortionDebut, etat.PortionFin);
-    if (!pressionSecondes_) tagSecondes_ = secondes_;
+    if (!pressionSecondes_) tagSecondes_ = secondes;
     montrerOptions();
 }
 

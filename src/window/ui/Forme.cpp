@@ -5,6 +5,7 @@
 #include "window/ui/Theme.h"
 
 #include <QBackingStore>
+#include <QCloseEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWindow>
@@ -51,6 +52,11 @@ void Forme::preparer() {
         QPainter(memoire->paintDevice()).fillRect(rect(), couleurQt(theme::FENETRE));
         memoire->endPaint();
     }
+}
+
+void Forme::finirPar(QCloseEvent& evenement) {
+    garder([this] { fenetres_.finir(); });
+    evenement.setAccepted(!isVisible());
 }
 
 void Forme::deplacerPar(QWidget* poignee) {

@@ -65,6 +65,8 @@ class Forme : public QWidget {
 
   protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
+    /// The window manager closes a window without which there is no program.
+    void finirPar(QCloseEvent& evenement);
 
     Session& session_;
     Plateforme& plateforme_;

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace vermo {
@@ -71,9 +72,11 @@ void peindreDessin(QPainter& peintre, const Dessin& dessin, const QRectF& zone) 
     const MetriquesQt metriques;
     int corps = -1;
     for (const Inscription& inscription : dessin.inscriptions) {
-        const QPointF coin(enPixels(inscription.x), enPixels(inscription.y));
+        QPointF coin(enPixels(inscription.x), enPixels(inscription.y));
         const QSizeF taille(enPixels(metriques.largeur(inscription.texte, inscription.corps)),
                             enPixels(metriques.hauteur(inscription.corps)));
+        if (dessin.bord > 0)
+            coin.setX(std::min(coin.x(), std::floor(enPixels(dessin.bord) - taille.width())));
         if (!zone.isEmpty() && !QRectF(coin, taille).intersects(zone)) continue;
         if (std::exchange(corps, inscription.corps) != inscription.corps)
             peintre.setFont(theme::police(inscription.corps));
