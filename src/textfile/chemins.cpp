@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <dirent.h>
+#include <fcntl.h>
 #include <memory>
 #include <utility>
 
@@ -59,8 +60,14 @@ Utf8 cheminReel(const Utf8& chemin) {
     return trouver(chemin).value_or(chemin);
 }
 
-IndexRepertoire::IndexRepertoire(const Utf8& repertoire) : repertoire_(repertoire) {
+IndexRepertoire::IndexRepertoire(const Utf8& repertoire)
+    : repertoire_(repertoire), ouvert_(::open(repertoire.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {
     if (!repertoire_.empty() && repertoire_.back() != '/') repertoire_ += '/';
+}
+
+IdentiteFichier IndexRepertoire::identite(const Utf8& nom) const {
+    const bool dedans = ouvert_.ouvert() && !nom.empty() && nom.front() != '/';
+    return dedans ? identiteFichier(ouvert_, nom) : identiteFichier(repertoire_ + nom);
 }
 
 void IndexRepertoire::lister() const {
@@ -83,8 +90,7 @@ std::optional<Utf8> IndexRepertoire::trouver(const Utf8& nom) const {
 }
 
 std::optional<FichierVu> IndexRepertoire::voir(const Utf8& nom) const {
-    FichierVu exact{repertoire_ + nom, {}};
-    exact.identite = identiteFichier(exact.chemin);
+    FichierVu exact{repertoire_ + nom, identite(nom)};
     if (exact.identite != IdentiteFichier{}) return exact;
     const auto autre = trouver(nom);
     if (!autre) return std::nullopt;

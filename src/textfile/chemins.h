@@ -49,8 +49,10 @@ class IndexRepertoire {
 
   private:
     void lister() const;
+    IdentiteFichier identite(const Utf8& nom) const;
 
     Utf8 repertoire_;
+    Descripteur ouvert_; ///< the directory, if it can be opened
     mutable bool liste_ = false;
     mutable bool entier_ = false; ///< the listing came to its end; otherwise names are asked for one by one
     mutable std::unordered_set<Utf8> exacts_;

@@ -30,8 +30,8 @@ void exigerOrdinaire(const char* action, const struct stat& etat, const Utf8& ch
 }
 
 /// `stat` of a name; a name with a NUL byte in it, which the system would cut, is that of no file.
-bool etatDe(const Utf8& chemin, struct stat& etat) noexcept {
-    return chemin.find('\0') == Utf8::npos && ::stat(chemin.c_str(), &etat) == 0;
+bool etatDe(const Utf8& chemin, struct stat& etat, int repertoire = AT_FDCWD) noexcept {
+    return chemin.find('\0') == Utf8::npos && ::fstatat(repertoire, chemin.c_str(), &etat, 0) == 0;
 }
 
 std::int64_t nanosecondes(const timespec& temps) noexcept {
@@ -188,6 +188,12 @@ AppelsSysteme& appelsSysteme() {
 IdentiteFichier identiteFichier(const Utf8& chemin) noexcept {
     struct stat etat {};
     if (!etatDe(chemin, etat)) return {};
+    return identiteDe(etat);
+}
+
+IdentiteFichier identiteFichier(const Descripteur& repertoire, const Utf8& nom) noexcept {
+    struct stat etat {};
+    if (!etatDe(nom, etat, repertoire.valeur())) return {};
     return identiteDe(etat);
 }
 

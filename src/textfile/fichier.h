@@ -59,8 +59,10 @@ struct IdentiteFichier {
     bool operator==(const IdentiteFichier&) const = default;
 };
 
-/// Of the file that bears a name now.
+/// Of the file that bears a name now; of a name in a directory that is open, which spares the system the way
+/// there.
 IdentiteFichier identiteFichier(const Utf8& chemin) noexcept;
+IdentiteFichier identiteFichier(const Descripteur& repertoire, const Utf8& nom) noexcept;
 
 /// True for whatever bears the name, a directory too: reading it then tells what is wrong.
 bool fichierExiste(const Utf8& chemin) noexcept;
