@@ -246,19 +246,26 @@ std::string lireFichier(const Utf8& chemin) {
 }
 
 FichierLu lireAvecIdentite(const Utf8& chemin) {
+    FichierLu lu;
+    lireAvecIdentite(chemin, lu);
+    return lu;
+}
+
+void lireAvecIdentite(const Utf8& chemin, FichierLu& lu) {
     Source source(chemin);
+    lu.identite = source.identite();
     const auto taille = static_cast<std::size_t>(source.taille());
-    FichierLu lu{{}, source.identite()};
     std::string& octets = lu.octets;
-    octets.reserve(taille);
-    peuplerMemoire(octets.data(), taille);
+    if (taille > octets.capacity()) {
+        octets.reserve(taille);
+        peuplerMemoire(octets.data(), taille);
+    }
     octets.resize(taille);
     octets.resize(source.lire(octets.data(), octets.size()));
     // A file may have grown meanwhile; /proc says 0 bytes of files that have some.
     char suite[4096];
     while (const std::size_t lus = source.lire(suite, sizeof suite))
         octets.append(suite, lus);
-    return lu;
 }
 
 std::string lireDebut(const Utf8& chemin, std::size_t taille) {

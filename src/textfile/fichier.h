@@ -104,6 +104,8 @@ struct FichierLu {
     IdentiteFichier identite;
 };
 FichierLu lireAvecIdentite(const Utf8& chemin);
+/// The same over what was read before, whose memory serves again. After a fault `lu` holds nothing of use.
+void lireAvecIdentite(const Utf8& chemin, FichierLu& lu);
 
 /// The first bytes of a file, at most `taille`; faults as for lireFichier.
 std::string lireDebut(const Utf8& chemin, std::size_t taille);
