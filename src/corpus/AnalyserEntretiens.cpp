@@ -194,10 +194,12 @@ void AnalyserEntretiens(Session& session, Plateforme& plateforme, int premier, i
     corpus.extraits.resize(corpus.Entretiens.size());
     const IndexRepertoire index(corpus.RepCorpus);
     std::vector<Fichiers> fichiers;
+    fichiers.reserve(corpus.Entretiens.size());
     for (int slot = premier; slot <= dernier; ++slot)
         fichiers.push_back(fichiersDe(entretienDe(corpus, slot), corpus.RepCorpus, index));
     reprendreAnciens(corpus, fichiers, premier);
     std::vector<Releve> releves;
+    releves.reserve(fichiers.size());
     for (std::size_t i = 0; i < fichiers.size(); ++i)
         releves.push_back(aRelever(fichiers[i], ligneDe(corpus.extraits, premier + static_cast<int>(i))));
     enParallele<FichierLu>(

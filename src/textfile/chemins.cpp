@@ -72,7 +72,7 @@ IdentiteFichier IndexRepertoire::identite(const Utf8& nom) const {
 
 void IndexRepertoire::lister() const {
     if (std::exchange(liste_, true)) return;
-    entier_ = vermo::lister(repertoire_, [&](const Utf8& nom) { exacts_.insert(nom); });
+    entier_ = vermo::lister(repertoire_, [&](Utf8&& nom) { exacts_.insert(std::move(nom)); });
 }
 
 std::optional<Utf8> IndexRepertoire::trouver(const Utf8& nom) const {
