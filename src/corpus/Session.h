@@ -77,7 +77,7 @@ struct EnregistrementVu {
 /// Row n at index n - 1. What else the scan took from that file stands beside them, so that a file that has
 /// not changed need not be read again.
 struct ExtraitsEntretien {
-    std::shared_ptr<const Texte> tampon; ///< shared by the copies of a session; none where there is no row
+    std::shared_ptr<const char[]> tampon; ///< shared by the copies of a session; none where there is no row
     std::vector<LigneExtrait> lignes;
     IdentiteFichier identite; ///< the file that the scan read
     Utf8 chemin;              ///< its full path
