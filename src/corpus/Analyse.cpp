@@ -1,6 +1,7 @@
 #include "corpus/AnalyserEntretiens.h"
 #include "formats/Marques.h"
 #include "textfile/lignes.h"
+#include "textfile/memoire.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,20 +13,22 @@
 namespace vermo {
 namespace {
 
-/// One pass over a transcript. The buffer is compacted behind the reading: for each extract its start, its
-/// code and its text, and behind the text its end. Mark lines are longer than the fields they leave, so what
-/// is written never reaches what is still to be read.
+/// One pass over a transcript. What stays of it goes into one buffer: for each extract its start, its code
+/// and its text, and behind the text its end. Mark lines are longer than the fields they leave, so that it
+/// never takes more room than the file.
 class Analyseur {
   public:
-    Analyseur(std::string octets, const Reglages& reglages, const Utf8& fichier)
-        : tampon_(std::move(octets)), lignes_(tampon_), reglages_(reglages), fichier_(fichier) {}
+    Analyseur(std::string_view octets, const Reglages& reglages, const Utf8& fichier)
+        : octets_(octets), lignes_(octets), reglages_(reglages), fichier_(fichier) {}
 
     LectureRtr lire() {
         LectureRtr resultat;
         ExtraitsEntretien& extraits = resultat.extraits;
         try {
             refuserTropGrand();
-            rangs_.reserve(std::min<std::size_t>(tampon_.size() / 256, EXTRAITS_CORPUS_MAX));
+            preparerTampon();
+            rangs_.reserve(std::min<std::size_t>(octets_.size() / 256, EXTRAITS_CORPUS_MAX));
+            peuplerMemoire(rangs_.data(), rangs_.capacity() * sizeof(LigneExtrait));
             extraits.duree = lireDuree();
             extraits.observations = lireObservations();
             refuserOuvert(rtr::parcourir(lignes_, fichier_, *this));
@@ -77,7 +80,7 @@ class Analyseur {
     Lieu lieu() const { return {fichier_, lignes_.numero()}; }
 
     void refuserTropGrand() const {
-        if (tampon_.size() > std::numeric_limits<std::uint32_t>::max())
+        if (octets_.size() > std::numeric_limits<std::uint32_t>::max())
             throw FauteExecution("La retranscription dépasse 4 Go.", fichier_);
     }
 
@@ -99,7 +102,7 @@ class Analyseur {
         Texte observations;
         std::string_view ligne;
         if (!lignes_.jusqua(rtr::OBS)) {
-            lignes_ = Lignes(tampon_);
+            lignes_ = Lignes(octets_);
             return observations;
         }
         while (lignes_.suivante(ligne) && !contient(ligne, rtr::FIN_OBS)) {
@@ -126,23 +129,30 @@ class Analyseur {
 
     std::uint32_t ecrire(std::string_view octets) {
         const std::size_t place = ecrit_;
-        std::memmove(tampon_.data() + place, octets.data(), octets.size());
+        std::memcpy(tampon_.get() + place, octets.data(), octets.size());
         ecrit_ += octets.size();
         return static_cast<std::uint32_t>(place);
     }
 
-    /// Room is given back only where most of the file was something else than extracts.
-    std::shared_ptr<const Texte> tamponReduit() {
-        tampon_.resize(ecrit_);
-        if (ecrit_ < tampon_.capacity() / 2) tampon_.shrink_to_fit();
-        return std::make_shared<const Texte>(std::move(tampon_));
+    void preparerTampon() {
+        tampon_ = std::make_shared_for_overwrite<char[]>(octets_.size());
+        peuplerMemoire(tampon_.get(), octets_.size());
     }
 
-    std::string tampon_;
-    std::size_t ecrit_ = 0;
+    /// Room is given back only where most of the file was something else than extracts.
+    std::shared_ptr<const char[]> tamponReduit() {
+        if (!tampon_ || ecrit_ >= octets_.size() / 2) return std::move(tampon_);
+        const auto reduit = std::make_shared_for_overwrite<char[]>(ecrit_);
+        std::memcpy(reduit.get(), tampon_.get(), ecrit_);
+        return reduit;
+    }
+
+    std::string_view octets_;
     Lignes lignes_;
     const Reglages& reglages_;
     const Utf8& fichier_;
+    std::shared_ptr<char[]> tampon_;
+    std::size_t ecrit_ = 0;
     std::vector<LigneExtrait> rangs_;
     Texte fin_;
     double somme_ = 0;
@@ -150,8 +160,8 @@ class Analyseur {
 
 } // namespace
 
-LectureRtr analyser(std::string octets, const Reglages& reglages, const Utf8& fichier) {
-    return Analyseur(std::move(octets), reglages, fichier).lire();
+LectureRtr analyser(std::string_view octets, const Reglages& reglages, const Utf8& fichier) {
+    return Analyseur(octets, reglages, fichier).lire();
 }
 
 } // namespace vermo

@@ -16,9 +16,6 @@
 namespace vermo {
 namespace {
 
-/// Interviews read between two signs of life.
-constexpr std::size_t LOT = 64;
-
 /// One interview's files as they stand now.
 struct Fichiers {
     FichierVu enregistrement;
@@ -35,7 +32,7 @@ Fichiers fichiersDe(const Entretien& entretien, const Utf8& repertoire, const In
 void reprendreAnciens(EtatCorpus& corpus, const std::vector<Fichiers>& fichiers, int premier) {
     std::unordered_map<std::string_view, ExtraitsEntretien*> anciens;
     for (ExtraitsEntretien& ancien : corpus.anciensExtraits)
-        anciens.emplace(ancien.chemin, &ancien);
+        anciens.emplace(ancien.lu.chemin, &ancien);
     for (std::size_t i = 0; i < fichiers.size() && !anciens.empty(); ++i) {
         const auto ancien = fichiers[i].rtr ? anciens.find(fichiers[i].rtr->chemin) : anciens.end();
         if (ancien == anciens.end()) continue;
@@ -55,87 +52,104 @@ std::optional<std::vector<rtr::Choix>> attributsDe(std::string_view octets, cons
     }
 }
 
-/// Reads a transcript into `table`, whose memory is given back first. What was wrong with it, if anything.
-/// The state in `rtr` stands for the file where it can't be read.
-std::optional<FauteExecution> lireTable(ExtraitsEntretien& table, const FichierVu& rtr,
-                                        const Reglages& reglages) {
-    EnregistrementVu enregistrement = std::move(table.enregistrement);
-    table = {};
+/// Reads a transcript by way of `lu`, whose memory serves from file to file. The state in `rtr` stands for
+/// the file where it can't be read. None: its bytes are those of `connu`, whose identity is renewed.
+std::optional<LectureRtr> lireTable(const FichierVu& rtr, const Reglages& reglages, FichierLu& lu,
+                                    EtatLu* connu = nullptr) {
+    LectureRtr lecture;
     EtatLu etat{rtr.chemin, rtr.identite, {}};
-    std::optional<FauteExecution> faute;
     try {
-        FichierLu lu = lireAvecIdentite(rtr.chemin);
-        etat = {rtr.chemin, lu.identite, empreinteDe(lu.octets)};
-        auto attributs = attributsDe(lu.octets, rtr.chemin);
-        LectureRtr lecture = analyser(std::move(lu.octets), reglages, rtr.chemin);
-        table = std::move(lecture.extraits);
-        table.attributs = std::move(attributs);
-        faute = std::move(lecture.faute);
+        lireAvecIdentite(rtr.chemin, lu);
+        const std::string& octets = lu.octets;
+        etat = {rtr.chemin, lu.identite, empreinteDe(octets)};
+        if (connu && etat.empreinte == connu->empreinte) {
+            connu->identite = lu.identite;
+            return std::nullopt;
+        }
+        lecture = analyser(octets, reglages, rtr.chemin);
+        lecture.extraits.attributs = attributsDe(octets, rtr.chemin);
     } catch (const FauteExecution& illisible) {
-        faute = illisible;
+        lecture.faute = illisible;
     }
-    table.enregistrement = std::move(enregistrement);
-    table.chemin = rtr.chemin;
-    table.identite = etat.identite;
+    ExtraitsEntretien& table = lecture.extraits;
     table.lu = std::move(etat);
-    if (faute) table.fauteDite.nouveau();
-    return faute;
+    if (lecture.faute) table.fauteDite.nouveau();
+    return lecture;
 }
 
 /// What comes of one interview's files before anything is told of them.
 struct Releve {
-    std::optional<DatesDeFichier> dates; ///< of the recording
-    bool neuve = false;                  ///< the transcript isn't the one that was read last
-    std::optional<FauteExecution> faute;
-    std::exception_ptr autre; ///< no fault of the file, as memory that runs out
+    EnregistrementVu enregistrement;
+    bool aLire = false;                  ///< the transcript may not be the one that was read last
+    std::optional<EtatLu> connu{};       ///< of the table; none: another file's, or none
+    std::optional<LectureRtr> lecture{}; ///< of a transcript that isn't the one that was read last
+    std::exception_ptr autre{};          ///< no fault of the file, as memory that runs out
 };
 
-/// A recording that is as it was is not opened again.
-std::optional<DatesDeFichier> datesDe(EnregistrementVu& connu, const FichierVu& fichier) {
-    const bool existe = fichier.identite != IdentiteFichier{};
-    if (existe && connu.identite == fichier.identite && connu.chemin == fichier.chemin) return connu.dates;
-    const auto dates = datesFichier(fichier.chemin);
-    connu = dates ? EnregistrementVu{fichier.chemin, fichier.identite, *dates} : EnregistrementVu{};
-    return dates;
-}
-
-Releve relever(ExtraitsEntretien& table, const Fichiers& fichiers) {
-    Releve releve;
-    releve.dates = datesDe(table.enregistrement, fichiers.enregistrement);
-    releve.neuve =
-        fichiers.rtr && (table.chemin != fichiers.rtr->chemin || table.identite != fichiers.rtr->identite);
+Releve aRelever(const Fichiers& fichiers, ExtraitsEntretien& table) {
+    const auto& rtr = fichiers.rtr;
+    const bool connu = rtr && table.lu.chemin == rtr->chemin;
+    Releve releve{.enregistrement = std::move(table.enregistrement),
+                  .aLire = rtr && !(connu && certainementMeme(table.lu.identite, rtr->identite))};
+    if (connu && releve.aLire) releve.connu = table.lu;
     return releve;
 }
 
-void lireNeuve(Releve& releve, ExtraitsEntretien& table, const FichierVu& rtr,
-               const Reglages& reglages) noexcept {
+/// A recording that is as it was is not opened again.
+void dater(EnregistrementVu& connu, const FichierVu& fichier) {
+    const bool existe = fichier.identite != IdentiteFichier{};
+    if (existe && connu.identite == fichier.identite && connu.chemin == fichier.chemin) return;
+    const auto dates = datesFichier(fichier.chemin);
+    connu = dates ? EnregistrementVu{fichier.chemin, fichier.identite, *dates} : EnregistrementVu{};
+}
+
+void relever(Releve& releve, const Fichiers& fichiers, const Reglages& reglages, FichierLu& lu) noexcept {
     try {
-        releve.faute = lireTable(table, rtr, reglages);
+        dater(releve.enregistrement, fichiers.enregistrement);
+        if (releve.aLire)
+            releve.lecture = lireTable(*fichiers.rtr, reglages, lu, releve.connu ? &*releve.connu : nullptr);
     } catch (...) {
         releve.autre = std::current_exception();
     }
 }
 
-/// Calls `faire` with 0 to `nombre` - 1, each once, on as many threads as the machine runs at a time.
-template <class Faire>
-void enParallele(std::size_t nombre, const Faire& faire) {
+/// Calls `faire` with 0 to `nombre` - 1, each once, on so many threads, and a tool that the thread keeps; and
+/// `dire` with the same on this thread, in order, as soon as all up to there are done. After an exception
+/// from `dire` nothing further is begun.
+template <class Outil, class Faire, class Dire>
+void enParallele(std::size_t nombre, std::size_t fils, const Faire& faire, const Dire& dire) {
     std::atomic<std::size_t> suivant = 0;
-    const auto travailler = [&] {
-        for (std::size_t i = suivant++; i < nombre; i = suivant++)
-            faire(i);
+    std::vector<std::atomic<bool>> faits(nombre);
+    const auto faireUn = [&](Outil& outil) {
+        const std::size_t i = suivant++;
+        if (i >= nombre) return false;
+        faire(i, outil);
+        faits[i] = true;
+        faits[i].notify_one();
+        return true;
+    };
+    const auto aider = [&](const std::stop_token& arret) {
+        Outil outil;
+        while (!arret.stop_requested() && faireUn(outil)) {
+        }
     };
     std::vector<std::jthread> autres;
     try {
-        for (std::size_t i = 1; i < std::min<std::size_t>(nombre, std::thread::hardware_concurrency()); ++i)
-            autres.emplace_back(travailler);
+        while (autres.size() + 1 < fils)
+            autres.emplace_back(aider);
     } catch (const std::system_error&) {
         // Without a further thread this one does it all.
     }
-    travailler();
+    Outil outil;
+    for (std::size_t i = 0; i < nombre; ++i) {
+        while (!faits[i])
+            if (!faireUn(outil)) faits[i].wait(false);
+        dire(i);
+    }
 }
 
 void prendreTable(Entretien& entretien, const ExtraitsEntretien& table) {
-    if (!table.chemin.empty()) {
+    if (!table.lu.chemin.empty()) {
         entretien.Duree = table.duree;
         entretien.Observations = table.observations;
     }
@@ -149,42 +163,39 @@ void direManquant(Dialogues& dialogues, const Entretien& entretien) {
                         "Vermo", Boutons::Ok, Icone::Exclamation});
 }
 
+/// Takes what was found of one interview into the session, and tells what there is to tell.
 void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const Fichiers& fichiers,
-                       const Releve& releve) {
+                       Releve& releve) {
+    if (releve.autre) std::rethrow_exception(releve.autre);
+    ExtraitsEntretien& table = ligneDe(session.corpus.extraits, slot);
+    const EtatLu avant = std::exchange(table.lu, {});
+    if (releve.lecture)
+        table = std::move(releve.lecture->extraits);
+    else
+        table.lu = releve.connu.value_or(avant);
+    table.enregistrement = std::move(releve.enregistrement);
     Entretien& entretien = entretienDe(session.corpus, slot);
-    const auto dates =
-        releve.dates ? releve.dates : LireDatesFichier(fichiers.enregistrement.chemin, plateforme.dialogues);
+    const auto dates = table.enregistrement.chemin.empty()
+                           ? LireDatesFichier(fichiers.enregistrement.chemin, plateforme.dialogues)
+                           : table.enregistrement.dates;
     if (dates) {
         entretien.DateAjout = dates->creation;
         entretien.DateModif = dates->modification;
     }
     entretien.NbExtraits = 0;
-    ExtraitsEntretien& table = ligneDe(session.corpus.extraits, slot);
     if (!fichiers.rtr) {
         if (table.manqueDit.nouveau()) direManquant(plateforme.dialogues, entretien);
         return;
     }
-    if (releve.autre) std::rethrow_exception(releve.autre);
-    if (releve.faute) direFaute(plateforme.dialogues, *releve.faute);
+    if (releve.lecture && releve.lecture->faute && avant != table.lu)
+        direFaute(plateforme.dialogues, *releve.lecture->faute);
     prendreTable(entretien, table);
 }
 
-/// Up to LOT interviews from `debut` on. Threads come for transcripts that are to be read, not to find that
-/// none is.
-std::vector<Releve> releverLot(EtatCorpus& corpus, const std::vector<Fichiers>& fichiers, int premier,
-                               std::size_t debut, const Reglages& reglages) {
-    std::vector<Releve> releves(std::min(LOT, fichiers.size() - debut));
-    std::vector<std::size_t> aLire;
-    ExtraitsEntretien* tables = &ligneDe(corpus.extraits, premier + static_cast<int>(debut));
-    for (std::size_t i = 0; i < releves.size(); ++i) {
-        releves[i] = relever(tables[i], fichiers[debut + i]);
-        if (releves[i].neuve) aLire.push_back(i);
-    }
-    enParallele(aLire.size(), [&](std::size_t k) {
-        const std::size_t i = aLire[k];
-        lireNeuve(releves[i], tables[i], *fichiers[debut + i].rtr, reglages);
-    });
-    return releves;
+/// Threads come for transcripts that are to be read, not to find that none is.
+std::size_t filsPour(const std::vector<Releve>& releves) {
+    const auto aLire = std::count_if(releves.begin(), releves.end(), [](const Releve& r) { return r.aLire; });
+    return std::min<std::size_t>(static_cast<std::size_t>(aLire), std::thread::hardware_concurrency());
 }
 
 } // namespace
@@ -196,18 +207,22 @@ void AnalyserEntretiens(Session& session, Plateforme& plateforme, int premier, i
     corpus.extraits.resize(corpus.Entretiens.size());
     const IndexRepertoire index(corpus.RepCorpus);
     std::vector<Fichiers> fichiers;
+    fichiers.reserve(corpus.Entretiens.size());
     for (int slot = premier; slot <= dernier; ++slot)
         fichiers.push_back(fichiersDe(entretienDe(corpus, slot), corpus.RepCorpus, index));
     reprendreAnciens(corpus, fichiers, premier);
     std::vector<Releve> releves;
-    for (std::size_t debut = 0; debut < fichiers.size(); debut += releves.size()) {
-        releves = releverLot(corpus, fichiers, premier, debut, session.reglages);
-        for (std::size_t i = 0; i < releves.size(); ++i) {
-            const int slot = premier + static_cast<int>(debut + i);
-            analyserEntretien(session, plateforme, slot, fichiers[debut + i], releves[i]);
+    releves.reserve(fichiers.size());
+    for (std::size_t i = 0; i < fichiers.size(); ++i)
+        releves.push_back(aRelever(fichiers[i], ligneDe(corpus.extraits, premier + static_cast<int>(i))));
+    enParallele<FichierLu>(
+        releves.size(), filsPour(releves),
+        [&](std::size_t i, FichierLu& lu) { relever(releves[i], fichiers[i], session.reglages, lu); },
+        [&](std::size_t i) {
+            const int slot = premier + static_cast<int>(i);
+            analyserEntretien(session, plateforme, slot, fichiers[i], releves[i]);
             plateforme.progression.avance(slot);
-        }
-    }
+        });
 }
 
 void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
@@ -216,15 +231,17 @@ void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
     corpus.extraits.resize(corpus.Entretiens.size());
     ExtraitsEntretien& table = ligneDe(corpus.extraits, slot);
     ExtraitsEntretien avant = std::exchange(table, {});
-    table.enregistrement = std::move(avant.enregistrement);
     const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
     const IdentiteFichier identite = identiteFichier(chemin);
     if (fichierExiste(chemin)) {
-        const auto faute = lireTable(table, {chemin, identite}, session.reglages);
-        if (faute && avant.identite != identite) direFaute(plateforme.dialogues, *faute);
+        FichierLu lu;
+        auto lecture = lireTable({chemin, identite}, session.reglages, lu);
+        table = std::move(lecture->extraits);
+        if (lecture->faute && avant.lu != table.lu) direFaute(plateforme.dialogues, *lecture->faute);
     }
+    table.enregistrement = std::move(avant.enregistrement);
     table.manqueDit = avant.manqueDit;
-    if (avant.identite == identite) table.dureeNulleDite = avant.dureeNulleDite;
+    if (avant.lu == table.lu) table.dureeNulleDite = avant.dureeNulleDite;
     prendreTable(entretienDe(corpus, slot), table);
 }
 

@@ -4,14 +4,15 @@
 #include "textfile/faute.h"
 
 #include <optional>
+#include <string_view>
 
 /// The interview scan: dates of each recording, and from each transcript duration, observations and the rows
 /// of the corpus-wide tables.
 ///
-/// A transcript is read once into one buffer, which is compacted in place and stays as the interview's own;
-/// the rows are offsets in it. A file whose identity is that of the last scan is not read again. Files are
-/// read on as many threads as the machine runs, some dozens at a time; what is told of them is told in the
-/// order of the slots, on the caller's thread.
+/// A transcript is read once, and what its extracts hold is kept in one buffer; the rows are offsets in it. A
+/// file whose identity is that of the last scan is not read again. Files are read on as many threads as the
+/// machine runs; what is told of them is told in the order of the slots, on the caller's thread, which alone
+/// touches the session.
 namespace vermo {
 
 /// What a transcript holds for the corpus-wide tables. After a fault `extraits` holds the rows before it.
@@ -28,7 +29,7 @@ struct LectureRtr {
 /// Faults, each with its line: a duration or a time that is no number, a duration that no recording can last,
 /// a mark line without its second "::", extract 1,000, an extract that the end of the file leaves open (its
 /// row is kept, without an end), a NUL byte, a file of 4 GiB or more.
-LectureRtr analyser(std::string octets, const Reglages& reglages, const Utf8& fichier);
+LectureRtr analyser(std::string_view octets, const Reglages& reglages, const Utf8& fichier);
 
 /// Scans slots `premier` to `dernier`: DateAjout, DateModif, Duree, NbExtraits, Observations, PrcRtr and the
 /// rows.

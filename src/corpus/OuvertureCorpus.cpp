@@ -118,7 +118,7 @@ void prendreThematiques(EtatCorpus& corpus, const std::vector<crp::Thematique>& 
 void viderCorpus(Session& session) {
     EtatCorpus& corpus = session.corpus;
     for (ExtraitsEntretien& table : corpus.extraits)
-        if (!table.chemin.empty()) corpus.anciensExtraits.push_back(std::move(table));
+        if (!table.lu.chemin.empty()) corpus.anciensExtraits.push_back(std::move(table));
     const auto taille = static_cast<std::size_t>(corpus.NbEntretiens) + 1;
     corpus.Entretiens.assign(taille, {});
     corpus.extraits.assign(taille, {});

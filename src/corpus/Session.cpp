@@ -12,7 +12,7 @@ namespace {
 
 /// The row of extract `n` and the buffer it points into, if there is one.
 struct Rang {
-    const Texte* tampon = nullptr;
+    const char* tampon = nullptr;
     const LigneExtrait* ligne = nullptr;
 
     Rang(const Session& session, int slot, int n) {
@@ -24,7 +24,7 @@ struct Rang {
         ligne = &ligneDe(table.lignes, n - 1);
     }
     std::string_view champ(std::uint32_t LigneExtrait::*place, std::size_t longueur) const {
-        return std::string_view(*tampon).substr(ligne->*place, longueur);
+        return {tampon + ligne->*place, longueur};
     }
 };
 

@@ -77,13 +77,11 @@ struct EnregistrementVu {
 /// Row n at index n - 1. What else the scan took from that file stands beside them, so that a file that has
 /// not changed need not be read again.
 struct ExtraitsEntretien {
-    std::shared_ptr<const Texte> tampon; ///< shared by the copies of a session; none where there is no row
+    std::shared_ptr<const char[]> tampon; ///< shared by the copies of a session; none where there is no row
     std::vector<LigneExtrait> lignes;
-    IdentiteFichier identite; ///< the file that the scan read
-    Utf8 chemin;              ///< its full path
-    EtatLu lu;                ///< its state
-    float duree = 0;          ///< its first line, seconds
-    float somme = 0;          ///< lengths of its extracts, seconds
+    EtatLu lu;       ///< the transcript as the scan read it
+    float duree = 0; ///< its first line, seconds
+    float somme = 0; ///< lengths of its extracts, seconds
     Texte observations;
     std::optional<std::vector<rtr::Choix>> attributs; ///< none: the file is to be asked
     EnregistrementVu enregistrement;

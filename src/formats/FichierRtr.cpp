@@ -3,6 +3,7 @@
 #include "formats/Champs.h"
 #include "formats/Marques.h"
 #include "textfile/lignes.h"
+#include "textfile/memoire.h"
 #include "textfile/nombres.h"
 
 #include <utility>
@@ -120,6 +121,16 @@ void ecrireExtrait(std::string& sortie, const Extrait& extrait, const Reglages& 
     ecrireLigne(sortie, MARQUE);
 }
 
+/// Room for all extracts at once: growing step by step would touch fresh memory again and again.
+void reserver(std::string& sortie, const std::vector<Extrait>& extraits) {
+    constexpr std::size_t reperes = 64; // two mark lines, as a rule
+    std::size_t taille = sortie.size();
+    for (const Extrait& extrait : extraits)
+        taille += extrait.texte.size() + reperes;
+    sortie.reserve(taille);
+    peuplerMemoire(sortie.data(), taille);
+}
+
 /// An extract as an insertion writes it, its lines separated by lone CRs.
 std::string composer(const Extrait& extrait) {
     std::string sortie;
@@ -214,6 +225,7 @@ std::string reecrireEnTete(std::string_view octets, const Utf8& fichier, const R
 std::string ecrireApres(std::string enTete, const std::vector<Extrait>& extraits, Selection selection,
                         const Reglages& reglages) {
     std::string sortie = std::move(enTete);
+    reserver(sortie, extraits);
     for (std::size_t n = 1; n < extraits.size(); ++n) {
         const bool saute = selection.sauterNegatifs && nombre(extraits[n].debut, reglages) < 0;
         if (n != selection.exclu && !saute) ecrireExtrait(sortie, extraits[n], reglages);

@@ -75,12 +75,12 @@ std::size_t parcourir(Lignes& lignes, const Utf8& fichier, Preneur& preneur) {
 }
 
 /// A time by the locale's conversion. Throws, naming `quoi`, for a text that starts with no number.
-inline double tempsOuFaute(std::string_view temps, const Reglages& reglages, const std::string& quoi,
+inline double tempsOuFaute(std::string_view temps, const Reglages& reglages, const char* quoi,
                            const Lieu& lieu) {
     try {
         return nombre(temps, reglages);
     } catch (const FauteExecution&) {
-        lieu.refuser(quoi + " « " + versUtf8(temps) + " » n'est pas un nombre.");
+        lieu.refuser(std::string(quoi) + " « " + versUtf8(temps) + " » n'est pas un nombre.");
     }
 }
 

@@ -99,7 +99,7 @@ void lireAttributs(Session& session, Plateforme& plateforme, int slot) {
 void actualiserEntretien(Session& session, Plateforme& plateforme, int slot) {
     const ExtraitsEntretien& table = ligneDe(session.corpus.extraits, slot);
     const IdentiteFichier actuelle = identiteFichier(cheminCompagnon(session, slot, "Rtr"));
-    if (certainementMeme(table.identite, actuelle)) return;
+    if (certainementMeme(table.lu.identite, actuelle)) return;
     RelireEntretien(session, plateforme, slot);
     lireAttributs(session, plateforme, slot);
     plateforme.annonces.annoncer({Sujet::Entretiens, slot});

@@ -1,6 +1,7 @@
 #include "textfile/chemins.h"
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <memory>
 
 namespace vermo {
@@ -54,8 +55,14 @@ Utf8 cheminReel(const Utf8& chemin) {
     return trouver(chemin).value_or(chemin);
 }
 
-IndexRepertoire::IndexRepertoire(const Utf8& repertoire) : repertoire_(repertoire) {
+IndexRepertoire::IndexRepertoire(const Utf8& repertoire)
+    : repertoire_(repertoire), ouvert_(::open(repertoire.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {
     if (!repertoire_.empty() && repertoire_.back() != '/') repertoire_ += '/';
+}
+
+IdentiteFichier IndexRepertoire::identite(const Utf8& nom) const {
+    const bool dedans = ouvert_.ouvert() && !nom.empty() && nom.front() != '/';
+    return dedans ? identiteFichier(ouvert_, nom) : identiteFichier(repertoire_ + nom);
 }
 
 std::optional<Utf8> IndexRepertoire::autreCasse(const Utf8& nom) const {
@@ -71,7 +78,7 @@ std::optional<Utf8> IndexRepertoire::autreCasse(const Utf8& nom) const {
 }
 
 std::optional<FichierVu> IndexRepertoire::voir(const Utf8& nom) const {
-    const FichierVu exact{repertoire_ + nom, identiteFichier(repertoire_ + nom)};
+    const FichierVu exact{repertoire_ + nom, identite(nom)};
     if (exact.identite != IdentiteFichier{}) return exact;
     const auto autre = autreCasse(nom);
     if (!autre) return std::nullopt;

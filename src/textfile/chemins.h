@@ -47,9 +47,11 @@ class IndexRepertoire {
     std::optional<FichierVu> voir(const Utf8& nom) const;
 
   private:
+    IdentiteFichier identite(const Utf8& nom) const;
     std::optional<Utf8> autreCasse(const Utf8& nom) const;
 
     Utf8 repertoire_;
+    Descripteur ouvert_; ///< the directory, if it can be opened
     mutable std::unordered_map<Utf8, Utf8> sansCasse_; ///< upper-cased name -> name
 };
 

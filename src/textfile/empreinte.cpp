@@ -1,6 +1,9 @@
 #include "textfile/empreinte.h"
 
 #include <xxhash.h>
+#ifdef __x86_64__
+#include <xxh_x86dispatch.h> // the same values by the widest vectors of the processor at hand
+#endif
 
 namespace vermo {
 

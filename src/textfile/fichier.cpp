@@ -36,8 +36,8 @@ void exigerOrdinaire(const char* action, const struct stat& etat, const Utf8& ch
 }
 
 /// `stat` of a name; a name with a NUL byte in it, which the system would cut, is that of no file.
-bool etatDe(const Utf8& chemin, struct stat& etat) noexcept {
-    return chemin.find('\0') == Utf8::npos && ::stat(chemin.c_str(), &etat) == 0;
+bool etatDe(const Utf8& chemin, struct stat& etat, int repertoire = AT_FDCWD) noexcept {
+    return chemin.find('\0') == Utf8::npos && ::fstatat(repertoire, chemin.c_str(), &etat, 0) == 0;
 }
 
 std::int64_t nanosecondes(const timespec& temps) noexcept {
@@ -230,6 +230,12 @@ IdentiteFichier identiteFichier(const Utf8& chemin) noexcept {
     return identiteDe(etat);
 }
 
+IdentiteFichier identiteFichier(const Descripteur& repertoire, const Utf8& nom) noexcept {
+    struct stat etat {};
+    if (!etatDe(nom, etat, repertoire.valeur())) return {};
+    return identiteDe(etat);
+}
+
 bool fichierExiste(const Utf8& chemin) noexcept {
     struct stat etat {};
     return etatDe(chemin, etat);
@@ -279,19 +285,26 @@ std::string lireFichier(const Utf8& chemin) {
 }
 
 FichierLu lireAvecIdentite(const Utf8& chemin) {
+    FichierLu lu;
+    lireAvecIdentite(chemin, lu);
+    return lu;
+}
+
+void lireAvecIdentite(const Utf8& chemin, FichierLu& lu) {
     Source source(chemin);
+    lu.identite = source.identite();
     const auto taille = static_cast<std::size_t>(source.taille());
-    FichierLu lu{{}, source.identite()};
     std::string& octets = lu.octets;
-    octets.reserve(taille);
-    peuplerMemoire(octets.data(), taille);
+    if (taille > octets.capacity()) {
+        octets.reserve(taille);
+        peuplerMemoire(octets.data(), taille);
+    }
     octets.resize(taille);
     octets.resize(source.lire(octets.data(), octets.size()));
     // A file may have grown meanwhile; /proc says 0 bytes of files that have some.
     char suite[4096];
     while (const std::size_t lus = source.lire(suite, sizeof suite))
         octets.append(suite, lus);
-    return lu;
 }
 
 std::string lireDebut(const Utf8& chemin, std::size_t taille) {

@@ -70,8 +70,10 @@ inline bool certainementMeme(const IdentiteFichier& connue, const IdentiteFichie
     return connue == actuelle && connue.probante();
 }
 
-/// Of the file that bears a name now.
+/// Of the file that bears a name now; of a name in a directory that is open, which spares the system the way
+/// there.
 IdentiteFichier identiteFichier(const Utf8& chemin) noexcept;
+IdentiteFichier identiteFichier(const Descripteur& repertoire, const Utf8& nom) noexcept;
 
 /// True for whatever bears the name, a directory too: reading it then tells what is wrong.
 bool fichierExiste(const Utf8& chemin) noexcept;
@@ -113,6 +115,8 @@ struct FichierLu {
     IdentiteFichier identite;
 };
 FichierLu lireAvecIdentite(const Utf8& chemin);
+/// The same over what was read before, whose memory serves again. After a fault `lu` holds nothing of use.
+void lireAvecIdentite(const Utf8& chemin, FichierLu& lu);
 
 /// The first bytes of a file, at most `taille`; faults as for lireFichier.
 std::string lireDebut(const Utf8& chemin, std::size_t taille);

@@ -131,4 +131,21 @@ TEST_F(Scan, AFaultIsToldOnceForEachStateOfItsFile) {
     analyserDeuxFois("coupée");
 }
 
+TEST(Analysis, FaultsAreToldInTheOrderOfTheRows) {
+    constexpr int entretiens = 60;
+    essai::CorpusDEssai essai;
+    std::string liste;
+    for (int i = 0; i < entretiens; ++i) {
+        const std::string nom = "e" + std::to_string(i);
+        // The first of them take longest to read.
+        essai.ajouterEntretien(nom, "duree\r\n" + std::string(i < 2 ? 2'000'000 : 0, '\r'));
+        essai.dialogues().repondre(Reponse::Ok, "/" + nom + ".Rtr");
+        liste += nom + ".wav\r\n";
+    }
+    essai.ecrireCorpus("000,&H0, Sans\r\n", liste);
+    ASSERT_TRUE(essai.ouvrir());
+    essai.analyser();
+    essai.analyser(); // each once
+}
+
 } // namespace
