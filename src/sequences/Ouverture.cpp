@@ -6,6 +6,7 @@
 #include "corpus/Ordre.h"
 #include "corpus/OuvertureCorpus.h"
 #include "corpus/Pistes.h"
+#include "corpus/Porte.h"
 #include "data/Variables.h"
 #include "platform/Sablier.h"
 #include "textfile/faute.h"
@@ -49,6 +50,20 @@ IssueOuverture demanderEtLire(Session& session, Plateforme& plateforme, const Sp
         return IssueOuverture::Renoncee;
     }
     return lireCorpus(session, plateforme, spectateur) ? IssueOuverture::Ouverte : IssueOuverture::Echouee;
+}
+
+/// The state in which a transcript stands; as `connu` says where its identity proves it.
+EtatLu etatActuel(const Utf8& chemin, const EtatLu& connu) {
+    const IdentiteFichier identite = identiteFichier(chemin);
+    if (certainementMeme(connu.identite, identite)) return connu;
+    if (identite == IdentiteFichier{}) return {};
+    EtatLu lu{chemin, identite, {}};
+    try {
+        lireRetranscription({0, chemin}, lu);
+    } catch (const FauteExecution&) {
+        return lu; // what is wrong with it is told by who reads it for itself
+    }
+    return lu;
 }
 
 /// Writes the list as memory holds it; `nom` says to people what was done to it.
@@ -97,9 +112,12 @@ void lireAttributs(Session& session, Plateforme& plateforme, int slot) {
 }
 
 void actualiserEntretien(Session& session, Plateforme& plateforme, int slot) {
-    const ExtraitsEntretien& table = ligneDe(session.corpus.extraits, slot);
-    const IdentiteFichier actuelle = identiteFichier(cheminCompagnon(session, slot, "Rtr"));
-    if (certainementMeme(table.lu.identite, actuelle)) return;
+    EtatLu& lu = ligneDe(session.corpus.extraits, slot).lu;
+    const EtatLu actuel = etatActuel(cheminCompagnon(session, slot, "Rtr"), lu);
+    if (actuel == lu) {
+        lu.identite = actuel.identite; // which proves more by now
+        return;
+    }
     RelireEntretien(session, plateforme, slot);
     lireAttributs(session, plateforme, slot);
     plateforme.annonces.annoncer({Sujet::Entretiens, slot});

@@ -277,10 +277,11 @@ bool FrmSaisie::texteValide(Texte& texte) {
 bool FrmSaisie::cacherPour(const std::function<bool()>& ecrire) {
     arreterAllongement();
     const double duree = std::exchange(session_.transcription.SaisieDuree, 0);
+    const EtatLu lu = session_.transcription.lu;
     const auto revenir = [&] {
         session_.transcription.SaisieDuree = duree;
-        retrouverExtrait();
         show();
+        if (session_.transcription.lu != lu) retrouverExtrait();
     };
     hide();
     try {
