@@ -203,7 +203,7 @@ Resultat ecriture(const std::string& donnees) {
         const double debut = 10.0 * double(extraits.size());
         extraits.push_back({std::to_string(int(debut)) + ",00", std::to_string(int(debut) + 9) + ",00", "001",
                             std::string(400, 'a') + CR});
-        octets = rtr::ecrire({}, extraits, {}, reglages);
+        octets = rtr::ecrireApres(rtr::nouveau(0, reglages), extraits, {}, reglages);
     }
     bool autre = false;
     const Paire paire = apparier(
@@ -211,7 +211,7 @@ Resultat ecriture(const std::string& donnees) {
         [&] {
             return chronometrer([&] {
                 extraits[5].texte = (autre = !autre) ? "Un texte repris.\r" : "Un autre texte.\r";
-                remplacerFichier(rep + "/entretien.Rtr", rtr::ecrire({}, extraits, {true, 0}, reglages));
+                remplacerFichier(rep + "/entretien.Rtr", rtr::ecrireApres(rtr::nouveau(0, reglages), extraits, {true, 0}, reglages));
             });
         },
         [&] { return chronometrer([&] { ecrireNu(rep, octets); }); });

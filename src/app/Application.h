@@ -2,6 +2,7 @@
 #include "app/Formes.h"
 #include "corpus/Session.h"
 #include "platform/Plateforme.h"
+#include "textfile/fichier.h"
 #include "window/Fenetres.h"
 
 #include <QObject>
@@ -14,6 +15,7 @@ namespace vermo {
 
 class FrmCorpus;
 enum class Etape;
+enum class Sens;
 struct SuiteListe;
 
 /// The program: shows the windows, runs the sequences that go through several of them, and hands each notice
@@ -42,6 +44,10 @@ class Application final : public QObject, public Fenetres {
     void ImporterEntretien() override;
     void retirerEntretien() override;
     void DeplacerEntretien(int source, int cible) override;
+    void annulerChangement() override;
+    void refaireChangement() override;
+    bool aAnnuler() const override;
+    bool aRefaire() const override;
 
   signals:
     /// The last window is to go: the event loop ends.
@@ -55,6 +61,8 @@ class Application final : public QObject, public Fenetres {
     void montrerEtape(Etape etape);
     void rouvrirCorpus();
     void suivreListe(const SuiteListe& suite);
+    void parcourir(Sens sens);
+    void direVoisin();
     void montrerCorpusVide();
     void importer();
     void ouvrirEntretien(const EntretienVoulu& voulu);
@@ -68,7 +76,9 @@ class Application final : public QObject, public Fenetres {
     std::function<void(QProgressBar*)> brancherProgression_;
     Formes formes_;
     bool importEnCours_ = false;
-    QTimer repos_; ///< runs out when a corpus or an interview may be opened next
+    VerrouFichier corpusTenu_; ///< tells other programs that this one has the corpus open
+    Utf8 nomTenu_;             ///< of that lock
+    QTimer repos_;             ///< runs out when a corpus or an interview may be opened next
 };
 
 } // namespace vermo

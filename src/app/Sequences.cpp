@@ -3,6 +3,7 @@
 #include "audio/ui/FrmVisu.h"
 #include "corpus/ui/FrmCorpus.h"
 #include "platform/Sablier.h"
+#include "sequences/Histoire.h"
 #include "sequences/Import.h"
 #include "sequences/Ouverture.h"
 
@@ -24,7 +25,22 @@ void Application::NouveauCorpus() {
 void Application::OuvrirCorpus() {
     const auto progression = qScopeGuard([this] { plateforme_.progression.fin(); });
     const Spectateur spectateur{corpus().hauteurFond(), [this](Etape etape) { montrerEtape(etape); }};
-    if (ouvrirCorpus(session_, plateforme_, spectateur) == IssueOuverture::Ouverte) repos_.start();
+    if (ouvrirCorpus(session_, plateforme_, spectateur) != IssueOuverture::Ouverte) return;
+    repos_.start();
+    direVoisin();
+}
+
+/// Another program may have the corpus open too: both are told, the second one, and may go on.
+void Application::direVoisin() {
+    const Utf8 nom = nomVerrou(plateforme_.emplacements, session_.corpus);
+    if (nom.empty() || nom == nomTenu_) return;
+    nomTenu_ = nom;
+    corpusTenu_ = VerrouFichier(nom);
+    if (corpusTenu_.ailleurs())
+        plateforme_.dialogues.demander(
+            {"Ce corpus est déjà ouvert dans un autre Vermo :\n" + session_.corpus.CheminCorpus +
+                 "\nVous pouvez continuer : ce que l'un enregistre est relu par l'autre, rien n'est écrasé.",
+             "Vermo", Boutons::Ok, Icone::Information});
 }
 
 void Application::montrerEtape(Etape etape) {
@@ -74,6 +90,35 @@ void Application::DeplacerEntretien(int source, int cible) {
     suivreListe(deplacerDansListe(session_, plateforme_, source, cible));
 }
 
+void Application::annulerChangement() {
+    parcourir(Sens::Annuler);
+}
+
+void Application::refaireChangement() {
+    parcourir(Sens::Refaire);
+}
+
+bool Application::aAnnuler() const {
+    return prochain(session_, Sens::Annuler) != nullptr;
+}
+
+bool Application::aRefaire() const {
+    return prochain(session_, Sens::Refaire) != nullptr;
+}
+
+/// A change of the corpus file may take away the very interview that is being worked on.
+void Application::parcourir(Sens sens) {
+    const Changement* changement = prochain(session_, sens);
+    if (!changement) return;
+    if (toucheCorpus(session_, *changement))
+        for (const Fenetre fenetre : FENETRES)
+            if (entamee(fenetre)) return montrer(fenetre);
+    if (!parcourirHistoire(session_, plateforme_, sens)) return;
+    cacher(Fenetre::FrmSaisie);
+    decharger(Fenetre::FrmVisu);
+    rouvrirCorpus();
+}
+
 /// Windows stay alive while a recording is copied or measured: a second import waits for the first to end.
 void Application::ImporterEntretien() {
     if (importEnCours_) return;
@@ -104,6 +149,7 @@ void Application::ouvrirEntretien(const EntretienVoulu& voulu) {
     if (voulu.slot < 1 || voulu.slot > etat.NbEntretiens) return;
     const Sablier sablier(plateforme_.ecran);
     etat.EntretienCourant = static_cast<std::int16_t>(voulu.slot);
+    actualiserEntretien(session_, plateforme_, voulu.slot);
     decharger(Fenetre::FrmVisu);
     plateforme_.media.URL(cheminEnregistrement(session_, voulu.slot), Fenetre::FrmVisu);
     montrerEntretien(voulu.ouverture);

@@ -32,7 +32,7 @@ Fichiers fichiersDe(const Entretien& entretien, const Utf8& repertoire, const In
 void reprendreAnciens(EtatCorpus& corpus, const std::vector<Fichiers>& fichiers, int premier) {
     std::unordered_map<std::string_view, ExtraitsEntretien*> anciens;
     for (ExtraitsEntretien& ancien : corpus.anciensExtraits)
-        anciens.emplace(ancien.chemin, &ancien);
+        anciens.emplace(ancien.lu.chemin, &ancien);
     for (std::size_t i = 0; i < fichiers.size() && !anciens.empty(); ++i) {
         const auto ancien = fichiers[i].rtr ? anciens.find(fichiers[i].rtr->chemin) : anciens.end();
         if (ancien == anciens.end()) continue;
@@ -53,22 +53,25 @@ std::optional<std::vector<rtr::Choix>> attributsDe(std::string_view octets, cons
 }
 
 /// Reads a transcript by way of `lu`, whose memory serves from file to file. The state in `rtr` stands for
-/// the file where it can't be read.
-LectureRtr lireTable(const FichierVu& rtr, const Reglages& reglages, FichierLu& lu) {
+/// the file where it can't be read. None: its bytes are those of `connu`, whose identity is renewed.
+std::optional<LectureRtr> lireTable(const FichierVu& rtr, const Reglages& reglages, FichierLu& lu,
+                                    EtatLu* connu = nullptr) {
     LectureRtr lecture;
     EtatLu etat{rtr.chemin, rtr.identite, {}};
     try {
         lireAvecIdentite(rtr.chemin, lu);
         const std::string& octets = lu.octets;
         etat = {rtr.chemin, lu.identite, empreinteDe(octets)};
+        if (connu && etat.empreinte == connu->empreinte) {
+            connu->identite = lu.identite;
+            return std::nullopt;
+        }
         lecture = analyser(octets, reglages, rtr.chemin);
         lecture.extraits.attributs = attributsDe(octets, rtr.chemin);
     } catch (const FauteExecution& illisible) {
         lecture.faute = illisible;
     }
     ExtraitsEntretien& table = lecture.extraits;
-    table.chemin = rtr.chemin;
-    table.identite = etat.identite;
     table.lu = std::move(etat);
     if (lecture.faute) table.fauteDite.nouveau();
     return lecture;
@@ -77,15 +80,19 @@ LectureRtr lireTable(const FichierVu& rtr, const Reglages& reglages, FichierLu& 
 /// What comes of one interview's files before anything is told of them.
 struct Releve {
     EnregistrementVu enregistrement;
-    bool aLire = false;         ///< the transcript isn't the one that was read last
-    LectureRtr lecture{};       ///< of a transcript to be read
-    std::exception_ptr autre{}; ///< no fault of the file, as memory that runs out
+    bool aLire = false;                  ///< the transcript may not be the one that was read last
+    std::optional<EtatLu> connu{};       ///< of the table; none: another file's, or none
+    std::optional<LectureRtr> lecture{}; ///< of a transcript that isn't the one that was read last
+    std::exception_ptr autre{};          ///< no fault of the file, as memory that runs out
 };
 
 Releve aRelever(const Fichiers& fichiers, ExtraitsEntretien& table) {
     const auto& rtr = fichiers.rtr;
-    return {.enregistrement = std::move(table.enregistrement),
-            .aLire = rtr && (table.chemin != rtr->chemin || table.identite != rtr->identite)};
+    const bool connu = rtr && table.lu.chemin == rtr->chemin;
+    Releve releve{.enregistrement = std::move(table.enregistrement),
+                  .aLire = rtr && !(connu && certainementMeme(table.lu.identite, rtr->identite))};
+    if (connu && releve.aLire) releve.connu = table.lu;
+    return releve;
 }
 
 /// A recording that is as it was is not opened again.
@@ -99,7 +106,8 @@ void dater(EnregistrementVu& connu, const FichierVu& fichier) {
 void relever(Releve& releve, const Fichiers& fichiers, const Reglages& reglages, FichierLu& lu) noexcept {
     try {
         dater(releve.enregistrement, fichiers.enregistrement);
-        if (releve.aLire) releve.lecture = lireTable(*fichiers.rtr, reglages, lu);
+        if (releve.aLire)
+            releve.lecture = lireTable(*fichiers.rtr, reglages, lu, releve.connu ? &*releve.connu : nullptr);
     } catch (...) {
         releve.autre = std::current_exception();
     }
@@ -141,7 +149,7 @@ void enParallele(std::size_t nombre, std::size_t fils, const Faire& faire, const
 }
 
 void prendreTable(Entretien& entretien, const ExtraitsEntretien& table) {
-    if (!table.chemin.empty()) {
+    if (!table.lu.chemin.empty()) {
         entretien.Duree = table.duree;
         entretien.Observations = table.observations;
     }
@@ -160,7 +168,11 @@ void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const
                        Releve& releve) {
     if (releve.autre) std::rethrow_exception(releve.autre);
     ExtraitsEntretien& table = ligneDe(session.corpus.extraits, slot);
-    if (releve.aLire) table = std::move(releve.lecture.extraits);
+    const EtatLu avant = std::exchange(table.lu, {});
+    if (releve.lecture)
+        table = std::move(releve.lecture->extraits);
+    else
+        table.lu = releve.connu.value_or(avant);
     table.enregistrement = std::move(releve.enregistrement);
     Entretien& entretien = entretienDe(session.corpus, slot);
     const auto dates = table.enregistrement.chemin.empty()
@@ -175,7 +187,8 @@ void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const
         if (table.manqueDit.nouveau()) direManquant(plateforme.dialogues, entretien);
         return;
     }
-    if (releve.lecture.faute) direFaute(plateforme.dialogues, *releve.lecture.faute);
+    if (releve.lecture && releve.lecture->faute && avant != table.lu)
+        direFaute(plateforme.dialogues, *releve.lecture->faute);
     prendreTable(entretien, table);
 }
 
@@ -222,13 +235,13 @@ void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
     const IdentiteFichier identite = identiteFichier(chemin);
     if (fichierExiste(chemin)) {
         FichierLu lu;
-        LectureRtr lecture = lireTable({chemin, identite}, session.reglages, lu);
-        table = std::move(lecture.extraits);
-        if (lecture.faute && avant.identite != identite) direFaute(plateforme.dialogues, *lecture.faute);
+        auto lecture = lireTable({chemin, identite}, session.reglages, lu);
+        table = std::move(lecture->extraits);
+        if (lecture->faute && avant.lu != table.lu) direFaute(plateforme.dialogues, *lecture->faute);
     }
     table.enregistrement = std::move(avant.enregistrement);
     table.manqueDit = avant.manqueDit;
-    if (avant.identite == identite) table.dureeNulleDite = avant.dureeNulleDite;
+    if (avant.lu == table.lu) table.dureeNulleDite = avant.dureeNulleDite;
     prendreTable(entretienDe(corpus, slot), table);
 }
 

@@ -192,15 +192,13 @@ void ajouterEntretien(Session& session, const Texte& nom, double duree) {
     entretien.Duree = static_cast<float>(duree);
 }
 
-void creerRetranscription(Session& session, Plateforme& plateforme, int slot) {
-    const Retranscription cible{slot, cheminCompagnon(session, slot, "Rtr")};
-    const auto creer = [&](const Octets& avant) -> Octets {
-        if (avant) return std::nullopt;
-        return rtr::nouveau(entretienDe(session.corpus, slot).Duree, session.reglages);
-    };
-    if (fichierExiste(cible.chemin)) return;
-    changerFichiers(session, plateforme, "Créer la retranscription de " + nomEntretien(session.corpus, slot),
-                    {{cible, creer}});
+std::optional<FichierAChanger> retranscriptionACreer(const Session& session, int slot) {
+    const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
+    if (fichierExiste(chemin)) return std::nullopt;
+    return FichierAChanger{chemin, [&session, slot](const Octets& avant) -> Octets {
+                               if (avant) return avant;
+                               return rtr::nouveau(entretienDe(session.corpus, slot).Duree, session.reglages);
+                           }};
 }
 
 } // namespace vermo

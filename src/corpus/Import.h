@@ -1,6 +1,9 @@
 #pragma once
+#include "corpus/Porte.h"
 #include "corpus/Session.h"
 #include "platform/Plateforme.h"
+
+#include <optional>
 
 /// The steps of an import that ask a person or touch files, in the order in which the program takes them. A
 /// step that ends the import has said why.
@@ -38,7 +41,7 @@ double mesurerDuree(Plateforme& plateforme, const Utf8& chemin);
 /// A new last slot, active. Throws FauteExecution, nothing added, when the corpus holds ENTRETIENS_MAX.
 void ajouterEntretien(Session& session, const Texte& nom, double duree);
 
-/// Makes the transcript of `slot`, unless there is one: its duration and empty sections.
-void creerRetranscription(Session& session, Plateforme& plateforme, int slot);
+/// The transcript of `slot`, its duration and empty sections; none where there is one.
+std::optional<FichierAChanger> retranscriptionACreer(const Session& session, int slot);
 
 } // namespace vermo

@@ -10,7 +10,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <ctime>
+#include <unordered_map>
 
 namespace vermo {
 namespace {
@@ -41,16 +43,17 @@ void direIntrouvable(Dialogues& dialogues, const Texte& fichier) {
          "Fichier introuvable", Boutons::Ok, Icone::Exclamation});
 }
 
-void prendreThematiques(EtatCorpus& corpus, const std::vector<crp::Thematique>& rangs) {
-    corpus.ThmCode.assign(1, {});
-    corpus.ThmCouleur.assign(1, {});
-    corpus.ThmNom.assign(1, {});
-    for (const crp::Thematique& rang : rangs) {
-        corpus.ThmCode.push_back(rang.code);
-        corpus.ThmCouleur.push_back(rang.couleur);
-        corpus.ThmNom.push_back(rang.nom);
+/// Puts a corpus at the head of the list as it stands at this moment, whoever wrote it.
+void inscrire(const Utf8& corpus, const Emplacements& emplacements) {
+    const Utf8 chemin = emplacements.fichierEcrit(PROJETS);
+    const VerrouRepertoire verrou(repertoireDe(chemin));
+    constexpr int essais = 10;
+    for (int i = 0; i < essais; ++i) {
+        const IdentiteFichier avant = identiteFichier(chemin);
+        const std::string neufs = projets::ecrire(corpus, lireProjets(emplacements));
+        if (remplacerSi(chemin, neufs, [&] { return identiteFichier(chemin) == avant; })) return;
     }
-    corpus.NbThm = static_cast<float>(rangs.size());
+    throw FauteExecution("Un autre programme change ce fichier sans cesse.", chemin);
 }
 
 } // namespace
@@ -88,23 +91,38 @@ void nommerCorpus(Session& session) {
 
 void MettreAJourProjets(const Session& session, Plateforme& plateforme) {
     try {
-        const std::vector<Utf8> anciens = lireProjets(plateforme.emplacements);
-        const std::string neufs = projets::ecrire(session.corpus.CheminCorpus, anciens);
-        remplacerFichier(plateforme.emplacements.fichierEcrit(PROJETS), neufs);
+        inscrire(session.corpus.CheminCorpus, plateforme.emplacements);
     } catch (const FauteExecution& faute) {
         direFaute(plateforme.dialogues, faute);
     }
 }
 
+void prendreThematiques(EtatCorpus& corpus, const std::vector<crp::Thematique>& rangs) {
+    std::unordered_map<Texte, std::int16_t> visibles;
+    for (int i = nombreThematiques(corpus); i >= 1; --i)
+        visibles[ligneDe(corpus.ThmCode, i)] = ligneDe(corpus.ThmVisible, i);
+    corpus.ThmCode.assign(1, {});
+    corpus.ThmCouleur.assign(1, {});
+    corpus.ThmNom.assign(1, {});
+    corpus.ThmVisible.assign(1, 1);
+    for (const crp::Thematique& rang : rangs) {
+        corpus.ThmCode.push_back(rang.code);
+        corpus.ThmCouleur.push_back(rang.couleur);
+        corpus.ThmNom.push_back(rang.nom);
+        const auto connue = visibles.find(rang.code);
+        corpus.ThmVisible.push_back(connue == visibles.end() ? std::int16_t{1} : connue->second);
+    }
+    corpus.NbThm = static_cast<float>(rangs.size());
+}
+
 void viderCorpus(Session& session) {
     EtatCorpus& corpus = session.corpus;
     for (ExtraitsEntretien& table : corpus.extraits)
-        if (!table.chemin.empty()) corpus.anciensExtraits.push_back(std::move(table));
+        if (!table.lu.chemin.empty()) corpus.anciensExtraits.push_back(std::move(table));
     const auto taille = static_cast<std::size_t>(corpus.NbEntretiens) + 1;
     corpus.Entretiens.assign(taille, {});
     corpus.extraits.assign(taille, {});
     prendreThematiques(corpus, {});
-    corpus.ThmVisible.assign(1, 1);
     corpus.ouvertureInachevee = true;
     session.donnees = {};
     session.transcription.source = {};
@@ -120,19 +138,20 @@ bool corpusAccessible(const Session& session, Plateforme& plateforme) {
 
 bool lireThematiques(Session& session, Plateforme& plateforme) {
     EtatCorpus& corpus = session.corpus;
-    const auto rangs = crp::lireThematiques(lireFichierCorpus(corpus), corpus.CheminCorpus, THEMATIQUES_MAX);
+    const auto rangs = crp::lireThematiques(lireFichierCorpus(corpus, corpus.luThematiques),
+                                            corpus.CheminCorpus, THEMATIQUES_MAX);
     if (!rangs) {
         direSansBalise(plateforme.dialogues, "thématiques");
         return false;
     }
     prendreThematiques(corpus, *rangs);
-    corpus.ThmVisible.assign(corpus.ThmCode.size(), 1);
     return true;
 }
 
 bool lireEntretiens(Session& session, Plateforme& plateforme) {
     EtatCorpus& corpus = session.corpus;
-    const auto fichiers = crp::lireEntretiens(lireFichierCorpus(corpus), corpus.CheminCorpus, ENTRETIENS_MAX);
+    const auto fichiers = crp::lireEntretiens(lireFichierCorpus(corpus, corpus.luEntretiens),
+                                              corpus.CheminCorpus, ENTRETIENS_MAX);
     if (!fichiers) {
         direSansBalise(plateforme.dialogues, "entretiens");
         return false;
@@ -177,7 +196,7 @@ bool creerCorpus(Session& session, Plateforme& plateforme) {
         return crp::nouveau(horodater(session.reglages.formatDate, maintenant),
                             horodater(session.reglages.formatHeure, maintenant));
     };
-    changerFichiers(session, plateforme, "Créer le corpus " + nomDe(chemin), {{{0, chemin}, creer}});
+    changerFichiers(session, plateforme, "Créer le corpus " + nomDe(chemin), {{chemin, creer}});
     corpus.CheminCorpus = chemin;
     corpus.RepCorpus = repertoireDe(chemin);
     return true;

@@ -1,5 +1,6 @@
 #pragma once
 #include "corpus/Session.h"
+#include "formats/FichierCorpus.h"
 #include "platform/Plateforme.h"
 #include "textfile/faute.h"
 #include "window/Element.h"
@@ -38,6 +39,9 @@ bool corpusAccessible(const Session& session, Plateforme& plateforme);
 /// The thematic table. False without an opening tag. Throws FauteExecution for a file that can't be read or a
 /// line that is no thematic.
 bool lireThematiques(Session& session, Plateforme& plateforme);
+
+/// Makes these rows the thematic table. One whose code was there keeps its switch, others are on.
+void prendreThematiques(EtatCorpus& corpus, const std::vector<crp::Thematique>& rangs);
 
 /// The interviews whose recording is there; one message for each that isn't. False without an opening tag.
 /// Throws FauteExecution, no interview taken, for a file that can't be read and for more than ENTRETIENS_MAX.

@@ -42,11 +42,11 @@ struct Entretien {
     bool operator==(const Entretien&) const = default;
 };
 
-/// Which state of a file was read or written last.
+/// The state of a file that something in memory was made from.
 struct EtatLu {
     Utf8 chemin; ///< full path; empty: none yet
     IdentiteFichier identite;
-    Empreinte empreinte; ///< of its raw bytes
+    std::optional<Empreinte> empreinte{}; ///< of its raw bytes; none: there was no file
     bool operator==(const EtatLu&) const = default;
 };
 
@@ -79,11 +79,9 @@ struct EnregistrementVu {
 struct ExtraitsEntretien {
     std::shared_ptr<const char[]> tampon; ///< shared by the copies of a session; none where there is no row
     std::vector<LigneExtrait> lignes;
-    IdentiteFichier identite; ///< the file that the scan read
-    Utf8 chemin;              ///< its full path
-    EtatLu lu;                ///< the transcript as it was read or written last, by whoever did
-    float duree = 0;          ///< its first line, seconds
-    float somme = 0;          ///< lengths of its extracts, seconds
+    EtatLu lu;       ///< the transcript as the scan read it
+    float duree = 0; ///< its first line, seconds
+    float somme = 0; ///< lengths of its extracts, seconds
     Texte observations;
     std::optional<std::vector<rtr::Choix>> attributs; ///< none: the file is to be asked
     EnregistrementVu enregistrement;
@@ -106,8 +104,8 @@ struct EtatCorpus {
     bool TailleReelle = false;               ///< bars in proportion to their durations
     std::vector<ExtraitsEntretien> extraits; ///< by slot, as Entretiens
     std::vector<ExtraitsEntretien>
-        anciensExtraits;             ///< of before the reopening, until the next scan takes them
-    EtatLu lu;                       ///< the corpus file as it was read or written last
+        anciensExtraits;                ///< of before the reopening, until the next scan takes them
+    EtatLu luThematiques, luEntretiens; ///< the corpus file that the rows, and the list, were read from
     bool ouvertureInachevee = false; ///< the tables don't hold what the corpus file holds: it isn't rewritten
     bool TriAPlat = false;
     std::int16_t LigneSource = 0, LigneCible = 0;
@@ -151,6 +149,7 @@ struct Retranscription {
 
 struct EtatTranscription {
     Retranscription source;                      ///< what the arrays were read from, and are saved to
+    EtatLu lu;                                   ///< the state of that file
     std::vector<Temps> ExtraitDebut, ExtraitFin; ///< index 0 is no extract
     std::vector<Texte> ExtraitCode, ExtraitTexte;
     float NbExtraits = 0;
@@ -178,17 +177,32 @@ struct EtatDonnees {
     bool operator==(const EtatDonnees&) const = default;
 };
 
-/// A change of the corpus's files that stands: what it takes to tell of it and to take it back.
+/// What becomes of the file that bears a changed file's name and ".$$$".
+enum class Temporaire {
+    Aucun,   ///< it is left alone
+    Reste,   ///< it is written too, with the same bytes, and stays
+    Disparu, ///< it is removed in the end
+};
+
+/// A change of the corpus's files: what it takes to tell of it, to take it back, and to make it again.
 struct Changement {
     struct Fichier {
         Utf8 chemin;
-        std::optional<std::string> avant; ///< the bytes that stood there; none: the file was made
+        std::optional<std::string> autre;   ///< the bytes on the other side of the change; none: no file
+        std::optional<Empreinte> empreinte; ///< of those that stand on this side; none: no file
+        Temporaire temporaire = Temporaire::Aucun;
         bool operator==(const Fichier&) const = default;
     };
-    Utf8 nom; ///< "Supprimer l'extrait 12 de Claire"; empty: none yet
+    Utf8 nom; ///< "Supprimer l'extrait 12 de Claire"
     std::vector<Fichier> fichiers;
-    std::optional<Avis> avis;
     bool operator==(const Changement&) const = default;
+};
+
+/// The changes of the open corpus, the last one at the end of each list.
+struct Histoire {
+    Utf8 corpus; ///< full path
+    std::vector<Changement> faits, defaits;
+    bool operator==(const Histoire&) const = default;
 };
 
 struct Session {
@@ -197,7 +211,7 @@ struct Session {
     EtatAudio audio;
     EtatTranscription transcription;
     EtatDonnees donnees;
-    Changement dernierChangement;
+    Histoire histoire;
     float EtatFondu = 0; ///< the fades' shared counter
     bool operator==(const Session&) const = default;
 };

@@ -1,6 +1,5 @@
 #include "data/Variables.h"
 
-#include "corpus/Porte.h"
 #include "formats/FichierCorpus.h"
 #include "formats/FichierRtr.h"
 #include "textfile/faute.h"
@@ -39,7 +38,7 @@ bool LireVariables(Session& session, Plateforme& plateforme) {
     session.donnees = {};
     const Utf8& chemin = session.corpus.CheminCorpus;
     try {
-        const std::string octets = lireFichierCorpus(session.corpus);
+        const std::string octets = lireFichier(chemin);
         const auto variables = crp::lirePos(octets, chemin);
         if (!variables) return refuser(plateforme, "Impossible de trouver la balise d'ouverture du POS.");
         const auto modalites = crp::lireDic(octets, chemin);
@@ -55,20 +54,20 @@ bool LireVariables(Session& session, Plateforme& plateforme) {
 namespace {
 
 /// A transcript as far as its attributes reach: a corpus has many, and long ones.
-std::string lireJusquAuxAttributs(EtatCorpus& corpus, const Retranscription& retranscription) {
+std::string lireJusquAuxAttributs(const Utf8& chemin) {
     constexpr std::size_t debutUsuel = 8192;
-    std::string octets = lireDebut(retranscription.chemin, debutUsuel);
+    std::string octets = lireDebut(chemin, debutUsuel);
     const std::size_t section = octets.find("<|ATTR|");
     const bool suffit = octets.size() < debutUsuel || (section != std::string::npos &&
                                                        octets.find(">|ATTR|", section) != std::string::npos);
-    return suffit ? octets : lireRetranscription(corpus, retranscription);
+    return suffit ? octets : lireFichier(chemin);
 }
 
 /// What the scan took from the transcript, where it is still the same file.
 const std::vector<rtr::Choix>* attributsConnus(const EtatCorpus& corpus, int slot) {
     if (static_cast<std::size_t>(slot) >= corpus.extraits.size()) return nullptr;
     const ExtraitsEntretien& table = ligneDe(corpus.extraits, slot);
-    const bool connus = table.attributs && identiteFichier(table.chemin) == table.identite;
+    const bool connus = table.attributs && certainementMeme(table.lu.identite, identiteFichier(table.lu.chemin));
     return connus ? &*table.attributs : nullptr;
 }
 
@@ -77,10 +76,9 @@ const std::vector<rtr::Choix>* attributsConnus(const EtatCorpus& corpus, int slo
 void LireAttributs(Session& session, int slot) {
     rtr::Attributs& attributs = entretienDe(session.corpus, slot).Attributs;
     if (const auto* connus = attributsConnus(session.corpus, slot)) return rtr::poser(*connus, attributs);
-    const Retranscription source{slot, cheminCompagnon(session, slot, "Rtr")};
-    if (!fichierExiste(source.chemin)) return;
-    const std::string octets = lireJusquAuxAttributs(session.corpus, source);
-    rtr::poser(rtr::lireAttributs(octets, source.chemin), attributs);
+    const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
+    if (!fichierExiste(chemin)) return;
+    rtr::poser(rtr::lireAttributs(lireJusquAuxAttributs(chemin), chemin), attributs);
 }
 
 } // namespace vermo

@@ -88,6 +88,28 @@ void verifierExtrait(const Extrait& extrait, const LignesMarques& lignes, const 
     tempsOuFaute(extrait.fin, reglages, "La fin", {fichier, lignes.fermeture});
 }
 
+/// Lines of the section up to its closing one, as the scan takes them.
+Texte lireObservations(Lignes& lignes) {
+    Texte observations;
+    std::string_view ligne;
+    while (lignes.suivante(ligne) && !contient(ligne, FIN_OBS))
+        if (!ligne.empty()) observations.append(ligne) += CR;
+    return observations;
+}
+
+void ecrireObservations(std::string& sortie, std::string_view observations) {
+    for (const std::string_view ligne : {OBS, observations, FIN_OBS})
+        ecrireLigne(sortie, ligne);
+}
+
+void ecrireAttributs(std::string& sortie, const Attributs& attributs, const Reglages& reglages) {
+    ecrireLigne(sortie, ATTR);
+    for (std::size_t v = 0; v < attributs.size(); ++v)
+        if (attributs[v] != 0)
+            ecrireLigne(sortie, std::to_string(v + 1) + "," + imprimerSansBlancs(attributs[v], reglages));
+    ecrireLigne(sortie, FIN_ATTR);
+}
+
 void ecrireExtrait(std::string& sortie, const Extrait& extrait, const Reglages& reglages) {
     const auto temps = [&](const Texte& champ) {
         return formatDeuxDecimales(nombre(champ, reglages), reglages);
@@ -172,16 +194,31 @@ Texte tempsEtranger(std::string_view octets, const Lecture& lecture, const Regla
     return {};
 }
 
-std::string ecrireEnTete(const EnTete& enTete, const Reglages& reglages) {
+std::string reecrireEnTete(std::string_view octets, const Utf8& fichier, const Reglages& reglages) {
+    const std::string_view enTete = enTeteDe(octets);
+    Attributs attributs{};
+    poser(lireAttributs(enTete, fichier), attributs);
     std::string sortie;
-    ecrireLigne(sortie, imprimer(enTete.duree, reglages));
-    for (const std::string_view ligne : {OBS, std::string_view(enTete.observations), FIN_OBS, ATTR})
-        ecrireLigne(sortie, ligne);
-    for (std::size_t v = 0; v < enTete.attributs.size(); ++v)
-        if (enTete.attributs[v] != 0)
-            ecrireLigne(sortie,
-                        std::to_string(v + 1) + "," + imprimerSansBlancs(enTete.attributs[v], reglages));
-    ecrireLigne(sortie, FIN_ATTR);
+    Lignes lignes(enTete);
+    std::string_view ligne;
+    if (lignes.suivante(ligne))
+        ecrireLigne(sortie,
+                    imprimer(static_cast<float>(dureeOuFaute(ligne, reglages, {fichier, 1})), reglages));
+    bool obs = false, attr = false; // a second section of a kind means nothing: its lines stay
+    while (lignes.suivante(ligne)) {
+        if (!obs && contient(ligne, OBS)) {
+            obs = true;
+            ecrireObservations(sortie, lireObservations(lignes));
+        } else if (!attr && contient(ligne, ATTR)) {
+            attr = true;
+            lignes.jusqua(FIN_ATTR);
+            ecrireAttributs(sortie, attributs, reglages);
+        } else {
+            ecrireLigne(sortie, ligne);
+        }
+    }
+    if (!obs) ecrireObservations(sortie, {});
+    if (!attr) ecrireAttributs(sortie, attributs, reglages);
     return sortie;
 }
 
@@ -194,11 +231,6 @@ std::string ecrireApres(std::string enTete, const std::vector<Extrait>& extraits
         if (n != selection.exclu && !saute) ecrireExtrait(sortie, extraits[n], reglages);
     }
     return sortie;
-}
-
-std::string ecrire(const EnTete& enTete, const std::vector<Extrait>& extraits, Selection selection,
-                   const Reglages& reglages) {
-    return ecrireApres(ecrireEnTete(enTete, reglages), extraits, selection, reglages);
 }
 
 std::string nouveau(float duree, const Reglages& reglages) {

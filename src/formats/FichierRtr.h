@@ -64,15 +64,11 @@ void verifier(std::string_view octets, const Lecture& lecture, const Utf8& fichi
 /// doesn't use; empty when none is.
 Texte tempsEtranger(std::string_view octets, const Lecture& lecture, const Reglages& reglages);
 
-/// What the bytes before the extracts mean.
-struct EnTete {
-    float duree = 0;       ///< seconds
-    Texte observations{};  ///< written as it stands
-    Attributs attributs{}; ///< written where not 0
-};
-
-/// The duration and the two sections.
-std::string ecrireEnTete(const EnTete& enTete, const Reglages& reglages);
+/// What stands before the first extract of a transcript, as a rewrite gives it: the duration, the
+/// observations and the attributes that are not 0 in their own form, empty sections at the end where one is
+/// missing, all other lines where they stand. Throws FauteExecution for a duration or attributes that are no
+/// numbers.
+std::string reecrireEnTete(std::string_view octets, const Utf8& fichier, const Reglages& reglages);
 
 /// Which extracts are written: one with a negative start is left out when `sauterNegatifs`, extract number
 /// `exclu` in any case (0: none).
@@ -81,12 +77,10 @@ struct Selection {
     std::size_t exclu = 0;
 };
 
-/// A whole transcript, behind the bytes `enTete` or behind what they mean. `extraits[0]` is no extract. Times
-/// are written by "0.00"; throws FauteExecution for one that is no number.
+/// A whole transcript, behind the bytes `enTete`. `extraits[0]` is no extract. Times are written by "0.00";
+/// throws FauteExecution for one that is no number.
 std::string ecrireApres(std::string enTete, const std::vector<Extrait>& extraits, Selection selection,
                         const Reglages& reglages);
-std::string ecrire(const EnTete& enTete, const std::vector<Extrait>& extraits, Selection selection,
-                   const Reglages& reglages);
 
 /// What an import writes: the duration and the four markers.
 std::string nouveau(float duree, const Reglages& reglages);

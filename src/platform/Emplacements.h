@@ -3,11 +3,12 @@
 
 namespace vermo {
 
-/// Where the files "beside the program" lie. Both directories end with a slash.
+/// Where the files "beside the program" lie. Directories end with a slash.
 struct Emplacements {
     Utf8 programme;        ///< the program's own directory
     Utf8 donneesProgramme; ///< its read-only data, as an installed program has them
     Utf8 donneesPersonne;  ///< the user's data directory
+    Utf8 execution{};      ///< the user's run-time directory, which goes with the session; empty: none
 
     /// A file that is only read: beside the program first, then in its data directory. Empty when nowhere.
     Utf8 fichierLu(const Utf8& nom) const;

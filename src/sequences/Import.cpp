@@ -1,8 +1,8 @@
 #include "sequences/Import.h"
 
 #include "audio/Onde.h"
+#include "corpus/EcritureCorpus.h"
 #include "corpus/Import.h"
-#include "sequences/Ouverture.h"
 #include "textfile/chemins.h"
 
 namespace vermo {
@@ -62,11 +62,13 @@ SuiteImport importerEntretien(Session& session, Plateforme& plateforme) {
     const auto duree = mesurer(session, plateforme, *nom);
     if (!duree) return {};
     ajouterEntretien(session, *nom, *duree);
-    if (SuiteListe liste = enregistrerListe(
-            session, plateforme, "Ajouter l'entretien " + nomEntretien(corpus, corpus.NbEntretiens));
-        liste.faute)
-        return {IssueImport::ARouvrir, std::move(liste.faute)};
-    creerRetranscription(session, plateforme, corpus.NbEntretiens);
+    try {
+        const Utf8 change = "Ajouter l'entretien " + nomEntretien(corpus, corpus.NbEntretiens);
+        if (!InsererEntretien(session, plateforme, corpus.NbEntretiens, change))
+            return {IssueImport::ARouvrir};
+    } catch (const FauteExecution& faute) {
+        return {IssueImport::ARouvrir, faute};
+    }
     corpus.EntretienCourant = corpus.NbEntretiens;
     return {IssueImport::Ajoute};
 }

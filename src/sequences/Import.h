@@ -12,11 +12,11 @@ enum class IssueImport {
     Abandonne,    ///< the person gave up, or it was refused: the list is as before
     OuvrirDAbord, ///< no corpus is open, and the person wants to open one: OuvertureDirecte is false
     Ajoute,       ///< the last slot is the new interview, EntretienCourant, written, to be scanned and shown
-    ARouvrir,     ///< the list could not be written: the corpus is to be opened again, directly
+    ARouvrir,     ///< the list is not the one in memory: the corpus is to be opened again, directly
 };
 struct SuiteImport {
     IssueImport issue = IssueImport::Abandonne;
-    std::optional<FauteExecution> faute = {}; ///< with ARouvrir: why
+    std::optional<FauteExecution> faute = {}; ///< with ARouvrir: why it could not be written
 };
 
 /// Brings one recording into the open corpus: asks for the file, its format, its copy, measures it, adds it

@@ -1,13 +1,19 @@
 #include "sequences/Ouverture.h"
 
+#include "corpus/AnalyserEntretiens.h"
 #include "corpus/EcritureCorpus.h"
 #include "corpus/Frise.h"
 #include "corpus/Ordre.h"
 #include "corpus/OuvertureCorpus.h"
 #include "corpus/Pistes.h"
+#include "corpus/Porte.h"
 #include "data/Variables.h"
 #include "platform/Sablier.h"
 #include "textfile/faute.h"
+#include "textfile/fichier.h"
+
+#include <filesystem>
+#include <system_error>
 
 namespace vermo {
 namespace {
@@ -16,6 +22,9 @@ namespace {
 bool lireCorpus(Session& session, Plateforme& plateforme, const Spectateur& spectateur) {
     spectateur.montrer(Etape::Debut);
     nommerCorpus(session);
+    if (session.histoire.corpus != session.corpus.CheminCorpus)
+        session.histoire = {.corpus = session.corpus.CheminCorpus, .faits = {}, .defaits = {}};
+    retirerAbandonnes(session.corpus.RepCorpus);
     MettreAJourProjets(session, plateforme);
     viderCorpus(session);
     spectateur.montrer(Etape::Vide);
@@ -43,6 +52,31 @@ IssueOuverture demanderEtLire(Session& session, Plateforme& plateforme, const Sp
     return lireCorpus(session, plateforme, spectateur) ? IssueOuverture::Ouverte : IssueOuverture::Echouee;
 }
 
+/// The state in which a transcript stands; as `connu` says where its identity proves it.
+EtatLu etatActuel(const Utf8& chemin, const EtatLu& connu) {
+    const IdentiteFichier identite = identiteFichier(chemin);
+    if (certainementMeme(connu.identite, identite)) return connu;
+    if (identite == IdentiteFichier{}) return {};
+    EtatLu lu{chemin, identite, {}};
+    try {
+        lireRetranscription({0, chemin}, lu);
+    } catch (const FauteExecution&) {
+        return lu; // what is wrong with it is told by who reads it for itself
+    }
+    return lu;
+}
+
+/// Writes the list as memory holds it; `nom` says to people what was done to it.
+SuiteListe enregistrerListe(Session& session, Plateforme& plateforme, const Utf8& nom) {
+    SuiteListe suite{.aRouvrir = true, .faute = {}};
+    try {
+        EcrireEntretiens(session, plateforme, nom);
+    } catch (const FauteExecution& faute) {
+        suite.faute = faute;
+    }
+    return suite;
+}
+
 } // namespace
 
 IssueOuverture ouvrirCorpus(Session& session, Plateforme& plateforme, const Spectateur& spectateur) {
@@ -59,6 +93,15 @@ bool nouveauCorpus(Session& session, Plateforme& plateforme) {
     return true;
 }
 
+Utf8 nomVerrou(const Emplacements& emplacements, const EtatCorpus& corpus) {
+    if (emplacements.execution.empty()) return {};
+    std::error_code erreur;
+    const Utf8 repertoire = std::filesystem::canonical(corpus.RepCorpus, erreur).string();
+    const Empreinte empreinte = empreinteDe(erreur ? corpus.RepCorpus : repertoire);
+    return emplacements.execution + "vermo-" + std::to_string(empreinte.haut) + "-" +
+           std::to_string(empreinte.bas) + ".verrou";
+}
+
 void lireAttributs(Session& session, Plateforme& plateforme, int slot) {
     try {
         LireAttributs(session, slot);
@@ -66,6 +109,18 @@ void lireAttributs(Session& session, Plateforme& plateforme, int slot) {
         if (ligneDe(session.corpus.extraits, slot).fauteDite.nouveau())
             direFaute(plateforme.dialogues, faute);
     }
+}
+
+void actualiserEntretien(Session& session, Plateforme& plateforme, int slot) {
+    EtatLu& lu = ligneDe(session.corpus.extraits, slot).lu;
+    const EtatLu actuel = etatActuel(cheminCompagnon(session, slot, "Rtr"), lu);
+    if (actuel == lu) {
+        lu.identite = actuel.identite; // which proves more by now
+        return;
+    }
+    RelireEntretien(session, plateforme, slot);
+    lireAttributs(session, plateforme, slot);
+    plateforme.annonces.annoncer({Sujet::Entretiens, slot});
 }
 
 SuiteListe retirerEntretien(Session& session, Plateforme& plateforme) {
@@ -87,16 +142,6 @@ SuiteListe deplacerDansListe(Session& session, Plateforme& plateforme, int sourc
     DeplacerEntretien(session, source, cible);
     return enregistrerListe(session, plateforme,
                             "Déplacer l'entretien " + nomEntretien(session.corpus, cible));
-}
-
-SuiteListe enregistrerListe(Session& session, Plateforme& plateforme, const Utf8& nom) {
-    SuiteListe suite{.aRouvrir = true, .faute = {}};
-    try {
-        EcrireEntretiens(session, plateforme, nom);
-    } catch (const FauteExecution& faute) {
-        suite.faute = faute;
-    }
-    return suite;
 }
 
 } // namespace vermo

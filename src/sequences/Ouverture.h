@@ -43,8 +43,16 @@ IssueOuverture ouvrirCorpus(Session& session, Plateforme& plateforme, const Spec
 /// OuvertureDirecte ask for it.
 bool nouveauCorpus(Session& session, Plateforme& plateforme);
 
+/// Full path of the file by whose lock programs on this machine know that the corpus is open; empty where the
+/// system gives no place for it.
+Utf8 nomVerrou(const Emplacements& emplacements, const EtatCorpus& corpus);
+
 /// The attributes of the interview in `slot`. A fault in them is told once for this state of its file.
 void lireAttributs(Session& session, Plateforme& plateforme, int slot);
+
+/// Reads the transcript of the interview in `slot` again unless it certainly is as the scan found it: one
+/// that was missing or faulty, or that another program changed, counts from now on.
+void actualiserEntretien(Session& session, Plateforme& plateforme, int slot);
 
 /// What became of a change in the interview list.
 struct SuiteListe {
@@ -58,8 +66,5 @@ SuiteListe retirerEntretien(Session& session, Plateforme& plateforme);
 
 /// Moves the interview in `source` to `cible`.
 SuiteListe deplacerDansListe(Session& session, Plateforme& plateforme, int source, int cible);
-
-/// Writes the list as memory holds it; `nom` says to people what was done to it.
-SuiteListe enregistrerListe(Session& session, Plateforme& plateforme, const Utf8& nom);
 
 } // namespace vermo

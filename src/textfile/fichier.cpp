@@ -8,8 +8,11 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <ctime>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/file.h>
+#include <system_error>
 #include <thread>
 #include <unistd.h>
 
@@ -19,6 +22,9 @@ namespace {
 [[noreturn]] void refuser(const char* action, int erreur, const Utf8& chemin) {
     throw FauteExecution(action + (" impossible : " + causeSysteme(erreur)), chemin);
 }
+
+constexpr const char* DEBUT_TEMPORAIRE = ".vermo-";
+constexpr const char* FIN_TEMPORAIRE = ".tmp";
 
 constexpr char lecture[] = "Lecture";
 constexpr char ecriture[] = "Écriture";
@@ -39,7 +45,18 @@ std::int64_t nanosecondes(const timespec& temps) noexcept {
 }
 
 IdentiteFichier identiteDe(const struct stat& etat) noexcept {
-    return {etat.st_dev, etat.st_ino, etat.st_size, nanosecondes(etat.st_mtim), nanosecondes(etat.st_ctim)};
+    timespec maintenant{};
+    ::clock_gettime(CLOCK_REALTIME, &maintenant);
+    return {etat.st_dev,
+            etat.st_ino,
+            etat.st_size,
+            nanosecondes(etat.st_mtim),
+            nanosecondes(etat.st_ctim),
+            nanosecondes(maintenant)};
+}
+
+Utf8 repertoireVu(const Utf8& repertoire) {
+    return repertoire.empty() ? "." : repertoire;
 }
 
 /// The file that a name stands for once symbolic links are followed, be there a file or not.
@@ -92,8 +109,8 @@ class Remplacement {
         }
     }
 
-    /// Gives the identity of the new file.
-    IdentiteFichier valider() {
+    /// None when `tient` says no.
+    std::optional<FichierEcrit> valider(const std::function<bool()>& tient = {}) {
         AppelsSysteme& appels = appelsSysteme();
         reprendreDroits();
         exiger(synchroniser(appels.fdatasync, fichier_.valeur()));
@@ -101,14 +118,16 @@ class Remplacement {
             ::fcntl(fichier_.valeur(), F_DUPFD_CLOEXEC, 0)); // a rename dates the file anew
         // The descriptor is gone even when close is interrupted, and the bytes are already on the disk.
         exiger(fichier_.fermer() == 0 || errno == EINTR);
+        if (tient && !tient()) return std::nullopt;
         exiger(appels.rename(temporaire_.c_str(), cible_.c_str()) == 0);
         temporaire_.clear();
+        FichierEcrit ecrit;
         // Some network file systems can't sync a directory and say EINVAL: there is nothing more to do there.
         if (!synchroniser(appels.fsync, repertoire_.valeur()) && errno != EINVAL)
-            throw FauteExecution("Enregistrement incertain après une coupure : " + causeSysteme(errno),
-                                 chemin_);
+            ecrit.doute = causeSysteme(errno);
         struct stat etat {};
-        return appels.fstat(temoin.valeur(), &etat) == 0 ? identiteDe(etat) : IdentiteFichier{};
+        if (appels.fstat(temoin.valeur(), &etat) == 0) ecrit.identite = identiteDe(etat);
+        return ecrit;
     }
 
   private:
@@ -127,27 +146,35 @@ class Remplacement {
     /// Before anything is written: a directory that can't be synced later on leaves the old file.
     void ouvrirRepertoire() {
         const Utf8 repertoire = cible_.substr(0, cible_.rfind('/') + 1);
-        repertoire_ = Descripteur(appelsSysteme().open(repertoire.empty() ? "." : repertoire.c_str(),
-                                                       O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0));
+        repertoire_ = Descripteur(
+            appelsSysteme().open(repertoireVu(repertoire).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0));
         exiger(repertoire_.ouvert());
     }
 
     void creerTemporaire() {
         static std::atomic<unsigned> suivant = 0;
         const Utf8 debut =
-            cible_.substr(0, cible_.rfind('/') + 1) + ".vermo-" + std::to_string(::getpid()) + "-";
+            cible_.substr(0, cible_.rfind('/') + 1) + DEBUT_TEMPORAIRE + std::to_string(::getpid()) + "-";
         constexpr int essais = 100;
         for (int i = 0; i < essais && !fichier_.ouvert(); ++i) {
-            const Utf8 nom = debut + std::to_string(++suivant) + ".tmp";
+            const Utf8 nom = debut + std::to_string(++suivant) + FIN_TEMPORAIRE;
             fichier_ = Descripteur(appelsSysteme().open(nom.c_str(),
                                                         O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
                                                         existe_ ? ancien_.st_mode & 0666 : 0666));
-            if (fichier_.ouvert())
+            if (!fichier_.ouvert())
+                exiger(errno == EEXIST || errno == EINTR);
+            else if (retenir())
                 temporaire_ = nom;
             else
-                exiger(errno == EEXIST || errno == EINTR);
+                fichier_ = {};
         }
         exiger(fichier_.ouvert());
+    }
+
+    /// Locks the temporary file, by which that of a living writer is told from an abandoned one. False when
+    /// somebody took it for abandoned before.
+    bool retenir() const {
+        return appelsSysteme().flock(fichier_.valeur(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
     }
 
     /// Gives the new file the old one's owner, where the system lets us, and its mode.
@@ -170,6 +197,16 @@ class Remplacement {
 };
 
 } // namespace
+
+bool IdentiteFichier::operator==(const IdentiteFichier& autre) const noexcept {
+    return peripherique == autre.peripherique && inode == autre.inode && taille == autre.taille &&
+           modification == autre.modification && changement == autre.changement;
+}
+
+bool IdentiteFichier::probante() const noexcept {
+    constexpr std::int64_t tropJeune = 2'000'000'000; // some file systems count time by two seconds
+    return prise - std::max(modification, changement) >= tropJeune;
+}
 
 AppelsSysteme& appelsSysteme() {
     static AppelsSysteme table{
@@ -277,10 +314,34 @@ std::string lireDebut(const Utf8& chemin, std::size_t taille) {
     return octets;
 }
 
-IdentiteFichier remplacerFichier(const Utf8& chemin, std::string_view octets) {
+FichierEcrit remplacerFichier(const Utf8& chemin, std::string_view octets) {
+    return *remplacerSi(chemin, octets, {});
+}
+
+std::optional<FichierEcrit> remplacerSi(const Utf8& chemin, std::string_view octets,
+                                        const std::function<bool()>& tient) {
     Remplacement remplacement(chemin);
     remplacement.ecrire(octets);
-    return remplacement.valider();
+    return remplacement.valider(tient);
+}
+
+void retirerAbandonnes(const Utf8& repertoire) noexcept {
+    std::error_code erreur;
+    std::filesystem::directory_iterator entree(repertoireVu(repertoire), erreur);
+    for (; !erreur && entree != std::filesystem::directory_iterator(); entree.increment(erreur)) {
+        const Utf8 chemin = entree->path().string(), nom = entree->path().filename().string();
+        if (!nom.starts_with(DEBUT_TEMPORAIRE) || !nom.ends_with(FIN_TEMPORAIRE)) continue;
+        if (VerrouFichier(chemin).tenu()) appelsSysteme().unlink(chemin.c_str());
+    }
+}
+
+Utf8 mettreDeCote(const Utf8& chemin) {
+    for (int i = 1;; ++i) {
+        const Utf8 libre = chemin + "." + std::to_string(i);
+        if (fichierExiste(libre)) continue;
+        if (appelsSysteme().rename(chemin.c_str(), libre.c_str()) != 0) refuser(ecriture, errno, chemin);
+        return libre;
+    }
 }
 
 bool copierFichier(const Utf8& source, const Utf8& cible,
@@ -306,12 +367,16 @@ void supprimerFichier(const Utf8& chemin) {
     if (appelsSysteme().unlink(chemin.c_str()) != 0 && errno != ENOENT) refuser("Suppression", errno, chemin);
 }
 
+VerrouFichier::VerrouFichier(const Utf8& chemin)
+    : fichier_(appelsSysteme().open(chemin.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600)),
+      tenu_(fichier_.ouvert() && appelsSysteme().flock(fichier_.valeur(), LOCK_EX | LOCK_NB) == 0) {}
+
 VerrouRepertoire::VerrouRepertoire(const Utf8& repertoire) {
     constexpr int essais = 50;
     constexpr std::chrono::milliseconds entreDeux{20};
     AppelsSysteme& appels = appelsSysteme();
-    repertoire_ = Descripteur(
-        appels.open(repertoire.empty() ? "." : repertoire.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0));
+    repertoire_ =
+        Descripteur(appels.open(repertoireVu(repertoire).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0));
     if (!repertoire_.ouvert()) return;
     for (int i = 0; i < essais && appels.flock(repertoire_.valeur(), LOCK_EX | LOCK_NB) != 0; ++i) {
         if (errno != EWOULDBLOCK && errno != EINTR) return;

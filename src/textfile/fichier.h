@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
@@ -58,8 +59,16 @@ struct IdentiteFichier {
     std::int64_t taille = 0; ///< bytes
     std::int64_t modification = 0;
     std::int64_t changement = 0; ///< of the bytes or of what the system keeps about the file
-    bool operator==(const IdentiteFichier&) const = default;
+    std::int64_t prise = 0;      ///< when all this was asked; two that differ in this alone are equal
+    bool operator==(const IdentiteFichier& autre) const noexcept;
+    /// False while a further change could still bear the same times: the file's bytes decide then.
+    bool probante() const noexcept;
 };
+
+/// True when the file is certainly as it was when `connue` was taken.
+inline bool certainementMeme(const IdentiteFichier& connue, const IdentiteFichier& actuelle) noexcept {
+    return connue == actuelle && connue.probante();
+}
 
 /// Of the file that bears a name now; of a name in a directory that is open, which spares the system the way
 /// there.
@@ -112,14 +121,31 @@ void lireAvecIdentite(const Utf8& chemin, FichierLu& lu);
 /// The first bytes of a file, at most `taille`; faults as for lireFichier.
 std::string lireDebut(const Utf8& chemin, std::size_t taille);
 
+/// A file that was written.
+struct FichierEcrit {
+    IdentiteFichier identite; ///< all zero where the system doesn't tell it
+    Utf8 doute{};             ///< why it may not stay after a power cut; empty: it will
+};
+
 /// Puts `octets` in the place of `chemin`, so that they stay after a power cut: written whole to a temporary
 /// file beside it, synced, renamed, the directory synced. On any failure throws FauteExecution with the
-/// system's cause, leaves the old file as it was and removes the temporary one. Only when the last step
-/// fails, the sync of the directory, is the new file there already, whole, and the fault says that it may not
-/// stay. A symbolic link is followed; the mode of the old file is kept, and its owner where the system
-/// allows. A file that may not be written is not replaced. A killed process may leave ".vermo-*.tmp" beside
-/// the file. Gives the identity of the file that was written; all zero where the system doesn't tell it.
-IdentiteFichier remplacerFichier(const Utf8& chemin, std::string_view octets);
+/// system's cause, leaves the old file as it was and removes the temporary one. When only the last step
+/// fails, the sync of the directory, the new file is there, whole, and `doute` says why it may not stay. A
+/// symbolic link is followed; the mode of the old file is kept, and its owner where the system allows. A file
+/// that may not be written is not replaced. A killed process may leave ".vermo-*.tmp" beside the file:
+/// `retirerAbandonnes` knows it by the lock that it no longer holds.
+FichierEcrit remplacerFichier(const Utf8& chemin, std::string_view octets);
+
+/// The same, unless `tient` says no, which is asked at the last moment: nothing is then written or given.
+std::optional<FichierEcrit> remplacerSi(const Utf8& chemin, std::string_view octets,
+                                        const std::function<bool()>& tient);
+
+/// Removes the temporary files that killed writers left in a directory; those of living ones stay.
+void retirerAbandonnes(const Utf8& repertoire) noexcept;
+
+/// Gives a file a name beside its own that is free, and gives that name. Throws FauteExecution with the
+/// cause.
+Utf8 mettreDeCote(const Utf8& chemin);
 
 /// Copies a file of any size by the same safe road. `avance` is told the bytes copied so far and the total,
 /// and may return false to give up: the target is then as before, and the result is false.
@@ -128,6 +154,20 @@ bool copierFichier(const Utf8& source, const Utf8& cible,
 
 /// Removes a file; one that isn't there is no fault.
 void supprimerFichier(const Utf8& chemin);
+
+/// A file that its owner alone holds, for as long as it lives, among all who ask for it by the same means.
+class VerrouFichier {
+  public:
+    VerrouFichier() = default; ///< holds nothing
+    explicit VerrouFichier(const Utf8& chemin);
+
+    bool tenu() const noexcept { return tenu_; }
+    bool ailleurs() const noexcept { return fichier_.ouvert() && !tenu_; } ///< another holds it
+
+  private:
+    Descripteur fichier_;
+    bool tenu_ = false;
+};
 
 /// Keeps a directory for its owner against other programs that ask for it by the same means, waiting for them
 /// a second at most. Where the system refuses, its owner goes on without.

@@ -18,4 +18,8 @@ struct Fiche {
 /// text and thematic. Throws FauteExecution for an extract outside the arrays.
 Fiche ficheOuverte(const Session& session);
 
+/// The number by which the working arrays know by now the extract on which `ouverte` was opened: the nearest
+/// with its bounds and its text. 0: it was changed or removed, or was none.
+int retrouver(const Session& session, const Fiche& ouverte);
+
 } // namespace vermo::saisie

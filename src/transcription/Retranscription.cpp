@@ -56,6 +56,7 @@ Examen examiner(std::string_view octets, const Utf8& chemin, const Reglages& reg
 
 void viderTableaux(EtatTranscription& etat) {
     etat.source = {};
+    etat.lu = {};
     etat.ExtraitDebut.assign(1, {});
     etat.ExtraitFin.assign(1, {});
     etat.ExtraitCode.assign(1, Texte{});
@@ -96,7 +97,7 @@ void lireSource(Session& session, Plateforme& plateforme) {
     const Utf8& chemin = etat.source.chemin;
     Examen examen;
     try {
-        examen = examiner(lireRetranscription(session.corpus, etat.source), chemin, session.reglages);
+        examen = examiner(lireRetranscription(etat.source, etat.lu), chemin, session.reglages);
     } catch (const FauteExecution& faute) {
         examen.faute = faute.what();
     }
@@ -110,34 +111,34 @@ Texte champTemps(const Temps& temps, const Reglages& reglages) {
     return temps.edite() ? formatDeuxDecimales(*temps.secondes, reglages) : temps.texte;
 }
 
-std::string composer(const Session& session, int slot, rtr::Selection selection) {
+/// The arrays, behind what the file holds before its extracts at this moment.
+std::string composer(const Session& session, std::string_view avant, rtr::Selection selection) {
     const EtatTranscription& etat = session.transcription;
-    const Entretien& entretien = entretienDe(session.corpus, slot);
     std::vector<rtr::Extrait> extraits(1);
     for (int n = 1; n <= nombreExtraits(session); ++n)
         extraits.push_back({champTemps(ligneDe(etat.ExtraitDebut, n), session.reglages),
                             champTemps(ligneDe(etat.ExtraitFin, n), session.reglages),
                             ligneDe(etat.ExtraitCode, n), ligneDe(etat.ExtraitTexte, n)});
-    return rtr::ecrire({entretien.Duree, entretien.Observations, entretien.Attributs}, extraits, selection,
-                       session.reglages);
+    return rtr::ecrireApres(rtr::reecrireEnTete(avant, etat.source.chemin, session.reglages), extraits,
+                            selection, session.reglages);
 }
 
-/// The whole rewrite; every refusal and failure has the same words.
+/// The whole rewrite; every refusal and failure has the same words, but another program's change.
 bool reecrire(Session& session, Plateforme& plateforme, const Retranscription& cible, const Utf8& nom,
               rtr::Selection selection) {
-    const EtatTranscription& etat = session.transcription;
+    EtatTranscription& etat = session.transcription;
     const auto transformer = [&](const Octets& avant) -> Octets {
-        if (!avant || !etat.lectureEntiere || etat.separateurEtranger) return std::nullopt;
-        return composer(session, cible.slot, selection);
+        return composer(session, *avant, selection);
     };
-    bool ecrit = false;
+    if (!etat.lectureEntiere || etat.separateurEtranger || !fichierExiste(cible.chemin))
+        return dire(plateforme, ENREGISTREMENT_IMPOSSIBLE);
     try {
-        ecrit = changerFichiers(session, plateforme, nom, {{cible, transformer}},
-                                Avis{Sujet::Extraits, cible.slot});
+        const auto issue = changerFichiers(session, plateforme, nom, {{cible.chemin, transformer, &etat.lu}},
+                                           Avis{Sujet::Extraits, cible.slot});
+        return issue == IssueChangement::Fait;
     } catch (const FauteExecution&) {
-        // Its cause is told in the same words as a refusal.
+        return dire(plateforme, ENREGISTREMENT_IMPOSSIBLE); // its cause is told in the words of a refusal
     }
-    return ecrit || dire(plateforme, ENREGISTREMENT_IMPOSSIBLE);
 }
 
 /// The bytes with one more extract; none when they may not be rewritten.
@@ -163,7 +164,8 @@ bool ajouter(Session& session, Plateforme& plateforme, const Retranscription& ci
     };
     const bool connu = entretienValide(session.corpus, cible.slot);
     const Utf8 nom = "Ajouter un extrait" + (connu ? " à " + nomEntretien(session.corpus, cible.slot) : "");
-    if (!changerFichiers(session, plateforme, nom, {{cible, transformer}}, Avis{Sujet::Extraits, cible.slot}))
+    if (changerFichiers(session, plateforme, nom, {{cible.chemin, transformer}},
+                        Avis{Sujet::Extraits, cible.slot}) != IssueChangement::Fait)
         return false;
     if (connu && cree) entretienDe(session.corpus, cible.slot).Duree = duree;
     return true;

@@ -1,5 +1,6 @@
 #include "transcription/Saisie.h"
 
+#include "corpus/EcritureCorpus.h"
 #include "textfile/faute.h"
 #include "textfile/nombres.h"
 #include "transcription/Retranscription.h"
@@ -201,30 +202,15 @@ std::optional<Refus> verifierThematique(const EtatCorpus& corpus, const Nouvelle
     return std::nullopt;
 }
 
-int ajouterThematique(EtatCorpus& corpus, const NouvelleThematique& nouvelle) {
-    const int rang = nombreThematiques(corpus) + 1;
-    if (rang > THEMATIQUES_MAX)
-        throw FauteExecution("Un corpus tient au plus " + std::to_string(THEMATIQUES_MAX) + " thématiques.",
-                             corpus.CheminCorpus);
-    const auto places = static_cast<std::size_t>(rang) + 1;
-    corpus.ThmCode.resize(places);
-    corpus.ThmCouleur.resize(places);
-    corpus.ThmNom.resize(places);
-    corpus.ThmVisible.resize(places);
-    corpus.ThmCode.back() = formatCode(arrondi(valeur(nouvelle.TXTcodethem)));
-    corpus.ThmCouleur.back() = nouvelle.CouleurChoisie;
-    corpus.ThmNom.back() = nouvelle.TxtThema;
-    corpus.ThmVisible.back() = 1;
-    corpus.NbThm = static_cast<float>(rang);
-    return rang;
-}
-
-void retirerDerniereThematique(EtatCorpus& corpus) {
-    corpus.ThmCode.pop_back();
-    corpus.ThmCouleur.pop_back();
-    corpus.ThmNom.pop_back();
-    corpus.ThmVisible.pop_back();
-    corpus.NbThm -= 1;
+std::optional<Refus> ajouterThematique(Session& session, Plateforme& plateforme,
+                                       const NouvelleThematique& nouvelle) {
+    if (auto refus = verifierThematique(session.corpus, nouvelle)) return refus;
+    const crp::Thematique rang{formatCode(arrondi(valeur(nouvelle.TXTcodethem))), nouvelle.CouleurChoisie,
+                               nouvelle.TxtThema};
+    const Utf8 nom = "Ajouter la thématique " + versUtf8(nouvelle.TxtThema);
+    if (InsererThematique(session, plateforme, rang, nom)) return std::nullopt;
+    // With the rows that the file has by now; what else was in the way has been said.
+    return verifierThematique(session.corpus, nouvelle).value_or(Refus{});
 }
 
 bool validerModification(Session& session, Plateforme& plateforme, const Texte& caption, Texte texte) {
@@ -240,9 +226,10 @@ bool validerModification(Session& session, Plateforme& plateforme, const Texte& 
         std::swap(ligneDe(etat.ExtraitTexte, k), texte);
     };
     echanger();
+    const EtatLu avant = etat.lu;
     const bool ecrit = EnregistrerExtraits(session, plateforme,
                                            nommerExtrait(session.corpus, "Modifier", k, etat.source.slot));
-    if (!ecrit) echanger();
+    if (!ecrit && etat.lu == avant) echanger(); // unless the arrays were read again
     return ecrit;
 }
 

@@ -141,18 +141,17 @@ struct NouvelleThematique {
 };
 
 struct Refus {
-    Message message;
+    Message message{};       ///< without a text: it was said already
     bool codeFautif = false; ///< the code field is to be selected
 };
 
 /// Why a thematic can't be added; nothing when it can. Codes are compared as numbers.
 std::optional<Refus> verifierThematique(const EtatCorpus& corpus, const NouvelleThematique& nouvelle);
 
-/// Adds the row, visible, and returns its number. Throws FauteExecution beyond 999 rows.
-int ajouterThematique(EtatCorpus& corpus, const NouvelleThematique& nouvelle);
-
-/// Takes the last row off again, when the corpus file could not be written.
-void retirerDerniereThematique(EtatCorpus& corpus);
+/// Adds the thematic to the corpus file, behind the rows that it holds by now, and to the table. Why it
+/// can't be added, or nothing. Throws FauteExecution when the file can't be read or written.
+std::optional<Refus> ajouterThematique(Session& session, Plateforme& plateforme,
+                                       const NouvelleThematique& nouvelle);
 
 // --- Validation
 // ----------------------------------------------------------------------------------------------

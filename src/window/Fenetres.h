@@ -67,6 +67,10 @@ class Fenetres {
     virtual void ImporterEntretien() = 0; ///< asks for the file
     virtual void retirerEntretien() = 0;  ///< asks, then takes EntretienCourant out of the corpus
     virtual void DeplacerEntretien(int source, int cible) = 0; ///< the list is saved and the corpus reopened
+    virtual void annulerChangement() = 0;                      ///< takes the last change of the corpus back
+    virtual void refaireChangement() = 0; ///< makes the last one that was taken back again
+    virtual bool aAnnuler() const = 0;    ///< whether there is one
+    virtual bool aRefaire() const = 0;
 };
 
 } // namespace vermo

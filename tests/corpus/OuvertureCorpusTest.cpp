@@ -72,7 +72,8 @@ TEST(CorpusRewriting, LeavesOutWhatIsEmptyAndAFileWithoutItsTag) {
     EXPECT_EQ(ecrire(), "Projet\r\n<|THEM|\r\n" + PAS + "002,9,Deux\r\n>|THEM|\r\n<|POS|\r\n>|POS|\r\n" +
                             "<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\nb.wav\r\n>|ENTR|\r\n");
     essai.dossier().ecrire("c/Essai.Crp", "rien\r\n");
-    essai.dialogues().repondre(Reponse::Ok, "des thématiques").repondre(Reponse::Ok, "des entretiens");
+    for (const char* dit : {"changé par un autre", "d'ouverture des thématiques", "changé par un autre"})
+        essai.dialogues().repondre(Reponse::Ok, dit);
     EXPECT_EQ(ecrire(), "rien\r\n");
 }
 
@@ -83,11 +84,11 @@ TEST(Order, MovesInterviewsWithTheirExtracts) {
     for (const auto& [source, cible, attendu] : cas) {
         Session session = corpusDEssai(4);
         for (std::size_t i = 1; i <= 4; ++i)
-            session.corpus.Entretiens[i].Fichier = session.corpus.extraits[i].chemin = std::to_string(i);
+            session.corpus.Entretiens[i].Fichier = session.corpus.extraits[i].lu.chemin = std::to_string(i);
         DeplacerEntretien(session, source, cible);
         EXPECT_EQ(ordre(session.corpus), attendu);
         for (std::size_t i = 1; i <= 4; ++i)
-            EXPECT_EQ(session.corpus.Entretiens[i].Fichier, session.corpus.extraits[i].chemin);
+            EXPECT_EQ(session.corpus.Entretiens[i].Fichier, session.corpus.extraits[i].lu.chemin);
     }
 }
 
@@ -140,8 +141,7 @@ TEST_F(Import, CopiesAfterAYesAndTellsACopyThatFails) {
 TEST_F(Import, KeepsATranscriptAndRefusesWhatCannotStandInTheList) {
     ajouterEntretien(session, "la.wav", 12.5);
     hote.dossier.ecrire("c/la.Rtr", "gardee");
-    creerRetranscription(session, hote, 1);
-    EXPECT_EQ(hote.dossier.lire("c/la.Rtr"), "gardee");
+    EXPECT_FALSE(retranscriptionACreer(session, 1));
     for (const char* nom : {"/x/łódź.wav", "/x/a\rb.wav"})
         EXPECT_THROW(nomImporte(nom), FauteExecution);
     hote.dialogues.repondre(Reponse::Ok, "Le fichier la.wav est déjà présent dans le projet.");

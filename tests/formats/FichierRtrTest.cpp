@@ -39,10 +39,9 @@ TEST(TranscriptFile, AbsorbsEmptyLines) {
 TEST(TranscriptFile, OfThisProgramComesBackByteForByte) {
     const std::vector<Extrait> extraits = {
         {}, {"0,00", "1,5", "001", "\r"}, {"1,5", "12", "", "un\rdeux\r"}, {"3", "2", "01", "\r"}};
-    const EnTete enTete{62.25F, "Note, \"dite\"\r\r> fin", {0, 2, 41}};
     const std::pair<std::string, Reglages> cas[] = {
         {nouveau(0.5F, VIRGULE), VIRGULE},
-        {ecrire(enTete, extraits, {}, VIRGULE), VIRGULE},
+        {ecrireApres(nouveau(62.25F, VIRGULE), extraits, {}, VIRGULE), VIRGULE},
         {TETE + "::1.25::000\r\na\r\r\n::2.00::\r\n", POINT},
         // A header that this program doesn't write is kept as it stands.
         {" 60\r<|OBS|\rnote\n\r>|OBS|\r\n::1.00::001\r\nt\r\r\n::2.00::\r\n", POINT},
@@ -51,9 +50,26 @@ TEST(TranscriptFile, OfThisProgramComesBackByteForByte) {
         const Lecture lecture = lire(octets, "a.Rtr");
         EXPECT_EQ(ecrireApres(lecture.enTete, lecture.extraits, {}, reglages), octets);
     }
-    EnTete lu{125.5F, depuisUtf8("Entretien réalisé"), {}};
-    poser(lireAttributs(TETE, ""), lu.attributs);
-    EXPECT_EQ(ecrireEnTete(lu, POINT), TETE);
+}
+
+/// "/" stands for a line end of the normal form.
+TEST(TranscriptFile, RewritesItsHeaderAndLeavesTheLinesOfNoSection) {
+    const auto octets = [](std::string lignes) {
+        for (std::size_t p = 0; (p = lignes.find('/', p)) != std::string::npos; p += 2)
+            lignes.replace(p, 1, "\r\n");
+        return lignes;
+    };
+    const std::string vides = "<|OBS|//>|OBS|/<|ATTR|/>|ATTR|/";
+    const std::pair<std::string, std::string> cas[] = {
+        {"60/::1.00::0/t/::2.00::/", " 60 /" + vides},
+        {" 60 /<|OBS|/\r/Note\rfin/>|OBS|/<|ATTR|/3,0/99,41//1,2/>|ATTR|/",
+         " 60 /<|OBS|/Note\rfin\r/>|OBS|/<|ATTR|/1,2/99,41/>|ATTR|/"},
+        {"60/avant/<|OBS|/>|OBS|/entre//<|ATTR|/>|ATTR|/fin/",
+         " 60 /avant/<|OBS|//>|OBS|/entre//<|ATTR|/>|ATTR|/fin/"},
+        {"60/note/<|ATTR|/1,2/>|ATTR|/", " 60 /note/<|ATTR|/1,2/>|ATTR|/<|OBS|//>|OBS|/"},
+        {"60/" + vides + "<|OBS|/autre/>|OBS|/", " 60 /" + vides + "<|OBS|/autre/>|OBS|/"}};
+    for (const auto& [avant, apres] : cas)
+        EXPECT_EQ(reecrireEnTete(octets(avant), "", POINT), octets(apres)) << avant;
 }
 
 TEST(TranscriptFile, WritesRoundedTimesAndTheChosenExtracts) {
@@ -62,13 +78,13 @@ TEST(TranscriptFile, WritesRoundedTimesAndTheChosenExtracts) {
                                            {"1.005", "12", "004 Vie", "t"},
                                            {"2e1", "3", "", "\r"},
                                            {"0", "4", "000", "z"}};
-    const std::string tete = " 0.5 \r\n<|OBS|\r\n\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n";
+    const std::string tete = " 0.5 \r\n";
     const std::string un = "::-0.50::000\r\n\r\n::1.00::\r\n", deux = "::1.01::004 Vie\r\nt\r\n::12.00::\r\n",
                       trois = "::20.00::\r\n\r\r\n::3.00::\r\n::0.00::000\r\nz\r\n::4.00::\r\n";
-    EXPECT_EQ(ecrire({.duree = 0.5F}, extraits, {}, POINT), tete + un + deux + trois);
-    EXPECT_EQ(ecrire({.duree = 0.5F}, extraits, {.sauterNegatifs = true}, POINT), tete + deux + trois);
-    EXPECT_EQ(ecrire({.duree = 0.5F}, extraits, {.exclu = 2}, POINT), tete + un + trois);
-    EXPECT_THROW(ecrire({}, {{}, {"", "1", "000", ""}}, {}, POINT), FauteExecution);
+    EXPECT_EQ(ecrireApres(tete, extraits, {}, POINT), tete + un + deux + trois);
+    EXPECT_EQ(ecrireApres(tete, extraits, {.sauterNegatifs = true}, POINT), tete + deux + trois);
+    EXPECT_EQ(ecrireApres(tete, extraits, {.exclu = 2}, POINT), tete + un + trois);
+    EXPECT_THROW(ecrireApres({}, {{}, {"", "1", "000", ""}}, {}, POINT), FauteExecution);
 }
 
 TEST(TranscriptFile, InsertsBeforeTheFirstGreaterStart) {

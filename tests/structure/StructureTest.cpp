@@ -86,7 +86,7 @@ TEST(Includes, EverySourceKeepsItsLevel) {
 TEST(Writers, AreTheDoorAndThoseNamedHere) {
     std::set<std::string> ecrivains;
     for (const auto& [chemin, texte] : SOURCES)
-        for (const char* appel : {"remplacerFichier(", "supprimerFichier(", "copierFichier("})
+        for (const char* appel : {"remplacerFichier(", "remplacerSi(", "supprimerFichier(", "copierFichier("})
             if (texte.find(appel) != std::string::npos) ecrivains.insert(chemin);
     EXPECT_EQ(ecrivains, ECRIVAINS);
 }

@@ -38,6 +38,11 @@ class FenetresMuettes : public Fenetres {
         noter("DeplacerEntretien " + std::to_string(source) + " " + std::to_string(cible));
     }
 
+    void annulerChangement() override { noter("annulerChangement"); }
+    void refaireChangement() override { noter("refaireChangement"); }
+    bool aAnnuler() const override { return true; }
+    bool aRefaire() const override { return true; }
+
   private:
     static std::string nom(Fenetre f) { return std::string(nomFenetre(f)); }
     static std::string dit(std::monostate) { return {}; }

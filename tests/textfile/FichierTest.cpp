@@ -101,14 +101,17 @@ TEST(FileReplacement, TellsEachCallThatFails) {
         {{1, EIO, "close"}, es + "erreur d'entrée-sortie", false},
         {{1, EINTR, "close"}, "", true},
         {{1, EACCES, "rename"}, es + "accès refusé", false},
-        {{1, EIO, "fsync"}, "Enregistrement incertain après une coupure : erreur d'entrée-sortie", true},
+        {{1, EIO, "fsync"}, "doute : erreur d'entrée-sortie", true},
         {{1, EINVAL, "fsync"}, "", true}};
     const auto avant = descripteursOuverts();
     for (const auto& [panne, message, remplace] : cas) {
         dossier.ecrire("a.Rtr", ancien);
         const Pannes pannes(panne);
-        EXPECT_EQ(faute([&] { remplacerFichier(chemin, nouveau); }),
-                  message.empty() ? "" : message + "\n" + chemin)
+        const auto remplacer = [&] {
+            const Utf8 doute = remplacerFichier(chemin, nouveau).doute;
+            if (!doute.empty()) throw FauteExecution("doute : " + doute, chemin);
+        };
+        EXPECT_EQ(faute(remplacer), message.empty() ? "" : message + "\n" + chemin)
             << panne.appel << " " << panne.erreur;
         EXPECT_TRUE(dossier.lire("a.Rtr") == (remplace ? nouveau : ancien)) << panne.appel << panne.erreur;
         EXPECT_EQ(temporairesRestants(dossier), 0);

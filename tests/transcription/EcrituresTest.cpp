@@ -43,22 +43,26 @@ TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
         Texte saisi = "neuf";
         AjouterExtrait(session, hote, e.cible(), saisi, "001");
     };
+    const auto lire = [&] { LireRetranscription(session, hote); };
+    const auto lireCorpus = [&] {
+        session.corpus.luThematiques =
+            session.corpus.luEntretiens = {session.corpus.CheminCorpus, {}, empreinteDe(corpus)};
+    };
     const struct {
         const char* nom;
         std::optional<std::string> ancien; ///< none: the file is made
         std::function<void()> action;
-    } cas[] = {{"E.Crp", corpus, [&] { EcrireThematiques(session, hote); }},
-               {"E.Crp", corpus, [&] { EcrireEntretiens(session, hote); }},
-               {"E.Crp.$$$", {}, [&] { EcrireEntretiens(session, hote); }},
+    } cas[] = {{"E.Crp", corpus, [&] { lireCorpus(), EcrireThematiques(session, hote); }},
+               {"E.Crp", corpus, [&] { lireCorpus(), EcrireEntretiens(session, hote); }},
                {"Neuf.Crp", {}, [&] { creerCorpus(autre, hote); }},
                {"Projets.ini", "/ancien.Crp\r\n", [&] { MettreAJourProjets(session, hote); }},
                {"son.wav", {}, apporter},
                {"son.wav", "ancien", apporter},
-               {"a.Rtr", {}, [&] { creerRetranscription(session, hote, 1); }},
+               {"a.Rtr", {}, [&] { InsererEntretien(session, hote, 1, ""); }},
                {"a.Rtr", {}, ajouter},
                {"a.Rtr", rtr, ajouter},
-               {"a.Rtr", rtr, [&] { EnregistrerExtraits(session, hote); }},
-               {"a.Rtr", rtr, [&] { SupprimerExtrait(session, hote, e.cible()); }}};
+               {"a.Rtr", rtr, [&] { lire(), EnregistrerExtraits(session, hote); }},
+               {"a.Rtr", rtr, [&] { lire(), SupprimerExtrait(session, hote, e.cible()); }}};
     session.transcription.SaisieFin = 2;
     session.transcription.ExtraitCourant = 1;
     for (const auto& c : cas) {

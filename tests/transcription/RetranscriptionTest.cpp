@@ -81,7 +81,7 @@ TEST(Transcript, KeepsTheDisksNameAndTheMachinesComma) {
     EXPECT_TRUE(EnregistrerExtraits(e.session, e.hote));
     const std::string ecrit = e.hote.dossier.lire("A.RTR");
     EXPECT_EQ(ecrit.substr(0, 9) + ecrit.substr(ecrit.find("::")),
-              " 125,5 \r\n::1,50::000\r\na\r\r\n::2,00::\r\n");
+              " 60 \r\n<|O::1,50::000\r\na\r\r\n::2,00::\r\n");
     EXPECT_FALSE(e.hote.dossier.existe("a.Rtr"));
 }
 
@@ -210,12 +210,16 @@ TEST(Thematics, WhatAnExtractShowsAndWhatMayBeAdded) {
     const Refus refus = verifierThematique(corpus, {"a", "n", "1"}).value_or(Refus{});
     EXPECT_TRUE(refus.message.texte.starts_with("Le code 'a' existe déjà")) << "it would be 000";
     EXPECT_TRUE(refus.codeFautif);
-    const NouvelleThematique bonne{"8", "Vie, travail", "255"};
-    EXPECT_EQ(ajouterThematique(corpus, bonne), 4);
-    EXPECT_EQ(thematiqueDeCode(corpus, "008").caption, "008 Vie, travail");
-    while (corpus.NbThm < 999)
-        ajouterThematique(corpus, bonne);
-    EXPECT_THROW(ajouterThematique(corpus, bonne), FauteExecution);
+    CorpusDEssai essai;
+    essai.ecrireCorpus("000,&H0, Sans\r\n", "");
+    ASSERT_TRUE(essai.ouvrir());
+    EXPECT_FALSE(ajouterThematique(essai.session, essai.hote, {"8", "Vie, travail", "255"}));
+    EXPECT_EQ(thematiqueDeCode(essai.corpus(), "008").caption, "008 Vie, travail");
+    std::string pleine;
+    for (int code = 0; code < 999; ++code)
+        pleine += std::to_string(code) + ",0,n\r\n";
+    essai.ecrireCorpus(pleine, "");
+    EXPECT_THROW(ajouterThematique(essai.session, essai.hote, {"999", "n", "0"}), FauteExecution);
 }
 
 } // namespace

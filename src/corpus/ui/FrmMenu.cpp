@@ -39,7 +39,10 @@ void FrmMenu::montrer(const Contenu& contenu) {
 
 void FrmMenu::OuvrirMenu(Panneau panneau, Rectangle ancre) {
     ouvert_ = panneau;
-    if (panneau == Panneau::Corpus) listerCorpus();
+    if (panneau == Panneau::Corpus) {
+        listerCorpus();
+        montrerHistoire();
+    }
     montrerEntretienCourant();
     montrerVolume();
     for (auto& [autre, cadre] : FrmMnu_)

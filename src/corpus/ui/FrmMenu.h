@@ -49,6 +49,7 @@ class FrmMenu : public Forme {
     void ajouterEntretienCourant(QVBoxLayout* colonne);
     void ajouterVolume(QVBoxLayout* colonne);
     void listerCorpus();
+    void montrerHistoire();
     void montrerEntretienCourant();
     void suivreActivation(const QWindow* fenetre);
 

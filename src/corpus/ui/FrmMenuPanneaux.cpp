@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 #include <initializer_list>
+#include <tuple>
 
 namespace vermo {
 namespace {
@@ -42,7 +43,8 @@ void FrmMenu::construirePanneaux() {
         return colonne;
     };
     QVBoxLayout* corpus =
-        remplir(Panneau::Corpus, QStringLiteral("Corpus"), {"nouveau", "ouvrir", "sauvegarder"});
+        remplir(Panneau::Corpus, QStringLiteral("Corpus"),
+                {"nouveau", "ouvrir", "sauvegarder", "annuler-changement", "refaire-changement"});
     QWidget* cadreCorpus = corpus->parentWidget();
     corpus->addWidget(intitule("LblSynthese", QStringLiteral("Synthèse"), cadreCorpus));
     for (const std::string_view commande : {"synthese-word", "synthese-rtf", "synthese-paquet"})
@@ -115,6 +117,23 @@ void FrmMenu::montrerEntretienCourant() {
     label->setText(versQt(courant.Fichier));
     cadre->findChild<BoutonImage*>(QStringLiteral("ImgOnOff"))
         ->icone(courant.Visible ? QStringLiteral("ImgOn") : QStringLiteral("ImgOff"));
+}
+
+/// The change that each step through the history would take back or make again, by its name.
+void FrmMenu::montrerHistoire() {
+    const QWidget* cadre = FrmMnu_.at(Panneau::Corpus);
+    for (const auto& [nom, action, sens] :
+         {std::tuple("lblannuler", "Annuler", &session_.histoire.faits),
+          std::tuple("lblrefaire", "Rétablir", &session_.histoire.defaits)}) {
+        QString texte = utf8VersQt(action);
+        if (!sens->empty()) {
+            const QString change = utf8VersQt(sens->back().nom);
+            texte += QStringLiteral(" : ") + change.at(0).toLower() + change.mid(1);
+        }
+        auto* ligne = cadre->findChild<Lien*>(QLatin1String(nom));
+        ligne->setText(texte);
+        ligne->setMaximumWidth(LARGEUR_RECENT);
+    }
 }
 
 void FrmMenu::ajouterVolume(QVBoxLayout* colonne) {

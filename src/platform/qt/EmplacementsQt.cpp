@@ -12,9 +12,11 @@ Emplacements emplacementsQt() {
         return QFile::encodeName(QDir::cleanPath(chemin) + QLatin1Char('/')).toStdString();
     };
     const QString programme = QCoreApplication::applicationDirPath();
+    const QString execution = qEnvironmentVariable("XDG_RUNTIME_DIR");
     return {dossier(programme), dossier(programme + QStringLiteral("/../share/vermo")),
             dossier(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                    QStringLiteral("/Vermo"))};
+                    QStringLiteral("/Vermo")),
+            execution.isEmpty() ? Utf8() : dossier(execution)};
 }
 
 } // namespace vermo

@@ -100,6 +100,29 @@ void FrmSaisie::montrer(const Contenu& contenu) {
 
 void FrmSaisie::surAvis(const Avis& avis) {
     if (avis.sujet == Sujet::Thematiques) ConstruireThematiques();
+    if (avis.sujet == Sujet::Extraits && avis.slot == fiche_.source.slot && isVisible()) retrouverExtrait();
+}
+
+/// The extracts were read again: what is typed stays, for the same extract, or for a new one beside what the
+/// file holds by now. An extract that is only looked at is followed, or left.
+void FrmSaisie::retrouverExtrait() {
+    auto& etat = session_.transcription;
+    if (fiche_.numero == 0) return;
+    const int numero = saisie::retrouver(session_, ouverte_);
+    if (numero == 0 && !entamee()) return relireExtrait();
+    fiche_.numero = ouverte_.numero = numero;
+    etat.ExtraitCourant = static_cast<float>(numero);
+    etat.NouvelExtrait = numero == 0;
+    Imgsuppr_->setVisible(!etat.NouvelExtrait);
+}
+
+void FrmSaisie::relireExtrait() {
+    if (fiche_.numero > nombreExtraits(session_)) return FermerSaisie();
+    saisie::ouvrirSpan(session_, fiche_.numero);
+    fiche_ = ouverte_ = saisie::ficheOuverte(session_);
+    montrerFiche();
+    titrer();
+    dessinerOnde();
 }
 
 void FrmSaisie::PreparerSaisie() {
@@ -254,9 +277,11 @@ bool FrmSaisie::texteValide(Texte& texte) {
 bool FrmSaisie::cacherPour(const std::function<bool()>& ecrire) {
     arreterAllongement();
     const double duree = std::exchange(session_.transcription.SaisieDuree, 0);
+    const EtatLu lu = session_.transcription.lu;
     const auto revenir = [&] {
         session_.transcription.SaisieDuree = duree;
         show();
+        if (session_.transcription.lu != lu) retrouverExtrait();
     };
     hide();
     try {

@@ -67,6 +67,8 @@ class FrmSaisie : public Forme {
     void placerLargeur(bool depliee);
     void colorer(); ///< the bands, by the thematic and the colour that is being chosen
     void montrerFiche();
+    void retrouverExtrait();
+    void relireExtrait();
     void montrerThematique();
     void titrer();
     void placerCurseur();

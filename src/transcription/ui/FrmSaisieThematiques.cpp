@@ -123,26 +123,18 @@ void FrmSaisie::reinitialiserAjout() {
 }
 
 void FrmSaisie::ajouterThematique() {
-    auto& corpus = session_.corpus;
     const saisie::NouvelleThematique nouvelle{depuisQt(TXTcodethem_->text()), depuisQt(TxtThema_->text()),
                                               CouleurChoisie_};
-    if (const auto refus = saisie::verifierThematique(corpus, nouvelle)) {
-        plateforme_.dialogues.demander(refus->message);
+    if (const auto refus = saisie::ajouterThematique(session_, plateforme_, nouvelle)) {
+        if (!refus->message.texte.empty()) plateforme_.dialogues.demander(refus->message);
         if (refus->codeFautif) {
             TXTcodethem_->setFocus();
             TXTcodethem_->setSelection(0, 3);
         }
         return;
     }
-    saisie::ajouterThematique(corpus, nouvelle);
-    try {
-        EcrireThematiques(session_, plateforme_, "Ajouter la thématique " + versUtf8(nouvelle.TxtThema));
-    } catch (const FauteExecution&) {
-        saisie::retirerDerniereThematique(corpus);
-        throw;
-    }
     CouleurChoisie_.clear();
-    choisirThematique(int(corpus.NbThm));
+    choisirThematique(nombreThematiques(session_.corpus));
     reinitialiserAjout();
 }
 

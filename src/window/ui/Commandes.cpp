@@ -46,12 +46,38 @@ std::uint8_t modificateurs(const QKeyEvent& evenement) {
                                      (tenus & Qt::ShiftModifier ? MAJ : 0));
 }
 
+/// A control that edits a text takes these keys for its own.
+constinit const Commande COMMUNES[] = {
+    {.id = "annuler-changement",
+     .ligne = "lblannuler",
+     .texte = "Annuler",
+     .touches = {{"Ctrl + Z", {}, 0}},
+     .faire = agir<&Forme::annulerChangement>,
+     .permise = agir<&Forme::aAnnuler>},
+    {.id = "refaire-changement",
+     .ligne = "lblrefaire",
+     .texte = "Rétablir",
+     .touches = {{"Ctrl + Maj + Z", {}, 0}},
+     .faire = agir<&Forme::refaireChangement>,
+     .permise = agir<&Forme::aRefaire>},
+};
+
 } // namespace
 
 Commandes::Commandes(Forme& fenetre, TableCommandes table) : fenetre_(fenetre), table_(table) {}
 
+TableCommandes Commandes::communes() {
+    return COMMUNES;
+}
+
+const Commande& Commandes::commande(std::string_view id) const {
+    for (const Commande& commune : COMMUNES)
+        if (commune.id == id) return commune;
+    return commandeDe(table_, id);
+}
+
 BoutonImage* Commandes::bouton(std::string_view id, QWidget* parent) {
-    const Commande& commande = commandeDe(table_, id);
+    const Commande& commande = this->commande(id);
     auto* bouton =
         new BoutonImage(utf8VersQt(commande.bouton), utf8VersQt(commande.icone), bulle(id), parent);
     if (!commande.iconePressee.empty()) bouton->iconePressee(utf8VersQt(commande.iconePressee));
@@ -60,7 +86,7 @@ BoutonImage* Commandes::bouton(std::string_view id, QWidget* parent) {
 }
 
 Lien* Commandes::ligne(std::string_view id, QWidget* parent) {
-    const Commande& commande = commandeDe(table_, id);
+    const Commande& commande = this->commande(id);
     auto* ligne = new Lien(utf8VersQt(commande.ligne), utf8VersQt(commande.texte), parent);
     if (commande.bouton.empty()) ligne->setToolTip(bulle(id));
     relier(id, ligne);
@@ -68,7 +94,7 @@ Lien* Commandes::ligne(std::string_view id, QWidget* parent) {
 }
 
 void Commandes::relier(std::string_view id, QAbstractButton* controle) {
-    const Commande& commande = commandeDe(table_, id);
+    const Commande& commande = this->commande(id);
     controles_.emplace_back(&commande, controle);
     controle->setEnabled(permise(commande));
     const auto agir = [this, &commande] {
@@ -84,7 +110,7 @@ void Commandes::relier(std::string_view id, QAbstractButton* controle) {
 }
 
 QString Commandes::bulle(std::string_view id) const {
-    const Commande& commande = commandeDe(table_, id);
+    const Commande& commande = this->commande(id);
     return utf8VersQt(vermo::avecTouches(table_, commande.bulle, &commande));
 }
 
@@ -139,8 +165,9 @@ const Commande* Commandes::visee(const QKeyEvent& evenement, std::string_view co
     Touche touche;
     touche.cle = cle, touche.avec = modificateurs(evenement);
     const auto vise = [&](const Raccourci& r) { return r.vaut(touche) && r.tientDans(controle); };
-    for (const Commande& commande : table_)
-        if (std::ranges::any_of(commande.touches, vise) && permise(commande)) return &commande;
+    for (const TableCommandes table : {table_, communes()})
+        for (const Commande& commande : table)
+            if (std::ranges::any_of(commande.touches, vise) && permise(commande)) return &commande;
     return nullptr;
 }
 

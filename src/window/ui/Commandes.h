@@ -39,6 +39,8 @@ constexpr auto agir = &SurFenetre<Methode>::faire;
 class Commandes : public QObject {
   public:
     Commandes(Forme& fenetre, TableCommandes table);
+    /// Those that every window has beside its own: the history of changes.
+    static TableCommandes communes();
 
     std::function<void()> avantBouton; ///< runs before what a button or a row does
     std::function<bool()> enService;   ///< false: no command may be used now
@@ -71,6 +73,7 @@ class Commandes : public QObject {
 
   private:
     void ecouter(const QString& nom);
+    const Commande& commande(std::string_view id) const;
     const Commande* visee(const QKeyEvent& evenement, std::string_view controle) const;
     bool permise(const Commande& commande) const;
     void faire(const Commande& commande);

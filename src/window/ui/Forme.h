@@ -33,6 +33,12 @@ class Forme : public QWidget {
     /// Holds what was typed and stands in no file.
     virtual bool entamee() const { return false; }
 
+    /// What every window's keys and rows do with the history of changes.
+    void annulerChangement() { fenetres_.annulerChangement(); }
+    void refaireChangement() { fenetres_.refaireChangement(); }
+    bool aAnnuler() const { return fenetres_.aAnnuler(); }
+    bool aRefaire() const { return fenetres_.aRefaire(); }
+
     /// Opacity 0 to 255. Kept even where nothing composites windows.
     void Transparence(int alpha);
     int alpha() const { return alpha_; }
