@@ -35,6 +35,7 @@ void PeintreElements::peindre(const Element& element) {
         if (element.encre != Encre::Copie) couleur.setAlpha(element.encre == Encre::Fusion ? FUSION : VOILE);
         remplissage_.remplir(cadre, couleur);
     }
+    if (!element.image.empty() || element.borde || !element.texte.empty()) remplissage_.finir();
     if (!element.image.empty())
         peintre_.drawImage(cadre, imageEtiree(element.image, (cadre.size() * ratio_).toSize()));
     if (element.borde) border(cadre, element.bord);
