@@ -87,6 +87,11 @@ double dureeAuLecteur(Plateforme& plateforme, const Utf8& chemin) {
     return media.duration();
 }
 
+/// Its full path; empty where it wasn't installed.
+Utf8 convertisseur(const Plateforme& plateforme) {
+    return plateforme.emplacements.fichierLu(CONVERTISSEUR);
+}
+
 Utf8 nomCanaux(int canaux) {
     return canaux == 1 ? "Mono" : canaux == 2 ? "Stereo" : "";
 }
@@ -102,7 +107,8 @@ bool proposerOuverture(Plateforme& plateforme) {
 
 Utf8 choisirEnregistrement(const Session& session, Plateforme& plateforme) {
     return plateforme.dialogues.choisirFichier(
-        {"Choisissez un fichier Son", "Fichiers WAV|*.Wav", "Wav", false, session.corpus.RepCorpus});
+        {"Choisissez un fichier Son", "Fichiers WAV|*.Wav|Tous les enregistrements|" + Utf8(FORMATS_LUS),
+         "Wav", false, session.corpus.RepCorpus});
 }
 
 ChoixFormat demanderFormat(const EnTeteWav& enTete, Plateforme& plateforme) {
@@ -112,14 +118,15 @@ ChoixFormat demanderFormat(const EnTeteWav& enTete, Plateforme& plateforme) {
              std::to_string(enTete.BitsParEchantillon) +
              " bits \n\nPour travailler dans Vermo, le Format 8 bits mono est préférable...\n"
              "Souhaitez-vous utiliser le convertisseur?",
-         "Vermo - Conversion de fichier?", Boutons::OuiNonAnnuler, Icone::Question});
+         "Vermo - Conversion de fichier?", Boutons::OuiNonAnnuler, Icone::Question,
+         convertisseur(plateforme).empty() ? Reponse::Non : Reponse::Oui});
     return reponse == Reponse::Oui   ? ChoixFormat::Convertir
            : reponse == Reponse::Non ? ChoixFormat::Garder
                                      : ChoixFormat::Annuler;
 }
 
 void lancerConvertisseur(Plateforme& plateforme) {
-    const Utf8 programme = plateforme.emplacements.fichierLu(CONVERTISSEUR);
+    const Utf8 programme = convertisseur(plateforme);
     if (programme.empty()) {
         plateforme.dialogues.demander({"Impossible de lancer le convertisseur!\nLe fichier " +
                                            plateforme.emplacements.programme + CONVERTISSEUR +
@@ -173,8 +180,10 @@ bool dejaDansCorpus(const Session& session, Plateforme& plateforme, const Texte&
 
 double mesurerDuree(Plateforme& plateforme, const Utf8& chemin) {
     const double duree = dureeAuLecteur(plateforme, chemin);
-    if (duree == 0) plateforme.dialogues.demander({"ça ne fonctionne pas !"});
-    return duree;
+    if (duree != 0) return duree;
+    const Utf8 cause = plateforme.media.erreur();
+    plateforme.dialogues.demander({"ça ne fonctionne pas !" + (cause.empty() ? "" : "\n" + cause)});
+    return 0;
 }
 
 void ajouterEntretien(Session& session, const Texte& nom, double duree) {

@@ -9,12 +9,13 @@ namespace vermo {
 /// Without an open corpus: whether to open one.
 bool proposerOuverture(Plateforme& plateforme);
 
-/// The recording to import; empty when the person gave up.
+/// The recording to import, a WAV file before any other; empty when the person gave up.
 Utf8 choisirEnregistrement(const Session& session, Plateforme& plateforme);
 
 /// What to do with a recording that is not in the preferred format.
 enum class ChoixFormat { Garder, Convertir, Annuler };
-/// Asks only for 16 bits or two channels; any other format is kept.
+/// Asks only for 16 bits or two channels; any other format is kept. Where there is no converter, Enter keeps
+/// it.
 ChoixFormat demanderFormat(const EnTeteWav& enTete, Plateforme& plateforme);
 
 /// Starts the converter, or says that it is missing.
@@ -31,8 +32,8 @@ bool apporterDansCorpus(const Session& session, Plateforme& plateforme, const Ut
 /// True, and said, when an interview has this very name.
 bool dejaDansCorpus(const Session& session, Plateforme& plateforme, const Texte& nom);
 
-/// Seconds, from the player, which is left stopped on the file; waits until it knows. 0, and said, when the
-/// file can't be played or the person gave up waiting.
+/// Seconds, from the player, which is left stopped on the file; waits until it knows. 0, and said with the
+/// player's cause, when the file can't be played or the person gave up waiting.
 double mesurerDuree(Plateforme& plateforme, const Utf8& chemin);
 
 /// A new last slot, active. Throws FauteExecution, nothing added, when the corpus holds ENTRETIENS_MAX.

@@ -8,8 +8,9 @@
 namespace vermo {
 namespace {
 
-/// False ends the import: the person gave up or turned to the converter.
+/// False ends the import: the person gave up or turned to the converter, which takes WAV files only.
 bool formatAccepte(Plateforme& plateforme, const Utf8& chemin) {
+    if (!estWav(chemin)) return true;
     switch (demanderFormat(LireEnteteWav(chemin, plateforme.dialogues), plateforme)) {
     case ChoixFormat::Annuler:
         return false;

@@ -18,8 +18,15 @@ struct Import : testing::Test {
     }
 };
 
-TEST_F(Import, StartsTheConverter) {
+TEST_F(Import, OffersAndStartsTheConverterThatIsThere) {
+    EnTeteWav stereo;
+    stereo.NbCanaux = 2;
+    hote.dialogues.repondre(Reponse::Non).repondre(Reponse::Non);
+    demanderFormat(stereo, hote);
+    EXPECT_NE(hote.dialogues.dernier().find("|OuiNonAnnuler:Non|"), std::string::npos);
     const Utf8 chemin = hote.dossier.ecrire("donnees/Convertisseur.exe", "");
+    demanderFormat(stereo, hote);
+    EXPECT_NE(hote.dialogues.dernier().find("|OuiNonAnnuler:Oui|"), std::string::npos);
     lancerConvertisseur(hote);
     EXPECT_EQ(hote.lanceur.lances, std::vector<Utf8>{chemin});
 }
