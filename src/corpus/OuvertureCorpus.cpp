@@ -82,6 +82,7 @@ bool demanderCorpus(Session& session, Plateforme& plateforme) {
 
 void nommerCorpus(Session& session) {
     EtatCorpus& corpus = session.corpus;
+    corpus.CheminCorpus = cheminReel(corpus.CheminCorpus);
     corpus.RepCorpus = repertoireDe(corpus.CheminCorpus);
     corpus.NomCorpus = nomDe(corpus.CheminCorpus);
 }

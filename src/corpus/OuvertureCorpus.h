@@ -20,7 +20,7 @@ std::vector<Utf8> listeProjets(const Emplacements& emplacements);
 /// the person gave up or chose the corpus that is open.
 bool demanderCorpus(Session& session, Plateforme& plateforme);
 
-/// RepCorpus and NomCorpus from CheminCorpus.
+/// RepCorpus and NomCorpus from CheminCorpus, which takes the name that the file has on the disk.
 void nommerCorpus(Session& session);
 
 /// Puts CheminCorpus at the head of the recent list. A list that can't be read or written is said in one

@@ -72,15 +72,18 @@ TEST(Paths, Parts) {
     EXPECT_EQ(compagnon("ab", "Rtr") + extension3("x.Wav") + extension3("ab"), "RtrWAVAB");
 }
 
-TEST(Paths, AreFoundWhateverTheirCase) {
+TEST(Paths, AreFoundWhateverTheirCaseAndAccents) {
     const essai::DossierTemporaire dossier;
-    for (const char* nom : {"Entretien Été.WAV", "a.rtr", "A.Rtr", "a.rtR", "日\xE9.Rtr"})
+    for (const char* nom :
+         {"Entretien Été.WAV", "a.rtr", "A.Rtr", "a.rtR", "日\xE9.Rtr", "Re\u0301el/Garc\u0327on.wav"})
         dossier.ecrire(nom, "");
     const IndexRepertoire index(dossier.chemin().substr(0, dossier.chemin().size() - 1));
     const std::pair<std::string, std::string> cas[] = {{"entretien éTÉ.wav", "Entretien Été.WAV"},
                                                        {"a.rtr", "a.rtr"},
                                                        {"a.RTR", "A.Rtr"},
                                                        {"日\xE9.RTR", "日\xE9.Rtr"},
+                                                       {"entretien E\u0301te\u0301.wav", "Entretien Été.WAV"},
+                                                       {"Réel/garçon.WAV", "Re\u0301el/Garc\u0327on.wav"},
                                                        {"entretien ete.wav", ""},
                                                        {"absent", ""}};
     for (const auto& [cherche, nom] : cas) {
