@@ -39,8 +39,9 @@ bool corpusAccessible(const Session& session, Plateforme& plateforme);
 /// line that is no thematic.
 bool lireThematiques(Session& session, Plateforme& plateforme);
 
-/// The interviews whose recording is there; one message for each that isn't. False without an opening tag.
-/// Throws FauteExecution, no interview taken, for a file that can't be read and for more than ENTRETIENS_MAX.
+/// The interviews whose recording is there. One message tells those that aren't, another the names that are
+/// paths, which are never followed. False without an opening tag. Throws FauteExecution, no interview taken,
+/// for a file that can't be read and for more than ENTRETIENS_MAX recordings.
 bool lireEntretiens(Session& session, Plateforme& plateforme);
 
 /// Every interview and every thematic on.

@@ -28,6 +28,26 @@ TEST(Opening, ReadsWhatIsThere) {
     EXPECT_EQ(essai.corpus().ThmNom[2], " Ecole, travail");
 }
 
+TEST(Opening, TellsInOneBoxEachWhatIsMissingAndWhatLeavesTheDirectory) {
+    CorpusDEssai essai;
+    essai.ajouterEntretien("a", ENTETE);
+    essai.dossier().ecrire("secret.wav", "");
+    std::string lignes = "../secret.wav\r\na.wav\r\n.\r\n";
+    for (int i = 1; i <= 1000; ++i)
+        lignes += "m" + std::to_string(i) + ".wav\r\n";
+    essai.ecrireCorpus(PAS, lignes);
+    essai.dialogues()
+        .repondre(Reponse::Ok, "dans Essai.Crp :\n\nligne 10 : ../secret.wav\nligne 12 : .")
+        .repondre(Reponse::Ok,
+                  "1000 fichiers sont introuvables.\nIls ne seront pas ajoutés au projet.\n\nm1.wav\n");
+    ASSERT_TRUE(essai.ouvrir());
+    EXPECT_NE(essai.dialogues().dernier().find("m20.wav\\net 980 de plus|"), std::string::npos);
+    EXPECT_EQ(ordre(essai.corpus()), "a.wav ");
+    for (int i = 1; i <= 1000; ++i)
+        essai.dossier().ecrire("c/m" + std::to_string(i) + ".wav", "");
+    EXPECT_THROW(lireEntretiens(essai.session, essai.hote), FauteExecution) << "now they exist";
+}
+
 TEST(Opening, RefusesWhatItCannotRead) {
     const std::pair<std::string, std::string> cas[] = {
         {"<|ENTR|\r\n>|ENTR|\r\n",

@@ -91,6 +91,11 @@ TEST(CorpusFile, RewritingInterviewsQuotesWhatFollows) {
     EXPECT_EQ(lireEntretiens(ecrit), (std::vector<Texte>{"a, b.wav", "\"c\".mp3"}));
     EXPECT_EQ(ecrireEntretiens("<|ENTR|\r\na.wav", {"b.wav"}), "<|ENTR|\r\nb.wav\r\n>|ENTR|\r\n");
     EXPECT_FALSE(ecrireEntretiens("", {"a.wav"}));
+    const auto liste = [](const std::string& noms) { return "<|ENTR|\r\n" + noms + ">|ENTR|\r\n"; };
+    const std::string ancienne = liste("/etc/x\r\na.wav\r\n\r\n..\r\nb..wav\r\nc\\d.wav\r\n");
+    EXPECT_EQ(ecrireEntretiens(ancienne, {"b..wav", "a.wav"}),
+              liste("/etc/x\r\nb..wav\r\n..\r\na.wav\r\nc\\d.wav\r\n"));
+    EXPECT_EQ(ecrireEntretiens(ancienne, {}), liste("/etc/x\r\n..\r\nc\\d.wav\r\n"));
 }
 
 } // namespace
