@@ -2,6 +2,8 @@
 #include "corpus/Session.h"
 #include "platform/Plateforme.h"
 
+#include <optional>
+
 /// The steps of an import that ask a person or touch files, in the order in which the program takes them. A
 /// step that ends the import has said why.
 namespace vermo {
@@ -21,13 +23,15 @@ ChoixFormat demanderFormat(const EnTeteWav& enTete, Plateforme& plateforme);
 /// Starts the converter, or says that it is missing.
 void lancerConvertisseur(Plateforme& plateforme);
 
-/// The record's name: the last part of `chemin`. Throws FauteExecution for a name that the corpus file can't
-/// hold.
+/// The record's name: the last part of `chemin`, composed. Throws FauteExecution for a name that the corpus
+/// file can't hold.
 Texte nomImporte(const Utf8& chemin);
 
 /// Brings a recording that lies elsewhere into RepCorpus, after asking; one that lies there is left alone.
-/// False ends the import: the person gave up, or the copy failed.
-bool apporterDansCorpus(const Session& session, Plateforme& plateforme, const Utf8& chemin);
+/// Gives its name there: of a file that the disk already has, in that file's case. Two recordings whose
+/// companions would be the same files never become two interviews: a copy is offered under a free name, and
+/// one that lies there is refused. Nothing ends the import: that, or the person gave up, or the copy failed.
+std::optional<Texte> apporterDansCorpus(const Session& session, Plateforme& plateforme, const Utf8& chemin);
 
 /// True, and said, when an interview has this very name.
 bool dejaDansCorpus(const Session& session, Plateforme& plateforme, const Texte& nom);

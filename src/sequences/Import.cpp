@@ -35,9 +35,8 @@ std::optional<Texte> apporter(Session& session, Plateforme& plateforme) {
     const Utf8 vise = corpus.CheminCorpus;
     const Utf8 chemin = choisirEnregistrement(session, plateforme);
     if (chemin.empty() || !formatAccepte(plateforme, chemin)) return std::nullopt;
-    const Texte nom = nomImporte(chemin);
-    if (!apporterDansCorpus(session, plateforme, chemin) || corpus.CheminCorpus != vise) return std::nullopt;
-    if (dejaDansCorpus(session, plateforme, nom)) return std::nullopt;
+    const auto nom = apporterDansCorpus(session, plateforme, chemin);
+    if (!nom || corpus.CheminCorpus != vise || dejaDansCorpus(session, plateforme, *nom)) return std::nullopt;
     return nom;
 }
 

@@ -38,12 +38,33 @@ TEST_F(Import, CopiesAfterAYes) {
 
     hote.media.URL(hote.dossier.chemin("c/la.wav"));
     hote.dialogues.repondre(Reponse::Ok).repondre(Reponse::Oui).repondre(Reponse::Ok);
-    EXPECT_TRUE(apporterDansCorpus(session, hote, ailleurs));
+    EXPECT_EQ(apporterDansCorpus(session, hote, ailleurs), "la.wav") << "the file that is there";
     EXPECT_EQ(hote.dossier.lire("c/la.wav"), "neuf");
     EXPECT_EQ(hote.media.URL(), "");
     EXPECT_EQ(hote.dialogues.dernier(),
               "Vermo|Le fichier a été copié dans le répertoire.\\n" + session.corpus.RepCorpus +
                   "\\nIl va maintenant être ajouté au projet.|Ok|Information -> Ok");
+}
+
+TEST_F(Import, NeverMakesTwoInterviewsWithTheSameCompanions) {
+    session.corpus.Entretiens.emplace_back().Fichier = "b.wav";
+    for (const char* nom : {"c/b.wav", "c/b.mp3", "c/B.WAV", "c/B 2.Rtr", "c/\u00C9.wav", "ailleurs/B.mp3",
+                            "ailleurs/e\u0301.wav"})
+        hote.dossier.ecrire(nom, "son");
+    const std::tuple<std::string, std::vector<std::pair<Reponse, std::string>>, std::optional<Texte>> cas[] =
+        {{"c/b.mp3", {{Reponse::Ok, "b.mp3 ne peut pas être ajouté au projet : sa retr"}}, {}},
+         {"c/B.WAV", {{Reponse::Ok, "celle de l'entretien b.wav"}}, {}},
+         {"ailleurs/B.mp3", {{Reponse::Ok, "hors"}, {Reponse::Non, "sous le nom B 3.mp3"}}, {}},
+         {"ailleurs/B.mp3",
+          {{Reponse::Ok, ""}, {Reponse::Oui, "l'entretien b.wav"}, {Reponse::Ok, ""}},
+          "B 3.mp3"},
+         {"ailleurs/e\u0301.wav", {{Reponse::Ok, ""}, {Reponse::Non, "(É.wav ) existe"}}, "\xC9.wav"}};
+    for (const auto& [chemin, reponses, nom] : cas) {
+        for (const auto& [reponse, extrait] : reponses)
+            hote.dialogues.repondre(reponse, extrait);
+        EXPECT_EQ(apporterDansCorpus(session, hote, hote.dossier.chemin(chemin)), nom) << chemin;
+    }
+    EXPECT_EQ(hote.dossier.lire("c/B 3.mp3"), "son");
 }
 
 TEST_F(Import, ACopyThatFailsIsToldAndADurationThatNeverComesIsGivenUp) {
@@ -66,7 +87,7 @@ TEST_F(Import, AddsTheInterviewAndItsTranscript) {
     creerRetranscription(session, hote, 1);
     EXPECT_EQ(hote.dossier.lire("c/la.Rtr"), "gardee");
 
-    for (const char* nom : {"/x/łódź.wav", "/x/a\rb.wav"})
+    for (const char* nom : {"/x/łódź.wav", "/x/a\rb.wav", "/x/a\\b.wav"})
         EXPECT_THROW(nomImporte(nom), FauteExecution);
     hote.dialogues.repondre(Reponse::Ok, "Le fichier la.wav est déjà présent dans le projet.");
     EXPECT_TRUE(!dejaDansCorpus(session, hote, "LA.wav") && dejaDansCorpus(session, hote, "la.wav"));
