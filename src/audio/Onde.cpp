@@ -128,7 +128,9 @@ Utf8 refusOnde(const FichierOnde& fichier) {
 }
 
 PasLecture pasDeLecture(const LieuDonnees& lieu, const EnTeteWav& entete, const Empan& empan, long largeur) {
-    const double pas = lieu.TailleData * empan.part / entete.NbCanaux / static_cast<double>(largeur);
+    constexpr double PAS_MAX = 1e10; // longer than any file: the second point lies behind its end
+    const double pas =
+        borner(lieu.TailleData * empan.part / entete.NbCanaux / static_cast<double>(largeur), PAS_MAX);
     PasLecture resultat;
     resultat.PasOctets = static_cast<std::int64_t>(std::trunc(pas)) * entete.NbCanaux;
     resultat.PosDonnees = arrondi(static_cast<double>(lieu.PosDonnees) + 4 + lieu.TailleData * empan.debut);

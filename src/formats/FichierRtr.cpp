@@ -154,11 +154,14 @@ void verifier(std::string_view octets, const Lecture& lecture, const Utf8& fichi
 }
 
 Texte tempsEtranger(std::string_view octets, const Lecture& lecture, const Reglages& reglages) {
+    const auto etranger = [&](std::string_view temps) {
+        return temps.size() <= TEMPS_LONGUEUR_MAX && separateurEtranger(temps, reglages);
+    };
     std::string_view duree;
-    if (Lignes(octets).suivante(duree) && separateurEtranger(duree, reglages)) return Texte(duree);
+    if (Lignes(octets).suivante(duree) && etranger(duree)) return Texte(duree);
     for (std::size_t n = 1; n < lecture.extraits.size(); ++n)
         for (const Texte& temps : {lecture.extraits[n].debut, lecture.extraits[n].fin})
-            if (separateurEtranger(temps, reglages)) return temps;
+            if (etranger(temps)) return temps;
     return {};
 }
 

@@ -153,6 +153,11 @@ Utf8 versUtf8(std::string_view texte) {
     return utf8;
 }
 
+Utf8 citer(std::string_view texte) {
+    constexpr std::size_t montres = 40;
+    return "« " + versUtf8(texte.substr(0, montres)) + (texte.size() > montres ? "…" : "") + " »";
+}
+
 char32_t pointDeCode(unsigned char octet) noexcept {
     return octet >= 0x80 && octet < 0xA0 ? hauts[octet - 0x80] : octet;
 }

@@ -33,6 +33,9 @@ std::vector<CaractereRefuse> caracteresRefuses(std::string_view utf8);
 
 Utf8 versUtf8(std::string_view texte);
 
+/// A field of a file between quotes, for a message: at most its first 40 characters.
+Utf8 citer(std::string_view texte);
+
 /// Unicode code point of one CP1252 byte.
 char32_t pointDeCode(unsigned char octet) noexcept;
 

@@ -108,7 +108,10 @@ TEST(TranscriptFile, RefusesWithTheLineAndKeepsWhatIsRead) {
         {"1\r\n<|ATTR|\r\n1\r\n>|ATTR|\r\n", 3, 0},
         {"1\r\n::1.00::000\r\ntexte\r\n", 2, 1},
         {"1\r\n:: ::000\r\n::2.00::\r\n", 2, 1},
-        {"1\r\n::1.00::000\r\n::fin::\r\n", 3, 1}};
+        {"1\r\n::1.00::000\r\n::fin::\r\n", 3, 1},
+        {"1" + std::string(39, ' ') + "\r\n", 0, 0},
+        {"1" + std::string(40, ' ') + "\r\n", 1, 0},
+        {"1\r\n::1.00::000\r\n::" + std::string(900000, '1') + "::\r\n", 3, 1}};
     for (const auto& [octets, ligne, lus] : cas) {
         Lecture lecture;
         std::size_t fautive = 0;
@@ -118,6 +121,7 @@ TEST(TranscriptFile, RefusesWithTheLineAndKeepsWhatIsRead) {
         } catch (const FauteExecution& faute) {
             EXPECT_EQ(faute.fichier(), "a.Rtr");
             fautive = faute.ligne();
+            EXPECT_LT(faute.quoi().size(), 200U);
         }
         EXPECT_EQ(fautive, ligne) << octets.substr(0, 60);
         EXPECT_EQ(lecture.extraits.size(), lus + 1) << octets.substr(0, 60);
