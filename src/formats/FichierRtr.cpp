@@ -46,8 +46,9 @@ class LecteurExtraits {
 std::string_view enTeteDe(std::string_view octets) {
     const std::size_t marque = octets.find(MARQUE);
     if (marque == std::string_view::npos) return octets;
-    std::size_t fin = octets.substr(0, marque).rfind(CR) + 1; // 0 where the first line is a mark line
-    if (fin != 0 && octets[fin] == '\n') ++fin;
+    const char finLigne = finDeLigne(octets);
+    std::size_t fin = octets.substr(0, marque).rfind(finLigne) + 1; // 0 where the first line is a mark line
+    if (fin != 0 && finLigne == CR && octets[fin] == '\n') ++fin;
     return octets.substr(0, fin);
 }
 
@@ -132,7 +133,8 @@ struct Insertion {
 
 void lire(std::string_view octets, const Utf8& fichier, Lecture& lecture) {
     lecture = {};
-    lecture.enTete = enTeteDe(octets);
+    std::string copie;
+    lecture.enTete = avecCr(enTeteDe(octets), copie);
     Lignes lignes(octets);
     LecteurExtraits preneur(lecture);
     parcourir(lignes, fichier, preneur);

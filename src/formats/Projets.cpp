@@ -7,7 +7,8 @@ namespace vermo::projets {
 
 std::vector<Utf8> lire(std::string_view octets) {
     std::vector<Utf8> chemins;
-    Jetons jetons(octets);
+    std::string copie;
+    Jetons jetons(avecCr(octets, copie));
     Texte item;
     while (jetons.suivant(item))
         if (!item.empty()) chemins.push_back(versUtf8(item));

@@ -11,6 +11,22 @@ const std::string CORPUS =
                "001,255,Famille, enfance\r\n>|THEM|\r\n<|POS|\r\n4,Profession\r\n>|POS|\r\n<|DIC|\r\n"
                "4,1,Enseignant, chercheur\r\n>|DIC|\r\n<|ENTR|\r\na.wav\r\n>|ENTR|\r\n");
 
+/// As an editor of another system leaves it.
+std::string enLf(std::string octets) {
+    std::erase(octets, '\r');
+    return octets;
+}
+
+TEST(CorpusFile, OfAnotherSystemsEditorIsReadWholeAndRewrittenInItsNormalForm) {
+    const std::vector<Thematique> rangs = {{"001", "255", "Un"}};
+    EXPECT_EQ(lireThematiques(enLf(CORPUS), ""), lireThematiques(CORPUS, ""));
+    EXPECT_EQ(lireDic(enLf(CORPUS), ""), lireDic(CORPUS, ""));
+    EXPECT_EQ(lireEntretiens(enLf(CORPUS)), lireEntretiens(CORPUS));
+    EXPECT_EQ(ecrireThematiques(enLf(CORPUS), rangs), ecrireThematiques(CORPUS, rangs));
+    EXPECT_EQ(ecrireEntretiens(enLf(CORPUS), {"b.wav"}), ecrireEntretiens(CORPUS, {"b.wav"}));
+    EXPECT_EQ(ecrireEntretiens("<|ENTR|\r>|ENTR|\ra\nb", {}), "<|ENTR|\r\n>|ENTR|\r\n\"a\nb\"\r\n");
+}
+
 TEST(CorpusFile, ReadsItsFourSections) {
     using Textes = std::vector<Texte>;
     EXPECT_EQ(lireThematiques(CORPUS, "c.Crp"),

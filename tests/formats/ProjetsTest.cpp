@@ -10,7 +10,9 @@ namespace {
 TEST(RecentFile, IsReadByItemsAndKeepsTheOthers) {
     const auto lus = projets::lire("/a/\xE9t\xE9.Crp\r\n\r\n\"/b, c.Crp\"\r\n/d,/e\r/a/\xE9t\xE9.Crp");
     EXPECT_EQ(lus, (std::vector<Utf8>{"/a/été.Crp", "/b, c.Crp", "/d", "/e", "/a/été.Crp"}));
-    EXPECT_EQ(projets::ecrire("/a/été.Crp", lus), "/a/\xE9t\xE9.Crp\r\n/b, c.Crp\r\n/d\r\n/e\r\n");
+    EXPECT_EQ(projets::lire("/a.Crp\n\n\"/b, c.Crp\"\n/d"), (std::vector<Utf8>{"/a.Crp", "/b, c.Crp", "/d"}));
+    for (const char* chemin : {"/a/été.Crp", "/a/e\u0301te\u0301.Crp"})
+        EXPECT_EQ(projets::ecrire(chemin, lus), "/a/\xE9t\xE9.Crp\r\n/b, c.Crp\r\n/d\r\n/e\r\n");
     EXPECT_THROW(projets::ecrire("/中.Crp", {}), FauteExecution);
 }
 

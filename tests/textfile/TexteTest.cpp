@@ -48,6 +48,8 @@ TEST(Pieces, LinesAndItems) {
         {"a\r\r\n\rb\r", "a|||b|"},
         {"a\nb\r\n", "a\nb|"},
         {"a\r\n\n", "a|\n|"},
+        {"a\n\nb\n", "a||b|"},
+        {"\na\tb", "|a\tb|"},
         {"fin", "fin|"},
         {std::string("a\0b\r\n", 5), std::string("a\0b|", 4)}};
     for (const auto& [texte, attendus] : lignes)
