@@ -89,7 +89,15 @@ void verifierExtrait(const Extrait& extrait, const LignesMarques& lignes, const 
     tempsOuFaute(extrait.fin, reglages, "La fin", {fichier, lignes.fermeture});
 }
 
+/// A code may be followed by a name, which ends with its line and may hold any mark.
+void exigerExtrait(const Extrait& extrait) {
+    exigerTexte(extrait.texte, "Le texte de l'extrait");
+    if (extrait.code.find_first_of(std::string_view("\r\n\0", 3)) != Texte::npos)
+        throw FauteExecution("Le code de l'extrait tient sur plusieurs lignes.");
+}
+
 void ecrireExtrait(std::string& sortie, const Extrait& extrait, const Reglages& reglages) {
+    exigerExtrait(extrait);
     const auto temps = [&](const Texte& champ) {
         return formatDeuxDecimales(nombre(champ, reglages), reglages);
     };
@@ -102,6 +110,7 @@ void ecrireExtrait(std::string& sortie, const Extrait& extrait, const Reglages& 
 
 /// An extract as an insertion writes it, its lines separated by lone CRs.
 std::string composer(const Extrait& extrait) {
+    exigerExtrait(extrait);
     std::string sortie;
     sortie.append(MARQUE).append(extrait.debut).append(MARQUE).append(extrait.code) += CR;
     sortie.append(extrait.texte) += CR;
@@ -130,6 +139,12 @@ struct Insertion {
 };
 
 } // namespace
+
+void exigerTexte(std::string_view texte, const std::string& quoi) {
+    if (contient(texte, MARQUE))
+        throw FauteExecution(quoi + " contient « :: », qui sépare les extraits dans leur fichier.");
+    if (contient(texte, std::string_view("\0", 1))) throw FauteExecution(quoi + " contient un octet nul.");
+}
 
 void lire(std::string_view octets, const Utf8& fichier, Lecture& lecture) {
     lecture = {};
@@ -168,6 +183,7 @@ Texte tempsEtranger(std::string_view octets, const Lecture& lecture, const Regla
 }
 
 std::string ecrireEnTete(const EnTete& enTete, const Reglages& reglages) {
+    exigerTexte(enTete.observations, "Le texte des observations");
     std::string sortie;
     ecrireLigne(sortie, imprimer(enTete.duree, reglages));
     for (const std::string_view ligne : {OBS, std::string_view(enTete.observations), FIN_OBS, ATTR})

@@ -54,6 +54,30 @@ TEST(TranscriptFile, OfThisProgramComesBackByteForByte) {
     EXPECT_EQ(ecrireEnTete(lu, POINT), TETE);
 }
 
+TEST(TranscriptFile, OfAnotherSystemsEditorIsReadWholeAndRewrittenInItsNormalForm) {
+    std::string lf = EXEMPLE;
+    std::erase(lf, '\r');
+    const Lecture lecture = lire(lf, ""), normale = lire(EXEMPLE, "");
+    EXPECT_NO_THROW(verifier(lf, lecture, "", POINT));
+    EXPECT_EQ(lecture.extraits, normale.extraits);
+    EXPECT_EQ(lecture.enTete, TETE);
+    EXPECT_EQ(lireAttributs(lf, ""), lireAttributs(EXEMPLE, ""));
+    const Extrait nouvel{"11.00", "12.00", "002", "un\rdeux\r"};
+    EXPECT_EQ(inserer(lf, nouvel, 11, POINT, ""), inserer(EXEMPLE, nouvel, 11, POINT, ""));
+}
+
+TEST(TranscriptFile, RefusesEveryTextThatItCouldNotReadBack) {
+    for (const Texte& texte : {Texte("a ::b"), Texte("a\rb\0", 4)}) {
+        const Extrait extrait{"1", "2", "000", texte};
+        EXPECT_THROW(ecrire({.observations = texte}, {}, {}, POINT), FauteExecution) << texte;
+        EXPECT_THROW(ecrire({}, {{}, extrait}, {}, POINT), FauteExecution) << texte;
+        EXPECT_THROW(inserer(EXEMPLE, extrait, 1, POINT, ""), FauteExecution) << texte;
+        EXPECT_THROW(creerAvec(60, extrait, POINT), FauteExecution) << texte;
+    }
+    EXPECT_THROW(creerAvec(60, {"1", "2", "0\r0", "a : b:"}, POINT), FauteExecution);
+    EXPECT_NO_THROW(ecrire({}, {{}, {"1", "2", "001 Ici::et", "a : b:"}}, {}, POINT));
+}
+
 TEST(TranscriptFile, WritesRoundedTimesAndTheChosenExtracts) {
     const std::vector<Extrait> extraits = {{},
                                            {"-0.5", "1", "000", ""},
