@@ -152,7 +152,7 @@ Bitmap8 fondZoom(Twips largeur, Twips hauteur, double densite) {
         const auto teinte = static_cast<std::uint8_t>(2 + std::min<long>(i / marche, TEINTES - 1));
         for (const long y : {i, haut - i}) {
             const int rangee = static_cast<int>(std::floor(static_cast<double>(y) * densite));
-            if (rangee >= 0 && rangee < image.hauteur()) image.rangee(rangee, teinte);
+            if (rangee < image.hauteur()) image.rangee(rangee, teinte);
         }
     }
     return image;

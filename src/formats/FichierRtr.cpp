@@ -14,7 +14,6 @@ constexpr std::string_view ATTR = "<|ATTR|", FIN_ATTR = ">|ATTR|";
 
 /// Adds a line to a text; an empty one is absorbed by the line end before it.
 void ajouterLigne(Texte& texte, std::string_view ligne) {
-    texte.reserve(texte.size() + ligne.size() + 1);
     texte.append(ligne).push_back(CR);
     if (texte.size() > 1 && texte[texte.size() - 2] == CR) texte.pop_back();
 }
@@ -223,7 +222,6 @@ std::string inserer(std::string_view octets, const Extrait& extrait, double debu
                     const Utf8& fichier) {
     std::string sortie;
     const std::string nouvel = composer(extrait);
-    sortie.reserve(octets.size() + nouvel.size() + 64);
     Insertion insertion{sortie, nouvel, debut, reglages};
     Lignes lignes(octets);
     parcourir(lignes, fichier, insertion);

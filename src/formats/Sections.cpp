@@ -26,7 +26,6 @@ std::optional<std::string> reecrireSection(std::string_view octets, const Sectio
     Lignes anciennes(octets);
     if (!anciennes.jusqua(section.ouverture)) return std::nullopt;
     std::string sortie;
-    sortie.reserve(octets.size() + 32 * lignes.size());
     cadre.tete(sortie, octets.substr(0, octets.size() - anciennes.reste().size()));
     for (const Texte& ligne : lignes)
         ecrireLigne(sortie, ligne);

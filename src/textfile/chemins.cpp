@@ -1,9 +1,7 @@
 #include "textfile/chemins.h"
 
-#include <cerrno>
 #include <dirent.h>
 #include <memory>
-#include <utility>
 
 namespace vermo {
 namespace {
@@ -12,15 +10,12 @@ struct Fermer {
     void operator()(DIR* d) const { closedir(d); }
 };
 
-/// Calls `faire` with each name of a directory. False when it can't be listed to its end.
+/// Calls `faire` with each name of a directory; with none where it can't be listed.
 template <class Faire>
-bool lister(const Utf8& repertoire, Faire faire) {
+void lister(const Utf8& repertoire, Faire faire) {
     const std::unique_ptr<DIR, Fermer> dir(opendir(repertoire.empty() ? "." : repertoire.c_str()));
-    if (!dir) return false;
-    errno = 0;
-    while (const dirent* entree = readdir(dir.get()))
+    while (const dirent* entree = dir ? readdir(dir.get()) : nullptr)
         faire(Utf8(entree->d_name));
-    return errno == 0;
 }
 
 } // namespace
@@ -70,32 +65,30 @@ IndexRepertoire::IndexRepertoire(const Utf8& repertoire) : repertoire_(repertoir
     if (!repertoire_.empty() && repertoire_.back() != '/') repertoire_ += '/';
 }
 
-void IndexRepertoire::lister() const {
-    if (std::exchange(liste_, true)) return;
-    entier_ = vermo::lister(repertoire_, [&](const Utf8& nom) { exacts_.insert(nom); });
-}
-
-std::optional<Utf8> IndexRepertoire::trouver(const Utf8& nom) const {
+std::optional<Utf8> IndexRepertoire::autreCasse(const Utf8& nom) const {
     if (nom.find('/') != Utf8::npos) return vermo::trouver(repertoire_ + nom);
-    lister();
-    if (exacts_.contains(nom)) return repertoire_ + nom;
     if (sansCasse_.empty())
-        for (const Utf8& exact : exacts_) {
+        lister(repertoire_, [&](const Utf8& exact) {
             Utf8& garde = sansCasse_[majusculesUtf8(exact)];
             if (garde.empty() || exact < garde) garde = exact;
-        }
+        });
     const auto autre = sansCasse_.find(majusculesUtf8(nom));
-    if (autre == sansCasse_.end()) return entier_ ? std::nullopt : vermo::trouver(repertoire_ + nom);
+    if (autre == sansCasse_.end()) return std::nullopt;
     return repertoire_ + autre->second;
 }
 
 std::optional<FichierVu> IndexRepertoire::voir(const Utf8& nom) const {
-    FichierVu exact{repertoire_ + nom, {}};
-    exact.identite = identiteFichier(exact.chemin);
+    const FichierVu exact{repertoire_ + nom, identiteFichier(repertoire_ + nom)};
     if (exact.identite != IdentiteFichier{}) return exact;
-    const auto autre = trouver(nom);
+    const auto autre = autreCasse(nom);
     if (!autre) return std::nullopt;
     return FichierVu{*autre, identiteFichier(*autre)};
+}
+
+std::optional<Utf8> IndexRepertoire::trouver(const Utf8& nom) const {
+    const auto vu = voir(nom);
+    if (!vu) return std::nullopt;
+    return vu->chemin;
 }
 
 } // namespace vermo

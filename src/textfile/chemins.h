@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 
 namespace vermo {
 
@@ -38,24 +37,21 @@ struct FichierVu {
     IdentiteFichier identite;
 };
 
-/// One listing of a directory, made at the first need, for looking up many names. A directory that can't be
-/// listed holds none.
+/// For looking up many names in a directory: one question to the system for a name that exists as it is
+/// written, and one listing, made at the first need, for all the others.
 class IndexRepertoire {
   public:
     explicit IndexRepertoire(const Utf8& repertoire);
     /// Full path of the file that `nom` means, by the rule of `vermo::trouver`.
     std::optional<Utf8> trouver(const Utf8& nom) const;
-    /// The same with its state: one question to the system, without the listing, where the exact name exists.
+    /// The same with its state.
     std::optional<FichierVu> voir(const Utf8& nom) const;
 
   private:
-    void lister() const;
+    std::optional<Utf8> autreCasse(const Utf8& nom) const;
 
     Utf8 repertoire_;
-    mutable bool liste_ = false;
-    mutable bool entier_ = false; ///< the listing came to its end; otherwise names are asked for one by one
-    mutable std::unordered_set<Utf8> exacts_;
-    mutable std::unordered_map<Utf8, Utf8> sansCasse_; ///< upper-cased name -> name, made at the first miss
+    mutable std::unordered_map<Utf8, Utf8> sansCasse_; ///< upper-cased name -> name
 };
 
 } // namespace vermo

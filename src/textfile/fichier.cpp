@@ -181,7 +181,9 @@ AppelsSysteme& appelsSysteme() {
         ::rename,
         ::unlink,
         ::fstat,
-        ::flock};
+        ::flock,
+        ::read,
+        ::pread};
     return table;
 }
 
@@ -210,7 +212,7 @@ Source::Source(const Utf8& chemin) : chemin_(chemin) {
 std::size_t Source::lire(char* vers, std::size_t voulus) {
     std::size_t lus = 0;
     while (lus < voulus) {
-        const ssize_t n = ::read(fichier_.valeur(), vers + lus, voulus - lus);
+        const ssize_t n = appelsSysteme().read(fichier_.valeur(), vers + lus, voulus - lus);
         if (n == 0) break;
         if (n < 0 && errno != EINTR) refuser(lecture, errno, chemin_);
         if (n > 0) lus += static_cast<std::size_t>(n);
@@ -222,7 +224,7 @@ std::size_t Source::lireA(std::int64_t position, char* vers, std::size_t voulus)
     std::size_t lus = 0;
     while (lus < voulus) {
         const auto ici = static_cast<off_t>(position + static_cast<std::int64_t>(lus));
-        const ssize_t n = ::pread(fichier_.valeur(), vers + lus, voulus - lus, ici);
+        const ssize_t n = appelsSysteme().pread(fichier_.valeur(), vers + lus, voulus - lus, ici);
         if (n < 0 && errno == EINTR) continue;
         if (n <= 0) break;
         lus += static_cast<std::size_t>(n);

@@ -23,6 +23,8 @@ struct AppelsSysteme {
     int (*unlink)(const char* chemin);
     int (*fstat)(int descripteur, struct stat* etat);
     int (*flock)(int descripteur, int operation);
+    ssize_t (*read)(int descripteur, void* octets, std::size_t taille);
+    ssize_t (*pread)(int descripteur, void* octets, std::size_t taille, off_t position);
 };
 
 /// The table in use; tests replace its members.

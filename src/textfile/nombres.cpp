@@ -167,14 +167,14 @@ namespace {
 /// that it holds too, are one division away from the nearest double. A corpus has two million of them.
 std::optional<double> nombreSimple(std::string_view texte, char separateur) {
     constexpr double puissances[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7};
-    if (texte.empty() || texte.size() > 15 || texte[0] < '0' || texte[0] > '9') return std::nullopt;
+    if (texte.empty() || texte.size() > 15 || !estChiffre(texte[0])) return std::nullopt;
     std::int64_t chiffres = 0;
     std::size_t decimales = 0;
     bool apres = false;
     for (const char c : texte) {
         if (c == separateur && !apres) {
             apres = true;
-        } else if (c >= '0' && c <= '9') {
+        } else if (estChiffre(c)) {
             chiffres = chiffres * 10 + (c - '0');
             decimales += apres ? 1 : 0;
         } else {

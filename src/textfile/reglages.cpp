@@ -40,7 +40,7 @@ bool langueAVirgule(const char* categorie) {
 
 void garderAscii(std::string& format, const std::string& defaut) {
     const bool ascii = std::all_of(format.begin(), format.end(), [](char c) { return c > 0; });
-    if (format.empty() || !ascii) format = defaut;
+    if (!ascii) format = defaut;
 }
 
 } // namespace

@@ -13,9 +13,8 @@ namespace vermo {
 namespace {
 
 constexpr Twips LARGEUR_COLONNE_MIN = 3255;
-constexpr std::size_t ELEMENTS_PAR_BULLE = 14; ///< words not counted
-constexpr Twips MARGE_MOTS = 240;              ///< what the word layout leaves free in a column
-constexpr int CLARTE_LISIBLE = 140;            ///< of 255: paler titles need a dark ground
+constexpr Twips MARGE_MOTS = 240;   ///< what the word layout leaves free in a column
+constexpr int CLARTE_LISIBLE = 140; ///< of 255: paler titles need a dark ground
 
 const Texte& codeExtrait(const Session& session, int n) {
     return ligneDe(session.transcription.ExtraitCode, n);
@@ -236,7 +235,6 @@ Elements disposerBulles(const Session& session, Twips largeurZoom, Twips hauteur
         const Twips w = (extrait->fin - extrait->debut) / audio.DureeZoom * largeurZoom;
         bulles.emplace_back(session, n, static_cast<int>(bulles.size()) + 1, x, w, hauteurZoom, taille);
     }
-    elements.reserve(ELEMENTS_PAR_BULLE * bulles.size());
     for (const Bulle& bulle : bulles)
         bulle.bandes(elements);
     int mot = 0;

@@ -1,9 +1,10 @@
 #include "window/DatesFichier.h"
 
+#include "textfile/fichier.h"
+
 #include <ctime>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace vermo {
 
@@ -18,11 +19,9 @@ DateHeure locale(std::int64_t secondes) {
 
 /// A directory opens for reading too, but is no file.
 bool interroger(const Utf8& chemin, struct statx& etat) {
-    const int descripteur = open(chemin.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descripteur < 0) return false;
-    const int refus = statx(descripteur, "", AT_EMPTY_PATH, STATX_TYPE | STATX_MTIME | STATX_BTIME, &etat);
-    close(descripteur);
-    return refus == 0 && !S_ISDIR(etat.stx_mode);
+    const Descripteur fichier(open(chemin.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    return statx(fichier.valeur(), "", AT_EMPTY_PATH, STATX_TYPE | STATX_MTIME | STATX_BTIME, &etat) == 0 &&
+           !S_ISDIR(etat.stx_mode);
 }
 
 } // namespace

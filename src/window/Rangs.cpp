@@ -5,7 +5,6 @@
 namespace vermo {
 
 Rangs::Rangs(const std::vector<Twips>& tailles, Twips debut) {
-    bords_.reserve(tailles.size() + 1);
     bords_.push_back(debut);
     for (const Twips taille : tailles)
         bords_.push_back(bords_.back() + taille);

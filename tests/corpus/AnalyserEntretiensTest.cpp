@@ -3,12 +3,10 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
-namespace vermo {
-namespace {
+using namespace vermo;
+using namespace vermo::essai;
 
-using essai::CorpusDEssai;
-using essai::decrireExtraits;
-using essai::ENTETE;
+namespace {
 
 TEST(Analysis, RowsAndFaults) {
     const std::string ok = "::1::001\r\nt\r\n::2::\r\n";
@@ -74,8 +72,8 @@ TEST_F(Scan, FillsTheInterviews) {
 TEST_F(Scan, AnInterviewWithoutItsFilesIsToldAndKeepsWhatIsKnown) {
     ouvrir(ENTETE + std::string("::1::001\r\n::3::\r\n"));
     essai.analyser();
-    std::filesystem::remove(essai.dossier().chemin("c/b.wav"));
-    std::filesystem::remove(essai.dossier().chemin("c/b.Rtr"));
+    for (const char* nom : {"c/b.wav", "c/b.Rtr"})
+        std::filesystem::remove(essai.dossier().chemin(nom));
     essai.dialogues()
         .repondre(Reponse::Ok, "Impossible ouvrir le fichier : " + essai.dossier().chemin("c/B.WAV"))
         .repondre(Reponse::Ok, "l'entretien suivant : \nB.WAV\nSon fichier Rtr est introuvable");
@@ -89,10 +87,13 @@ TEST_F(Scan, AnInterviewWithoutItsFilesIsToldAndKeepsWhatIsKnown) {
 }
 
 TEST_F(Scan, AnUnchangedFileIsNotReadAgain) {
-    ouvrir(ENTETE + std::string("::1::001\r\nun texte assez long\r\n::2::\r\n"));
+    const auto rtr = [](const char* texte) {
+        return ENTETE + ("::1::001\r\n" + std::string(texte)) + "\r\n::2::\r\n";
+    };
+    ouvrir(rtr("un texte assez long"));
     essai.analyser();
-    const std::filesystem::path rtr = essai.dossier().chemin("c/b.Rtr");
-    const auto date = std::filesystem::last_write_time(rtr);
+    const std::filesystem::path chemin = essai.dossier().chemin("c/b.Rtr");
+    const auto date = std::filesystem::last_write_time(chemin);
     const auto tampon = essai.corpus().extraits[2].tampon;
     // After a reopening in another order the same buffer serves.
     essai.ecrireCorpus("000,&H0, Pas\r\n", "z.wav\r\na.wav\r\nB.WAV\r\n");
@@ -103,8 +104,8 @@ TEST_F(Scan, AnUnchangedFileIsNotReadAgain) {
     EXPECT_EQ(decrireExtraits(essai.session, 3), "1;2;001;un texte assez long/;");
     EXPECT_FLOAT_EQ(entretien(3).Duree, 100);
     // Other bytes are seen even where their number and their date are the old ones.
-    essai.dossier().ecrire("c/b.Rtr", ENTETE + std::string("::1::001\r\nUN TEXTE ASSEZ LONG\r\n::2::\r\n"));
-    std::filesystem::last_write_time(rtr, date);
+    essai.dossier().ecrire("c/b.Rtr", rtr("UN TEXTE ASSEZ LONG"));
+    std::filesystem::last_write_time(chemin, date);
     essai.analyser();
     EXPECT_EQ(decrireExtraits(essai.session, 3), "1;2;001;UN TEXTE ASSEZ LONG/;");
     const DateHeure avant = entretien(3).DateModif;
@@ -113,16 +114,21 @@ TEST_F(Scan, AnUnchangedFileIsNotReadAgain) {
     EXPECT_GT(entretien(3).DateModif.secondes, avant.secondes + 86400);
 }
 
-TEST(Analysis, ATranscriptThatCantBeReadIsToldOnce) {
-    essai::CorpusDEssai essai;
-    essai.ecrireCorpus("000,&H0, Sans\r\n", "a.wav\r\n");
-    essai.dossier().ecrire("c/a.wav", "");
-    std::filesystem::create_directory(essai.dossier().chemin("c/a.Rtr"));
-    ASSERT_TRUE(essai.ouvrir());
-    essai.dialogues().repondre(Reponse::Ok, "c'est un répertoire");
-    essai.analyser();
-    essai.analyser(); // once
+TEST_F(Scan, AFaultIsToldOnceForEachStateOfItsFile) {
+    ouvrir(ENTETE);
+    std::filesystem::remove(essai.dossier().chemin("c/b.Rtr"));
+    std::filesystem::create_directory(essai.dossier().chemin("c/b.Rtr"));
+    const auto analyserDeuxFois = [&](const char* faute) {
+        essai.dialogues().repondre(Reponse::Ok, faute);
+        essai.analyser();
+        essai.analyser();
+    };
+    analyserDeuxFois("c'est un répertoire");
+    std::filesystem::remove(essai.dossier().chemin("c/b.Rtr"));
+    essai.dossier().ecrire("c/b.Rtr", ENTETE + std::string("::1::001\r\n"));
+    analyserDeuxFois("coupée");
+    essai.dossier().ecrire("c/b.Rtr", ENTETE + std::string("::1::002\r\nautre\r\n"));
+    analyserDeuxFois("coupée");
 }
 
 } // namespace
-} // namespace vermo

@@ -4,23 +4,20 @@
 #include "support/CorpusDEssai.h"
 
 #include <cmath>
-#include <functional>
 #include <gtest/gtest.h>
 
-namespace vermo {
-namespace {
+using namespace vermo;
+using namespace vermo::essai;
 
-using essai::corpusDEssai;
+namespace {
 
 /// `durees` seconds; extracts of 10 s each at 0, 20, 40... in the first, coded "000", "001", "002", "999".
 Session sessionDe(const std::vector<float>& durees) {
     Session session = corpusDEssai(static_cast<int>(durees.size()));
     EtatCorpus& corpus = session.corpus;
     corpus.HauteurEntretien = 400;
-    for (std::size_t i = 1; i <= durees.size(); ++i) {
-        corpus.Entretiens[i].Duree = durees[i - 1];
-        corpus.extraits[i] = {};
-    }
+    for (std::size_t i = 1; i <= durees.size(); ++i)
+        corpus.Entretiens[i].Duree = durees[i - 1], corpus.extraits[i] = {};
     corpus.extraits[1] =
         analyser("100\r\n::0::000\r\n::10::\r\n::20::001\r\n::30::\r\n::40::002\r\n::50::\r\n"
                  "::60::999\r\n::60::\r\n",
@@ -61,8 +58,7 @@ TEST(Timeline, RowsInViewAndRealSize) {
     const std::tuple<Twips, int, int> cas[] = {{0, 1, 5}, {639, 1, 6}, {640, 2, 7}, {399000, 997, 999}};
     for (const auto& [defilement, premiere, derniere] : cas) {
         const LignesEnVue lignes = lignesEnVue(session, {3900, defilement, 2000});
-        EXPECT_EQ(lignes.premiere, premiere) << defilement;
-        EXPECT_EQ(lignes.derniere, derniere) << defilement;
+        EXPECT_EQ(std::pair(lignes.premiere, lignes.derniere), std::pair(premiere, derniere)) << defilement;
     }
     const std::pair<Twips, int> sous[] = {{239, 0}, {240, 1}, {639, 1}, {640, 2}, {399839, 999}, {399840, 0}};
     for (const auto& [y, slot] : sous)
@@ -105,20 +101,17 @@ TEST(Timeline, ScrollAndZoom) {
     EXPECT_FALSE(AjusterDefilement(session, 2120).visible);
     EXPECT_EQ(AjusterDefilement(session, 3000).hauteurSurface, 3000);
     const Defilement d = AjusterDefilement(session, 1060);
-    EXPECT_EQ(d.hauteurSurface, 2120);
-    EXPECT_EQ(d.excedent, 1060);
-    EXPECT_EQ(d.hauteurPouce, 470);
+    EXPECT_EQ((std::vector{d.hauteurSurface, d.excedent, d.hauteurPouce}), (std::vector{2120., 1060., 470.}));
     const std::pair<Twips, Twips> places[] = {{0, 60}, {530, 295}, {1060, 530}};
     for (const auto& [defile, haut] : places) {
         EXPECT_DOUBLE_EQ(hautPouce(d, defile), haut);
         EXPECT_DOUBLE_EQ(defilementDe(d, haut), defile);
     }
-    EXPECT_EQ(defilementDe(d, -500), 0);
-    EXPECT_EQ(defilementDe(d, 5000), 1060);
+    EXPECT_EQ(std::pair(defilementDe(d, -500), defilementDe(d, 5000)), std::pair(0., 1060.));
 }
 
 TEST(Timeline, DurationsOfZeroAreTold) {
-    essai::CorpusDEssai essai;
+    CorpusDEssai essai;
     essai.ajouterEntretien("a", " 0 \r\n");
     essai.ecrireCorpus("", "a.wav\r\n");
     ASSERT_TRUE(essai.ouvrir());
@@ -178,6 +171,16 @@ TEST(Panels, Thematics) {
                                                "ShpCoul[2] 0,250 900x250 fond=FF0000\n");
 }
 
+TEST(Panels, FramesStandAroundThem) {
+    const DispositionCorpus seule = disposerFenetreCorpus(28800, 16200, false),
+                            deux = disposerFenetreCorpus(28800, 16200, true);
+    EXPECT_EQ(seule.cadreThm, (Rectangle{120, 1560, 3460, 14280}));
+    EXPECT_EQ(seule.cadreEntretiens, (Rectangle{3640, 1560, 25100, 14580}));
+    EXPECT_EQ(deux.cadreEntretiens, (Rectangle{3640, 1560, 25100, 11460}));
+    EXPECT_EQ(std::pair(seule.PictTAP, deux.PictTAP),
+              std::pair(Rectangle(), Rectangle{3760, 13620, 24860, 2400}));
+}
+
 TEST(Panels, AnActiveOneAloneCountsAsNoneAndNotAllAsNone) {
     EtatCorpus corpus = corpusDEssai(3).corpus;
     isolerEntretien(corpus, 3);
@@ -189,4 +192,3 @@ TEST(Panels, AnActiveOneAloneCountsAsNoneAndNotAllAsNone) {
 }
 
 } // namespace
-} // namespace vermo

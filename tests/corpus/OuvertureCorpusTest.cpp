@@ -1,31 +1,33 @@
 #include "corpus/EcritureCorpus.h"
+#include "corpus/Import.h"
 #include "corpus/Ordre.h"
 #include "support/CorpusDEssai.h"
 #include "textfile/faute.h"
 
 #include <gtest/gtest.h>
 
-namespace vermo {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
-using essai::CorpusDEssai;
-using essai::ENTETE;
-using essai::ordre;
-
-constexpr const char* PAS = "000,&H0, Pas de thematique\r\n";
+const std::string PAS = "000,&H0, Pas de thematique\r\n";
 
 TEST(Opening, ReadsWhatIsThere) {
     CorpusDEssai essai;
     essai.ajouterEntretien("a", ENTETE);
     essai.ajouterEntretien("b", ENTETE);
-    essai.ecrireCorpus(PAS + std::string("\r\n001,255, Ecole, travail\r\n"),
-                       "b.wav\r\n\r\nparti.wav\r\nA.Wav\r\n");
+    essai.ecrireCorpus(PAS + "\r\n001,255, Ecole, travail\r\n", "b.wav\r\n\r\nparti.wav\r\nA.Wav\r\n");
     essai.dialogues().repondre(Reponse::Ok);
     ASSERT_TRUE(essai.ouvrir(3660));
     EXPECT_EQ(essai.dialogues().dernier(), "Fichier introuvable|Le fichier parti.wav est introuvable.\\n"
                                            "Il ne sera pas ajouté au projet.|Ok|Exclamation -> Ok");
     EXPECT_EQ(ordre(essai.corpus()), "b.wav A.Wav ");
     EXPECT_EQ(essai.corpus().ThmNom[2], " Ecole, travail");
+    EXPECT_EQ(essai.corpus().HauteurEntretien, 1100) << "a third of 3660 - 360";
+    essai.corpus().HauteurEntretien = 400;
+    calculerHauteur(essai.session, 3660);
+    EXPECT_EQ(essai.corpus().HauteurEntretien, 400) << "a height that was chosen stays";
 }
 
 TEST(Opening, TellsInOneBoxEachWhatIsMissingAndWhatLeavesTheDirectory) {
@@ -49,67 +51,49 @@ TEST(Opening, TellsInOneBoxEachWhatIsMissingAndWhatLeavesTheDirectory) {
 }
 
 TEST(Opening, RefusesWhatItCannotRead) {
+    const std::string ouverture = "|Impossible de trouver la balise d'ouverture des ";
     const std::pair<std::string, std::string> cas[] = {
-        {"<|ENTR|\r\n>|ENTR|\r\n",
-         "thématiques|Impossible de trouver la balise d'ouverture des thématiques.|Ok|Information -> Ok"},
-        {"<|THEM|\r\n>|THEM|\r\n",
-         "entretiens|Impossible de trouver la balise d'ouverture des entretiens.|Ok|Information -> Ok"},
+        {"<|ENTR|\r\n>|ENTR|\r\n", "thématiques" + ouverture + "thématiques.|Ok|Information -> Ok"},
+        {"<|THEM|\r\n>|THEM|\r\n", "entretiens" + ouverture + "entretiens.|Ok|Information -> Ok"},
         {"", "Impossible d'ouvrir le corpus|Le corpus suivant est inaccessible :\\n"}};
     for (const auto& [octets, message] : cas) {
         CorpusDEssai essai;
         if (!octets.empty()) essai.dossier().ecrire("c/Essai.Crp", octets);
         essai.corpus().NbEntretiens = 4;
+        essai.session.donnees.NbVariables = 3;
+        essai.session.transcription.source.slot = 2;
         essai.dialogues().repondre(Reponse::Ok);
         EXPECT_FALSE(essai.ouvrir());
         EXPECT_NE(essai.dialogues().dernier().find(message), std::string::npos) << message;
         EXPECT_EQ(essai.corpus().NbEntretiens, 4);
         // The window stays emptied, and what was not read is never rewritten.
+        EXPECT_EQ(essai.session.donnees, EtatDonnees());
+        EXPECT_EQ(essai.session.transcription.source.slot, 0);
         EXPECT_EQ(preparerFrise(essai.session, essai.hote), 0);
         EXPECT_THROW(EcrireEntretiens(essai.session, essai.hote), FauteExecution);
         EXPECT_THROW(EcrireThematiques(essai.session, essai.hote), FauteExecution);
     }
 }
 
-TEST(Opening, MakesACorpus) {
+TEST(CorpusRewriting, LeavesOutWhatIsEmptyAndAFileWithoutItsTag) {
     CorpusDEssai essai;
-    const Utf8 chemin = essai.dossier().ecrire("neuf/N.Crp", "ancien");
-    essai.dialogues().choisir("").choisir(chemin);
-    EXPECT_FALSE(creerCorpus(essai.session, essai.hote));
-    EXPECT_TRUE(creerCorpus(essai.session, essai.hote));
-    EXPECT_EQ(essai.dossier().lire("neuf/N.Crp"),
-              depuisUtf8("Projet crée le 03/04/2009 à 14:05:06\r\n<|THEM|\r\n000,&H0, Pas de thématique\r\n"
-                         ">|THEM|\r\n<|POS|\r\n>|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\n>|ENTR|\r\n"));
-    EXPECT_EQ(essai.corpus().CheminCorpus, chemin);
-}
-
-TEST(CorpusRewriting, ThematicsThenInterviews) {
-    CorpusDEssai essai;
-    essai.ajouterEntretien("a", ENTETE);
-    essai.ajouterEntretien("b", ENTETE);
-    essai.ecrireCorpus(PAS + std::string("001,255, Un\r\n002,9,Deux\r\n"), "a.wav\r\nparti.wav\r\nb.wav\r\n");
-    essai.dialogues().repondre(Reponse::Ok);
+    for (const char* nom : {"a", "b"})
+        essai.ajouterEntretien(nom, ENTETE);
+    essai.ecrireCorpus(PAS + "001,255, Un\r\n002,9,Deux\r\n", "a.wav\r\nparti.wav\r\nb.wav\r\n");
+    essai.dialogues().repondre(Reponse::Ok, "parti.wav");
     ASSERT_TRUE(essai.ouvrir());
+    const auto ecrire = [&] {
+        EcrireThematiques(essai.session, essai.hote);
+        EcrireEntretiens(essai.session, essai.hote);
+        return essai.dossier().lire("c/Essai.Crp");
+    };
     essai.corpus().ThmCode[2].clear();
-    essai.corpus().ThmNom[3] = " Deux, \"trois\"";
-    essai.dossier().ecrire("c/Essai.Crp.$$$", "reste");
-    EcrireThematiques(essai.session, essai.hote);
-    const std::string attendu = "Projet\r\n<|THEM|\r\n" + std::string(PAS) + "002,9, Deux, \"trois\"\r\n" +
-                                ">|THEM|\r\n<|POS|\r\n>|POS|\r\n<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\n";
-    EXPECT_EQ(essai.dossier().lire("c/Essai.Crp"), attendu + "a.wav\r\nparti.wav\r\nb.wav\r\n>|ENTR|\r\n");
-    EXPECT_FALSE(essai.dossier().existe("c/Essai.Crp.$$$"));
-    DeplacerEntretien(essai.session, 1, 2);
-    EcrireEntretiens(essai.session, essai.hote);
-    EXPECT_EQ(essai.dossier().lire("c/Essai.Crp"), attendu + "b.wav\r\na.wav\r\n>|ENTR|\r\n");
     essai.corpus().Entretiens[1].Fichier.clear();
-    EcrireEntretiens(essai.session, essai.hote);
-    for (const char* nom : {"c/Essai.Crp", "c/Essai.Crp.$$$"})
-        EXPECT_EQ(essai.dossier().lire(nom), attendu + "a.wav\r\n>|ENTR|\r\n");
-
+    EXPECT_EQ(ecrire(), "Projet\r\n<|THEM|\r\n" + PAS + "002,9,Deux\r\n>|THEM|\r\n<|POS|\r\n>|POS|\r\n" +
+                            "<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\nb.wav\r\n>|ENTR|\r\n");
     essai.dossier().ecrire("c/Essai.Crp", "rien\r\n");
     essai.dialogues().repondre(Reponse::Ok, "des thématiques").repondre(Reponse::Ok, "des entretiens");
-    EcrireThematiques(essai.session, essai.hote);
-    EcrireEntretiens(essai.session, essai.hote);
-    EXPECT_EQ(essai.dossier().lire("c/Essai.Crp"), "rien\r\n");
+    EXPECT_EQ(ecrire(), "rien\r\n");
 }
 
 TEST(Order, MovesInterviewsWithTheirExtracts) {
@@ -117,7 +101,7 @@ TEST(Order, MovesInterviewsWithTheirExtracts) {
                                                      {2, 2, "1 2 3 4 "}, {4, 3, "1 2 4 3 "},
                                                      {0, 2, "1 2 3 4 "}, {1, 5, "1 2 3 4 "}};
     for (const auto& [source, cible, attendu] : cas) {
-        Session session = essai::corpusDEssai(4);
+        Session session = corpusDEssai(4);
         for (std::size_t i = 1; i <= 4; ++i)
             session.corpus.Entretiens[i].Fichier = session.corpus.extraits[i].chemin = std::to_string(i);
         DeplacerEntretien(session, source, cible);
@@ -127,5 +111,86 @@ TEST(Order, MovesInterviewsWithTheirExtracts) {
     }
 }
 
+struct Import : testing::Test {
+    PlateformeDeTest hote;
+    Session session;
+    void SetUp() override {
+        session.corpus.RepCorpus = hote.dossier.chemin("c/");
+        session.corpus.Entretiens.resize(1);
+        hote.dossier.ecrire("c/la.wav", "ancien");
+    }
+};
+
+TEST_F(Import, AsksForTheFormatThatIsntTheLightest) {
+    const std::tuple<std::int16_t, std::int16_t, const char*> cas[] = {
+        {1, 8, ""}, {1, 16, "Mono - 16 bits"}, {2, 8, "Stereo - 8 bits"}, {3, 16, "\n - 16 bits"}};
+    for (const auto& [canaux, bits, format] : cas) {
+        if (*format) hote.dialogues.repondre(Reponse::Non, format);
+        EnTeteWav entete;
+        entete.NbCanaux = canaux, entete.BitsParEchantillon = bits;
+        EXPECT_EQ(demanderFormat(entete, hote), ChoixFormat::Garder);
+    }
+    EXPECT_NE(hote.dialogues.dernier().find("|OuiNonAnnuler:Non|"), std::string::npos) << "no converter";
+    const Utf8 chemin = hote.dossier.ecrire("donnees/Convertisseur.exe", "");
+    lancerConvertisseur(hote);
+    EXPECT_EQ(hote.lanceur.lances, std::vector<Utf8>{chemin});
+}
+
+TEST_F(Import, CopiesAfterAYesAndTellsACopyThatFails) {
+    EXPECT_TRUE(apporterDansCorpus(session, hote, hote.dossier.chemin("c/../c/la.wav")));
+    const Utf8 ailleurs = hote.dossier.ecrire("ailleurs/LA.wav", "neuf");
+    hote.media.URL(hote.dossier.chemin("c/la.wav"));
+    hote.dialogues.repondre(Reponse::Ok).repondre(Reponse::Oui).repondre(Reponse::Ok);
+    EXPECT_EQ(apporterDansCorpus(session, hote, ailleurs), "la.wav") << "the file that is there";
+    EXPECT_EQ(hote.dossier.lire("c/la.wav"), "neuf");
+    EXPECT_EQ(hote.media.URL(), "");
+    EXPECT_EQ(hote.dialogues.dernier(),
+              "Vermo|Le fichier a été copié dans le répertoire.\\n" + session.corpus.RepCorpus +
+                  "\\nIl va maintenant être ajouté au projet.|Ok|Information -> Ok");
+    hote.dialogues.repondre(Reponse::Ok)
+        .repondre(Reponse::Ok,
+                  "La copie du fichier est impossible.\nLe fichier est peut-être en cours d'écoute.")
+        .repondre(Reponse::Ok, "absent.wav")
+        .repondre(Reponse::Ok, "ça ne fonctionne pas !");
+    EXPECT_FALSE(apporterDansCorpus(session, hote, hote.dossier.chemin("ailleurs/absent.wav")));
+    hote.media.lent = true;
+    EXPECT_EQ(mesurerDuree(hote, hote.dossier.chemin("c/la.wav")), 0) << "it never comes";
+    EXPECT_LE(hote.progression.patience, 0);
+}
+
+TEST_F(Import, NeverMakesTwoInterviewsWithTheSameCompanions) {
+    session.corpus.Entretiens.emplace_back().Fichier = "b.wav";
+    for (const char* nom :
+         {"c/b.wav", "c/b.mp3", "c/B.WAV", "c/B 2.Rtr", "c/É.wav", "ailleurs/B.mp3", "ailleurs/e\u0301.wav"})
+        hote.dossier.ecrire(nom, "son");
+    const std::tuple<Utf8, std::vector<std::pair<Reponse, Utf8>>, std::optional<Texte>> cas[] = {
+        {"c/b.mp3", {{Reponse::Ok, "b.mp3 ne peut pas être ajouté"}}, {}},
+        {"c/B.WAV", {{Reponse::Ok, "celle de l'entretien b.wav"}}, {}},
+        {"ailleurs/B.mp3", {{Reponse::Ok, ""}, {Reponse::Non, "sous le nom B 3.mp3"}}, {}},
+        {"ailleurs/B.mp3",
+         {{Reponse::Ok, ""}, {Reponse::Oui, "de l'entretien b.wav"}, {Reponse::Ok, ""}},
+         "B 3.mp3"},
+        {"ailleurs/e\u0301.wav", {{Reponse::Ok, ""}, {Reponse::Non, "(É.wav ) existe"}}, "\xC9.wav"}};
+    for (const auto& [chemin, reponses, nom] : cas) {
+        for (const auto& [reponse, extrait] : reponses)
+            hote.dialogues.repondre(reponse, extrait);
+        EXPECT_EQ(apporterDansCorpus(session, hote, hote.dossier.chemin(chemin)), nom) << chemin;
+    }
+    EXPECT_EQ(hote.dossier.lire("c/B 3.mp3"), "son");
+}
+
+TEST_F(Import, KeepsATranscriptAndRefusesWhatCannotStandInTheList) {
+    ajouterEntretien(session, "la.wav", 12.5);
+    hote.dossier.ecrire("c/la.Rtr", "gardee");
+    creerRetranscription(session, hote, 1);
+    EXPECT_EQ(hote.dossier.lire("c/la.Rtr"), "gardee");
+    for (const char* nom : {"/x/łódź.wav", "/x/a\rb.wav", "/x/a\\b.wav"})
+        EXPECT_THROW(nomImporte(nom), FauteExecution);
+    hote.dialogues.repondre(Reponse::Ok, "Le fichier la.wav est déjà présent dans le projet.");
+    EXPECT_TRUE(!dejaDansCorpus(session, hote, "LA.wav") && dejaDansCorpus(session, hote, "la.wav"));
+    while (session.corpus.NbEntretiens < 999)
+        ajouterEntretien(session, "x.wav", 1);
+    EXPECT_THROW(ajouterEntretien(session, "y.wav", 1), FauteExecution);
+}
+
 } // namespace
-} // namespace vermo

@@ -6,12 +6,23 @@
 
 #include <gtest/gtest.h>
 
-namespace vermo::essai {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
 struct Variables : testing::Test {
     PlateformeDeTest hote;
     Session session;
+    rtr::Attributs* attributs = nullptr;
+    void SetUp() override {
+        session.corpus.RepCorpus = hote.dossier.chemin();
+        session.corpus.NbEntretiens = 1;
+        session.corpus.Entretiens.resize(2);
+        session.corpus.Entretiens[1].Fichier = "a.mp3";
+        attributs = &session.corpus.Entretiens[1].Attributs;
+        hote.dossier.ecrire("a.mp3", "");
+    }
     bool lire(const std::string& octets) {
         session.corpus.CheminCorpus = hote.dossier.ecrire("c.Crp", octets);
         return LireVariables(session, hote);
@@ -38,39 +49,29 @@ TEST_F(Variables, StandAtTheirNumbersAndEmptyAfterAFault) {
 }
 
 TEST_F(Variables, AttributesWithoutALineStay) {
-    session.corpus.RepCorpus = hote.dossier.chemin();
-    session.corpus.Entretiens.resize(2);
-    session.corpus.Entretiens[1].Fichier = "a.mp3";
-    rtr::Attributs& attributs = session.corpus.Entretiens[1].Attributs;
     for (const std::size_t note : {0, 8000, 8160, 8180, 20000}) { // the section across the first read
-        attributs = {};
-        attributs[4] = 6;
+        *attributs = {};
+        (*attributs)[4] = 6;
         hote.dossier.ecrire("a.Rtr", "60\r\n<|OBS|\r\n" + std::string(note, 'n') +
                                          "\r\n>|OBS|\r\n<|ATTR|\r\n1,2\r\n\r\n"
                                          "99,41\r\n>|ATTR|\r\n7,7\r\n" +
                                          std::string(9000, 't'));
         LireAttributs(session, 1);
-        EXPECT_EQ((std::array{attributs[0], attributs[4], attributs[6], attributs[98]}),
-                  (std::array{2.F, 6.F, 0.F, 41.F}))
-            << note;
+        const auto& lus = *attributs;
+        EXPECT_EQ((std::vector{lus[0], lus[4], lus[6], lus[98]}), (std::vector{2.F, 6.F, 0.F, 41.F})) << note;
     }
 }
 
 TEST_F(Variables, AttributesOfTheScanServeWhileTheFileIsTheSame) {
-    session.corpus.RepCorpus = hote.dossier.chemin();
-    session.corpus.Entretiens.resize(2);
-    session.corpus.Entretiens[1].Fichier = "a.mp3", session.corpus.NbEntretiens = 1;
-    hote.dossier.ecrire("a.mp3", "");
-    for (const char* modalite : {"2", "41"}) {
-        hote.dossier.ecrire("a.Rtr", std::string("60\r\n<|ATTR|\r\n1,") + modalite + "\r\n>|ATTR|\r\n");
-        if (modalite == std::string("2")) AnalyserEntretiens(session, hote, 1, 1);
+    for (const std::string modalite : {"2", "41"}) {
+        hote.dossier.ecrire("a.Rtr", "60\r\n<|ATTR|\r\n1," + modalite + "\r\n>|ATTR|\r\n");
+        if (modalite == "2") AnalyserEntretiens(session, hote, 1, 1);
         for (int fois = 0; fois < 2; ++fois) {
-            session.corpus.Entretiens[1].Attributs = {};
+            *attributs = {};
             LireAttributs(session, 1);
-            EXPECT_EQ(session.corpus.Entretiens[1].Attributs[0], std::stof(modalite));
+            EXPECT_EQ((*attributs)[0], std::stof(modalite));
         }
     }
 }
 
 } // namespace
-} // namespace vermo::essai

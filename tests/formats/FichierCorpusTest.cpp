@@ -1,9 +1,14 @@
 #include "formats/FichierCorpus.h"
+
+#include "formats/EnTeteWav.h"
+#include "formats/Projets.h"
 #include "textfile/faute.h"
 
 #include <gtest/gtest.h>
 
-namespace vermo::crp {
+using namespace vermo;
+using namespace vermo::crp;
+
 namespace {
 
 const std::string CORPUS =
@@ -20,7 +25,6 @@ std::string enLf(std::string octets) {
 TEST(CorpusFile, OfAnotherSystemsEditorIsReadWholeAndRewrittenInItsNormalForm) {
     const std::vector<Thematique> rangs = {{"001", "255", "Un"}};
     EXPECT_EQ(lireThematiques(enLf(CORPUS), ""), lireThematiques(CORPUS, ""));
-    EXPECT_EQ(lireDic(enLf(CORPUS), ""), lireDic(CORPUS, ""));
     EXPECT_EQ(lireEntretiens(enLf(CORPUS)), lireEntretiens(CORPUS));
     EXPECT_EQ(ecrireThematiques(enLf(CORPUS), rangs), ecrireThematiques(CORPUS, rangs));
     EXPECT_EQ(ecrireEntretiens(enLf(CORPUS), {"b.wav"}), ecrireEntretiens(CORPUS, {"b.wav"}));
@@ -44,24 +48,29 @@ TEST(CorpusFile, ReadsItsFourSections) {
         EXPECT_EQ(lireEntretiens(octets), entretiens) << octets;
 }
 
+/// `ligne` many times.
+std::string fois(int nombre, const std::string& ligne) {
+    std::string toutes;
+    while (nombre-- > 0)
+        toutes += ligne;
+    return toutes;
+}
+
 TEST(CorpusFile, RefusesWithTheLine) {
-    std::string thematiques, entretiens; // a thousand of each
-    for (int fois = 0; fois < 1000; ++fois)
-        thematiques += "000,0,a\r\n";
-    for (int fois = 0; fois < 1000; ++fois)
-        entretiens += "a.wav\r\n";
     const std::tuple<std::string, std::string, std::size_t> cas[] = {
         {"THEM", "000,0,a\r\n\r\n001 0 b\r\n", 4},
         {"THEM", "000,0 a\r\n", 2},
+        {"THEM", fois(999, "000,0,a\r\n"), 0},
         {"THEM", "000,rouge,a\r\n", 2},
         {"THEM", std::string("000,0,a\0b\r\n", 11), 2},
-        {"THEM", thematiques, 1001},
+        {"THEM", fois(1000, "000,0,a\r\n"), 1001},
         {"POS", "Sexe\r\n", 2},
-        {"POS", "1,Sexe\r\n100,Age\r\n", 3},
+        {"POS", "1,Sexe\r\n99,Age\r\n100,Lieu\r\n", 4},
+        {"POS", "1,Sexe\r\n0,Age\r\n", 3},
         {"DIC", "4,1\r\n", 2},
         {"DIC", "4,0,Non\r\n", 2},
         {"DIC", "4,99999999999,Non\r\n", 2},
-        {"ENTR", entretiens, 1001},
+        {"ENTR", fois(1000, "a.wav\r\n"), 1001},
         {"ENTR", std::string("a\0.wav", 6), 2}};
     for (const auto& [section, contenu, ligne] : cas) {
         const std::string octets = "<|" + section + "|\r\n" + contenu;
@@ -114,5 +123,26 @@ TEST(CorpusFile, RewritingInterviewsQuotesWhatFollows) {
     EXPECT_EQ(ecrireEntretiens(ancienne, {}), liste("/etc/x\r\n..\r\nc\\d.wav\r\n"));
 }
 
+TEST(RecentFile, IsReadByItemsAndKeepsTheOthers) {
+    const auto lus = projets::lire("/a/\xE9t\xE9.Crp\r\n\r\n\"/b, c.Crp\"\r\n/d,/e\r/a/\xE9t\xE9.Crp");
+    EXPECT_EQ(lus, (std::vector<Utf8>{"/a/été.Crp", "/b, c.Crp", "/d", "/e", "/a/été.Crp"}));
+    EXPECT_EQ(projets::lire("/a.Crp\n\n\"/b, c.Crp\""), (std::vector<Utf8>{"/a.Crp", "/b, c.Crp"}));
+    for (const char* chemin : {"/a/été.Crp", "/a/e\u0301te\u0301.Crp"})
+        EXPECT_EQ(projets::ecrire(chemin, lus), "/a/\xE9t\xE9.Crp\r\n/b, c.Crp\r\n/d\r\n/e\r\n");
+    EXPECT_THROW(projets::ecrire("/中.Crp", {}), FauteExecution);
+}
+
+TEST(WaveHeader, FieldsStandAtTheirPlacesAndAreZeroBehindTheEnd) {
+    const std::string octets("RIFF\x24\x01\x00\x00WAVEfmt \x10\x00\x00\x00\x01\x00\x02\x00\x44\xAC\x00\x00"
+                             "\x10\xB1\x02\x00\x04\x00\x10\x00"
+                             "data\xFE\xFF\xFF\xFFsuite",
+                             49);
+    const std::pair<std::size_t, EnTeteWav> cas[] = {
+        {49, {"RIFF", 292, "WAVE", "fmt ", 16, 1, 2, 44100, 176400, 4, 16, "data", -2}},
+        {25, {"RIFF", 292, "WAVE", "fmt ", 16, 1, 2, 0x44, 0, 0, 0, "", 0}},
+        {0, {}}};
+    for (const auto& [taille, attendu] : cas)
+        EXPECT_EQ(lireEnTeteWav(octets.substr(0, taille)), attendu) << taille;
+}
+
 } // namespace
-} // namespace vermo::crp

@@ -1,38 +1,24 @@
-// The sequences as a program without a screen runs them: no window, no Qt.
+// A sequence as a program without a screen runs it: no window, no Qt.
 #include "sequences/Ouverture.h"
 #include "support/CorpusDEssai.h"
-#include "transcription/Retranscription.h"
 
 #include <gtest/gtest.h>
 
-namespace vermo {
-namespace {
+using namespace vermo;
 
-TEST(Sequences, OpenInsertAndList) {
+TEST(Sequences, AnOpeningReadsAllAndShowsEachStep) {
     essai::CorpusDEssai essai;
-    essai.session.reglages.separateurDecimal = '.';
     essai.ecrireCorpus("000,&H0, Sans\r\n001,255, Travail\r\n", "a.wav\r\nb.wav\r\n");
-    for (const char* nom : {"a", "b"})
-        essai.ajouterEntretien(nom, essai::ENTETE);
-    const auto viser = [&] {
-        essai.corpus().CheminCorpus = essai.dossier().chemin("c/Essai.Crp");
-        essai.corpus().OuvertureDirecte = true;
-    };
-    viser();
-    ASSERT_EQ(ouvrirCorpus(essai.session, essai.hote), IssueOuverture::Ouverte);
-    essai.corpus().EntretienCourant = 2;
-    LireRetranscription(essai.session, essai.hote);
-    essai.hote.media.URL(cheminEnregistrement(essai.session, 2));
-    essai.session.transcription.SaisieDebut = 12.5;
-    essai.session.transcription.SaisieFin = 20;
-    Texte dit = "bonjour";
-    ASSERT_TRUE(AjouterExtrait(essai.session, essai.hote, retranscriptionDuLecteur(essai.session, essai.hote),
-                               dit, "001"));
-    viser();
-    ASSERT_EQ(ouvrirCorpus(essai.session, essai.hote), IssueOuverture::Ouverte);
+    essai.ajouterEntretien("a", essai::ENTETE);
+    essai.ajouterEntretien("b", "100\r\n<|ATTR|\r\n3,7\r\n>|ATTR|\r\n::1::001\r\nmot\r\n::2::\r\n");
+    essai.corpus().CheminCorpus = essai.dossier().chemin("c/Essai.Crp");
+    essai.corpus().OuvertureDirecte = true;
+    std::vector<Etape> etapes;
+    ASSERT_EQ(ouvrirCorpus(essai.session, essai.hote, {3000, [&](Etape e) { etapes.push_back(e); }}),
+              IssueOuverture::Ouverte);
+    EXPECT_EQ(etapes,
+              (std::vector{Etape::Debut, Etape::Vide, Etape::Thematiques, Etape::Frise, Etape::Pistes}));
+    EXPECT_EQ(essai.corpus().Entretiens[2].Attributs[2], 7);
     EXPECT_EQ(essai::decrireExtraits(essai.session, 1), "");
-    EXPECT_EQ(essai::decrireExtraits(essai.session, 2), "12.50;20.00;001;bonjour/;");
+    EXPECT_EQ(essai::decrireExtraits(essai.session, 2), "1;2;001;mot/;");
 }
-
-} // namespace
-} // namespace vermo

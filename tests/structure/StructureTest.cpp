@@ -1,10 +1,11 @@
 // The levels of src/, held for every include: a folder uses those below it, never one above; neighbours keep
 // apart but for the pairs named here; no Qt below the glass; no form knows another form. And who writes
 // files: the door for those of a corpus, and a few for what is no part of it.
-#include <gtest/gtest.h>
+#include "window/Fenetres.h"
 
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <iterator>
 #include <map>
 #include <regex>
@@ -35,56 +36,44 @@ const std::set<std::string> ECRIVAINS = {
 };
 
 /// Each source by its path below src/, with its text.
-const std::map<std::string, std::string>& sources() {
-    static const auto toutes = [] {
-        std::map<std::string, std::string> lues;
-        const fs::path racine = fs::path(VERMO_RACINE) / "src";
-        for (const auto& entree : fs::recursive_directory_iterator(racine)) {
-            if (entree.path().extension() != ".h" && entree.path().extension() != ".cpp") continue;
-            std::ifstream fichier(entree.path(), std::ios::binary);
-            lues[fs::relative(entree.path(), racine).generic_string()].assign(
-                std::istreambuf_iterator<char>(fichier), {});
-        }
-        return lues;
-    }();
-    return toutes;
-}
-
-/// The form that a file is a part of: the longest name that it begins with of those that have both a header
-/// and a source; none for what is no form's.
-std::string formeDe(const std::string& nom) {
-    std::string trouvee;
-    for (const auto& [chemin, texte] : sources()) {
-        const std::string forme = fs::path(chemin).stem().string();
-        if (chemin.ends_with(".h") && forme.starts_with("Frm") && nom.starts_with(forme) &&
-            sources().contains(fs::path(chemin).replace_extension(".cpp").string()) &&
-            forme.size() > trouvee.size())
-            trouvee = forme;
+const std::map<std::string, std::string> SOURCES = [] {
+    std::map<std::string, std::string> lues;
+    const fs::path racine = fs::path(VERMO_RACINE) / "src";
+    for (const auto& entree : fs::recursive_directory_iterator(racine)) {
+        if (entree.path().extension() != ".h" && entree.path().extension() != ".cpp") continue;
+        std::ifstream fichier(entree.path(), std::ios::binary);
+        lues[fs::relative(entree.path(), racine).generic_string()].assign(
+            std::istreambuf_iterator<char>(fichier), {});
     }
-    return trouvee;
+    return lues;
+}();
+
+/// The form that a file is a part of; none for what is no form's.
+std::string_view formeDe(const fs::path& chemin) {
+    for (const vermo::Fenetre forme : vermo::FENETRES)
+        if (chemin.filename().string().starts_with(nomFenetre(forme))) return nomFenetre(forme);
+    return {};
 }
 
 bool permise(const std::string& dossier, const std::string& inclus) {
-    if (dossier == inclus) return true;
     const int ici = NIVEAUX.at(dossier), la = NIVEAUX.at(inclus);
-    return la < ici || (la == ici && VOISINS.contains({dossier, inclus}));
+    return dossier == inclus || la < ici || (la == ici && VOISINS.contains({dossier, inclus}));
 }
 
 /// What is wrong with one include of the file `chemin`.
 std::string faute(const fs::path& chemin, bool systeme, const fs::path& inclus) {
-    const std::string dossier = chemin.parent_path().string(), autre = inclus.parent_path().string(),
-                      forme = formeDe(inclus.filename().string());
+    const std::string dossier = chemin.parent_path().string(), autre = inclus.parent_path().string();
     if (systeme) return inclus.string().starts_with("Q") && NIVEAUX.at(dossier) < 5 ? "Qt" : "";
     if (autre.empty() && inclus.extension() == ".moc") return "";
     if (!NIVEAUX.contains(autre)) return "unknown folder";
     if (!permise(dossier, autre)) return "points up or aside to";
-    const bool autreForme = !forme.empty() && forme != formeDe(chemin.filename().string());
+    const bool autreForme = !formeDe(inclus).empty() && formeDe(inclus) != formeDe(chemin);
     return autreForme && dossier != "app" ? "another form's" : "";
 }
 
 TEST(Includes, EverySourceKeepsItsLevel) {
     const std::regex inclusion("(?:^|\n)[ \t]*#[ \t]*include[ \t]*([<\"])([^>\"]+)");
-    for (const auto& [chemin, texte] : sources()) {
+    for (const auto& [chemin, texte] : SOURCES) {
         ASSERT_TRUE(NIVEAUX.contains(fs::path(chemin).parent_path().string())) << chemin;
         for (std::sregex_iterator prise(texte.begin(), texte.end(), inclusion), fin; prise != fin; ++prise)
             EXPECT_EQ(faute(chemin, (*prise)[1] == "<", (*prise)[2].str()), "") << chemin << (*prise)[0];
@@ -96,7 +85,7 @@ TEST(Includes, EverySourceKeepsItsLevel) {
 
 TEST(Writers, AreTheDoorAndThoseNamedHere) {
     std::set<std::string> ecrivains;
-    for (const auto& [chemin, texte] : sources())
+    for (const auto& [chemin, texte] : SOURCES)
         for (const char* appel : {"remplacerFichier(", "supprimerFichier(", "copierFichier("})
             if (texte.find(appel) != std::string::npos) ecrivains.insert(chemin);
     EXPECT_EQ(ecrivains, ECRIVAINS);

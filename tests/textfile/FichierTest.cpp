@@ -1,14 +1,16 @@
 #include "support/Pannes.h"
+#include "textfile/empreinte.h"
 #include "textfile/faute.h"
 
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
-namespace vermo {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
-using essai::DossierTemporaire;
-using essai::Panne;
-using essai::Pannes;
 namespace fs = std::filesystem;
 
 /// The fault's whole message, or nothing when `action` succeeds.
@@ -57,6 +59,27 @@ TEST(FileReading, GivesAllBytesOrRefusesWithTheCause) {
     EXPECT_EQ(descripteursOuverts(), avant);
 }
 
+TEST(FileReading, GoesOnAfterShortAndInterruptedReads) {
+    const DossierTemporaire dossier;
+    const std::string octets = contenu(5000);
+    const Utf8 chemin = dossier.ecrire("a", octets);
+    const AppelsSysteme vrais = appelsSysteme();
+    static int appels;
+    static const auto interrompu = [] { return errno = EINTR, ++appels % 2 == 0; };
+    appelsSysteme().read = [](int d, void* vers, std::size_t n) {
+        return interrompu() ? -1 : ::read(d, vers, std::min<std::size_t>(n, 700));
+    };
+    appelsSysteme().pread = [](int d, void* vers, std::size_t n, off_t position) {
+        return interrompu() ? -1 : ::pread(d, vers, std::min<std::size_t>(n, 700), position);
+    };
+    std::string morceau(4000, ' ');
+    EXPECT_EQ(Source(chemin).lireA(500, morceau.data(), 4000), 4000U);
+    EXPECT_EQ(lireFichier(chemin), octets);
+    EXPECT_EQ(lireDebut(chemin, 4000), octets.substr(0, 4000));
+    appelsSysteme() = vrais;
+    EXPECT_EQ(morceau, octets.substr(500, 4000));
+}
+
 TEST(FileReplacement, TellsEachCallThatFails) {
     const DossierTemporaire dossier;
     const Utf8 chemin = dossier.chemin("a.Rtr");
@@ -88,7 +111,7 @@ TEST(FileReplacement, TellsEachCallThatFails) {
                   message.empty() ? "" : message + "\n" + chemin)
             << panne.appel << " " << panne.erreur;
         EXPECT_TRUE(dossier.lire("a.Rtr") == (remplace ? nouveau : ancien)) << panne.appel << panne.erreur;
-        EXPECT_EQ(essai::temporairesRestants(dossier), 0);
+        EXPECT_EQ(temporairesRestants(dossier), 0);
     }
     EXPECT_EQ(descripteursOuverts(), avant);
     remplacerFichier(dossier.chemin("neuf"), "");
@@ -96,6 +119,22 @@ TEST(FileReplacement, TellsEachCallThatFails) {
     EXPECT_THROW(remplacerFichier(dossier.chemin("absent/neuf"), "x"), FauteExecution);
     EXPECT_EQ(faute([&] { remplacerFichier(dossier.chemin(), "x"); }),
               es + "c'est un répertoire\n" + dossier.chemin());
+    for (const char* nom : {"neuf", "neuf", "absent/neuf"}) // what isn't there is no fault
+        EXPECT_EQ(faute([&] { supprimerFichier(dossier.chemin(nom)); }), "") << nom;
+    EXPECT_EQ(faute([&] { supprimerFichier(dossier.chemin()); }),
+              "Suppression impossible : c'est un répertoire\n" + dossier.chemin());
+    EXPECT_FALSE(dossier.existe("neuf"));
+}
+
+TEST(FileReplacement, PastTheLimitOfAFilesSizeIsAFaultAndNotTheEnd) {
+    const DossierTemporaire dossier;
+    rlimit avant{};
+    getrlimit(RLIMIT_FSIZE, &avant);
+    const rlimit petite{1000, avant.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &petite);
+    EXPECT_EQ(faute([&] { remplacerFichier(dossier.chemin("a"), nouveau); }),
+              "Écriture impossible : fichier trop grand\n" + dossier.chemin("a"));
+    setrlimit(RLIMIT_FSIZE, &avant);
 }
 
 TEST(FileReplacement, KeepsLinksOwnerAndMode) {
@@ -122,6 +161,14 @@ TEST(FileReplacement, KeepsLinksOwnerAndMode) {
               "Écriture impossible : trop de liens symboliques\n" + dossier.chemin("boucle"));
 }
 
+TEST(Fingerprint, IsTheSameOnEveryMachineAndSeesOneBit) {
+    EXPECT_EQ(empreinteDe(""), (Empreinte{0x99aa06d3014798d8, 0x6001c324468d497f}));
+    std::string octets(100'000, 'a');
+    const Empreinte avant = empreinteDe(octets);
+    octets[77'777] ^= 1;
+    EXPECT_NE(empreinteDe(octets), avant);
+}
+
 TEST(FileCopy, TellsItsProgressAndCanBeStopped) {
     const DossierTemporaire dossier;
     const std::string octets = contenu(2'500'000);
@@ -134,7 +181,7 @@ TEST(FileCopy, TellsItsProgressAndCanBeStopped) {
     };
     EXPECT_FALSE(copierFichier(source, cible, suivre));
     EXPECT_TRUE(dossier.lire("cible.wav") == ancien);
-    EXPECT_EQ(essai::temporairesRestants(dossier), 0);
+    EXPECT_EQ(temporairesRestants(dossier), 0);
     avance.assign(2, 0);
     EXPECT_TRUE(copierFichier(source, cible, suivre));
     EXPECT_EQ(avance, (std::vector<std::int64_t>{0, 0, 1 << 20, 2 << 20, 2'500'000}));
@@ -146,8 +193,7 @@ TEST(FileCopy, TellsItsProgressAndCanBeStopped) {
     EXPECT_EQ(faute([&] { copierFichier(source, cible, raccourcir); }),
               "Copie impossible : le fichier a été raccourci pendant la lecture\n" + source);
     EXPECT_TRUE(dossier.lire("cible.wav") == octets);
-    EXPECT_EQ(essai::temporairesRestants(dossier), 0);
+    EXPECT_EQ(temporairesRestants(dossier), 0);
 }
 
 } // namespace
-} // namespace vermo

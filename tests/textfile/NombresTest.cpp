@@ -9,7 +9,8 @@
 #include <map>
 #include <sstream>
 
-namespace vermo {
+using namespace vermo;
+
 namespace {
 
 const Reglages virgule;
@@ -33,10 +34,13 @@ std::string sous(std::string texte, const Reglages& reglages) {
 TEST(Numbers, AreReadWithTheSeparatorOfTheSettings) {
     for (const Reglages& reglages : {virgule, point}) {
         std::ostringstream lus;
-        for (const char* texte : {" 12.50 ", ".5", "5.", "-3", "+4.25x", "1E-2", "1.5e+3", "7e+", "12.5.6",
-                                  "3::001", "100000000000000000000"})
+        lus.precision(16);
+        for (const char* texte :
+             {" 12.50 ", ".5", "5.", "-3", "+4.25x", "1E-2", "1.5e+3", "7e+", "12.5.6", "3::001",
+              "100000000000000000000", "0.1234567", "0.12345678", "123456789012345", "1234567890123456"})
             lus << nombre(sous(texte, reglages), reglages) << " ";
-        EXPECT_EQ(lus.str(), "12.5 0.5 5 -3 4.25 0.01 1500 7 12.5 3 1e+20 ");
+        EXPECT_EQ(lus.str(), "12.5 0.5 5 -3 4.25 0.01 1500 7 12.5 3 1e+20 0.1234567 0.12345678 "
+                             "123456789012345 1234567890123456 ");
         for (const char* texte : {"", "  ", "abc", "-", ".", ",", "+-1", "inf", "nan", "e5", "1e999"})
             EXPECT_THROW(nombre(texte, reglages), FauteExecution) << texte;
     }
@@ -90,31 +94,25 @@ TEST(Numbers, AreWritten) {
               "00:00|00:59|01:00|01:00|07:05|59:59|1:00:00|1:02:05|10:00:00|100:00:00|");
 }
 
-/// Whether a locale is installed or not, it must come to the same separator.
-TEST(SystemSettings, TheLanguagesSeparator) {
-    constexpr const char* NOMS[] = {"LC_ALL", "LC_NUMERIC", "LC_TIME", "LANG"};
-    const auto poser = [&](const std::map<std::string, std::string>& valeurs) {
-        for (const char* nom : NOMS)
-            valeurs.contains(nom) ? setenv(nom, valeurs.at(nom).c_str(), 1) : unsetenv(nom);
-    };
-    std::map<std::string, std::string> avant;
-    for (const char* nom : NOMS)
-        if (const char* valeur = std::getenv(nom)) avant[nom] = valeur;
-    const std::pair<std::map<std::string, std::string>, char> cas[] = {
-        {{}, '.'},
-        {{{"LANG", "fr_FR.UTF-8"}}, ','},
-        {{{"LANG", "fr_BE@euro"}}, ','},
-        {{{"LANG", "fr_FR.UTF-8"}, {"LC_NUMERIC", "en_GB.UTF-8"}}, '.'},
-        {{{"LC_ALL", "de_DE.UTF-8"}, {"LC_NUMERIC", "C"}}, ','},
-        {{{"LANG", "xx_XX"}}, '.'}};
-    for (const auto& [variables, separateur] : cas) {
-        poser(variables);
-        EXPECT_EQ(reglagesDuSysteme().separateurDecimal, separateur) << testing::PrintToString(variables);
+/// Whether a locale is installed or not, it must come to the same.
+TEST(SystemSettings, AreTheLanguages) {
+    const std::string francaise = "%d/%m/%Y", iso = "%Y-%m-%d", duC = "%m/%d/%y";
+    const std::tuple<std::map<std::string, std::string>, char, std::string> cas[] = {
+        {{}, '.', duC},
+        {{{"LANG", "fr_FR.UTF-8"}}, ',', francaise},
+        {{{"LANG", "fr_FR.UTF-8"}, {"LC_NUMERIC", "en_GB.UTF-8"}}, '.', francaise},
+        {{{"LC_ALL", "wa_BE@euro"}, {"LC_NUMERIC", "C"}, {"LC_TIME", "C"}}, ',', francaise},
+        {{{"LC_ALL", ""}, {"LC_TIME", "fr_FR.UTF-8"}}, '.', francaise},
+        {{{"LANG", "xx_XX"}}, '.', iso},
+        {{{"LANG", "xx_XX"}, {"LC_TIME", "C"}}, '.', duC}};
+    for (const auto& [variables, separateur, date] : cas) {
+        for (const char* nom : {"LC_ALL", "LC_NUMERIC", "LC_TIME", "LANG"})
+            variables.contains(nom) ? setenv(nom, variables.at(nom).c_str(), 1) : unsetenv(nom);
+        const Reglages lus = reglagesDuSysteme();
+        EXPECT_EQ(std::pair(lus.separateurDecimal, lus.formatDate), std::pair(separateur, date))
+            << testing::PrintToString(variables);
+        EXPECT_TRUE(lus.formatHeure == "%T" || lus.formatHeure == "%H:%M:%S") << lus.formatHeure;
     }
-    poser({{"LC_TIME", "fr_FR.UTF-8"}});
-    EXPECT_EQ(reglagesDuSysteme().formatDate, "%d/%m/%Y");
-    poser(avant);
 }
 
 } // namespace
-} // namespace vermo

@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
-namespace vermo {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
 TEST(Text, EveryByteSurvivesTheRoundTrip) {
@@ -71,34 +73,41 @@ TEST(Paths, Parts) {
     EXPECT_EQ(repertoireDe("/a/b.c/d") + "|" + repertoireDe("d"), "/a/b.c/|");
     EXPECT_EQ(nomDe("/a/b.c/d") + nomDe("e"), "de");
     EXPECT_EQ(compagnon("a b.wav", "Rtr") + "|" + compagnon("son.flac", "Rtr"), "a b.Rtr|son.fRtr");
-    EXPECT_EQ(compagnon("ab", "Rtr") + extension3("x.Wav") + extension3("ab"), "RtrWAVAB");
+    EXPECT_EQ(compagnon("abc", "Rtr") + compagnon("ab", "Rtr"), "RtrRtr");
+    EXPECT_EQ(extension3("x.Wav") + extension3("abc") + extension3("ab"), "WAVABCAB");
 }
 
 TEST(Paths, AreFoundWhateverTheirCaseAndAccents) {
-    const essai::DossierTemporaire dossier;
-    for (const char* nom :
-         {"Entretien Été.WAV", "a.rtr", "A.Rtr", "a.rtR", "日\xE9.Rtr", "Re\u0301el/Garc\u0327on.wav"})
+    const DossierTemporaire dossier;
+    for (const char* nom : {"Entretien Été.WAV", "a.rtr", "A.Rtr", "a.rtR", "B.wav", "b.wav", "sous/C.wav",
+                            "日\xE9.Rtr", "Re\u0301el/Garc\u0327on.wav"})
         dossier.ecrire(nom, "");
-    const IndexRepertoire index(dossier.chemin().substr(0, dossier.chemin().size() - 1));
     const std::pair<std::string, std::string> cas[] = {{"entretien éTÉ.wav", "Entretien Été.WAV"},
                                                        {"a.rtr", "a.rtr"},
                                                        {"a.RTR", "A.Rtr"},
+                                                       {"b.WAV", "B.wav"},
+                                                       {"sous/c.wav", "sous/C.wav"},
                                                        {"日\xE9.RTR", "日\xE9.Rtr"},
                                                        {"entretien E\u0301te\u0301.wav", "Entretien Été.WAV"},
                                                        {"Réel/garçon.WAV", "Re\u0301el/Garc\u0327on.wav"},
                                                        {"entretien ete.wav", ""},
                                                        {"absent", ""}};
-    for (const auto& [cherche, nom] : cas) {
-        const auto attendu = nom.empty() ? std::nullopt : std::optional(dossier.chemin(nom));
-        EXPECT_EQ(trouver(dossier.chemin(cherche)), attendu) << cherche;
-        EXPECT_EQ(index.trouver(cherche), attendu) << cherche;
-        EXPECT_EQ(cheminReel(dossier.chemin(cherche)), attendu.value_or(dossier.chemin(cherche)));
-    }
+    for (const Utf8& repertoire : {dossier.chemin(), dossier.chemin().substr(0, dossier.chemin().size() - 1)})
+        for (const auto& [cherche, nom] : cas) {
+            const auto attendu = nom.empty() ? std::nullopt : std::optional(dossier.chemin(nom));
+            const Utf8 chemin = dossier.chemin(cherche), reel = attendu.value_or(chemin);
+            EXPECT_EQ(trouver(chemin), attendu) << cherche;
+            EXPECT_EQ(cheminReel(chemin), reel);
+            const IndexRepertoire index(repertoire);
+            EXPECT_EQ(index.trouver(cherche), attendu) << cherche;
+            EXPECT_EQ(index.voir(cherche).value_or(FichierVu()).identite, identiteFichier(reel));
+        }
     EXPECT_EQ(IndexRepertoire("/absent").trouver("a.rtr"), std::nullopt);
+    EXPECT_EQ(IndexRepertoire("").trouver("absent.rtr"), std::nullopt);
 }
 
 TEST(Places, WhereToReadAndWhereToWrite) {
-    const essai::DossierTemporaire dossier;
+    const DossierTemporaire dossier;
     dossier.ecrire("donnees/Vermo.mp3", "");
     dossier.ecrire("prog/Projets.ini", "");
     Emplacements e{dossier.chemin("prog/"), dossier.chemin("donnees/"), dossier.chemin("moi/share/vermo/")};
@@ -112,4 +121,3 @@ TEST(Places, WhereToReadAndWhereToWrite) {
 }
 
 } // namespace
-} // namespace vermo

@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
-namespace vermo::essai {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
 /// A person who agrees to everything, and always names the same file.
@@ -30,13 +32,13 @@ TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
     Accord accord;
     accord.fichier = dossier.chemin("Neuf.Crp");
     e.hote.progression.patience = 1'000'000;
-    Plateforme hote{
-        accord,          e.hote.media,
-        e.hote.horloge,  e.hote.lanceur,
-        e.hote.ecran,    e.hote.progression,
-        e.hote.annonces, {.programme = dossier.chemin(), .donneesProgramme = {}, .donneesPersonne = {}}};
+    PlateformeDeTest& p = e.hote;
+    Plateforme hote{accord,  p.media,       p.horloge,  p.lanceur,
+                    p.ecran, p.progression, p.annonces, {dossier.chemin(), {}, {}}};
     const std::string corpus = "Projet\r\n<|THEM|\r\n000,0,Pas\r\n>|THEM|\r\n<|ENTR|\r\n>|ENTR|\r\n";
+    const std::string rtr = e.disque();
     const Utf8 source = dossier.ecrire("ailleurs/son.wav", std::string(5000, 's'));
+    const auto apporter = [&] { apporterDansCorpus(session, hote, source); };
     const auto ajouter = [&] {
         Texte saisi = "neuf";
         AjouterExtrait(session, hote, e.cible(), saisi, "001");
@@ -45,20 +47,18 @@ TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
         const char* nom;
         std::optional<std::string> ancien; ///< none: the file is made
         std::function<void()> action;
-    } cas[] = {
-        {"E.Crp", corpus, [&] { EcrireThematiques(session, hote); }},
-        {"E.Crp", corpus, [&] { EcrireEntretiens(session, hote); }},
-        {"E.Crp.$$$", {}, [&] { EcrireEntretiens(session, hote); }},
-        {"Neuf.Crp", {}, [&] { creerCorpus(autre, hote); }},
-        {"Projets.ini", "/ancien.Crp\r\n", [&] { MettreAJourProjets(session, hote); }},
-        {"son.wav", {}, [&] { apporterDansCorpus(session, hote, source); }},
-        {"son.wav", "ancien", [&] { apporterDansCorpus(session, hote, source); }},
-        {"a.Rtr", {}, [&] { creerRetranscription(session, hote, 1); }},
-        {"a.Rtr", {}, ajouter},
-        {"a.Rtr", dossier.lire("a.Rtr"), ajouter},
-        {"a.Rtr", dossier.lire("a.Rtr"), [&] { EnregistrerExtraits(session, hote); }},
-        {"a.Rtr", dossier.lire("a.Rtr"), [&] { SupprimerExtrait(session, hote, e.cible()); }},
-    };
+    } cas[] = {{"E.Crp", corpus, [&] { EcrireThematiques(session, hote); }},
+               {"E.Crp", corpus, [&] { EcrireEntretiens(session, hote); }},
+               {"E.Crp.$$$", {}, [&] { EcrireEntretiens(session, hote); }},
+               {"Neuf.Crp", {}, [&] { creerCorpus(autre, hote); }},
+               {"Projets.ini", "/ancien.Crp\r\n", [&] { MettreAJourProjets(session, hote); }},
+               {"son.wav", {}, apporter},
+               {"son.wav", "ancien", apporter},
+               {"a.Rtr", {}, [&] { creerRetranscription(session, hote, 1); }},
+               {"a.Rtr", {}, ajouter},
+               {"a.Rtr", rtr, ajouter},
+               {"a.Rtr", rtr, [&] { EnregistrerExtraits(session, hote); }},
+               {"a.Rtr", rtr, [&] { SupprimerExtrait(session, hote, e.cible()); }}};
     session.transcription.SaisieFin = 2;
     session.transcription.ExtraitCourant = 1;
     for (const auto& c : cas) {
@@ -72,4 +72,3 @@ TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
 }
 
 } // namespace
-} // namespace vermo::essai

@@ -5,9 +5,10 @@
 #include "transcription/Marquage.h"
 
 #include <gtest/gtest.h>
-#include <set>
 
-namespace vermo::essai {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
 using C = Controle;
@@ -25,12 +26,6 @@ struct Vue : EntretienOuvert {
         return disposerBulles(session, largeur, 6000, metriquesFixes);
     }
 };
-
-/// What stands of `controles`, as text.
-std::string seuls(Elements elements, const std::set<Controle>& controles) {
-    std::erase_if(elements, [&](const Element& e) { return !controles.contains(e.controle); });
-    return decrire(elements);
-}
 
 TEST(ExtractTrack, BarsStandWhereTheirTimesDoInTheirColours) {
     Vue vue(0, 100, "::10.00::002\r\n::30.00::\r\n::60.00::777\r\n::50.00::\r\n");
@@ -90,8 +85,11 @@ TEST(Bubbles, NarrowOnesAndThoseBeyondTheEdge) {
             "::12.00::777\r\nmot\r\n::12.10::\r\n::15.00::001\r\nmot encore \r\n::95.00::\r\n"
             "::14.00::000\r\n::19.00::\r\n");
     vue.session.transcription.ExtraitFin[3] = {"fin", vue.session.reglages}; // no number: not shown
-    EXPECT_EQ(seuls(vue.bulles(9000), {C::ImgBulleBas, C::LbltitreXtrZ, C::LblMot}),
-              R"(ImgBulleBas[1] 1800,4825 180x180 tag=1 fond=F4F4F6
+    Elements bulles = vue.bulles(9000);
+    std::erase_if(bulles, [](const Element& e) {
+        return e.controle != C::ImgBulleBas && e.controle != C::LbltitreXtrZ && e.controle != C::LblMot;
+    });
+    EXPECT_EQ(decrire(bulles), R"(ImgBulleBas[1] 1800,4825 180x180 tag=1 fond=F4F4F6
 ImgBulleBas[2] 1970,4825 15x180 tag=1 fond=F4F4F6
 ImgBulleBas[3] 1975,4825 180x180 tag=1 fond=F4F4F6
 LbltitreXtrZ[1] 2040,210 0x255 "Nom 003" tag=1 encre=030000 gras
@@ -105,4 +103,3 @@ LblMot[2] 5170,495 700x200 "encore " tag=1 encre=202024
 }
 
 } // namespace
-} // namespace vermo::essai

@@ -1,11 +1,17 @@
 #include "transcription/Retranscription.h"
 
+#include "support/CorpusDEssai.h"
+#include "textfile/faute.h"
 #include "transcription/Entretien.h"
+#include "transcription/Marquage.h"
+#include "transcription/Saisie.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
 
-namespace vermo::essai {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
 const std::string TETE = " 125.5 \r\n<|OBS|\r\nNote\r\r\n>|OBS|\r\n<|ATTR|\r\n1,2\r\n99,41\r\n>|ATTR|\r\n";
@@ -23,10 +29,9 @@ std::string plein(int extraits) {
 TEST(Transcript, NeedsItsInterviewAndItsFile) {
     EntretienOuvert e(TETE + UN);
     const auto refuse = [&](std::initializer_list<const char*> messages) {
-        for (const char* message : messages)
-            e.hote.dialogues.repondre(Reponse::Ok, message);
+        e.attendre(messages);
         LireRetranscription(e.session, e.hote);
-        EXPECT_EQ(e.session.transcription.NbExtraits, 0);
+        EXPECT_EQ(e.etat.NbExtraits, 0);
         EXPECT_FALSE(EnregistrerExtraits(e.session, e.hote));
     };
     std::filesystem::remove(e.hote.dossier.chemin("a.Rtr"));
@@ -48,27 +53,27 @@ TEST(Transcript, WithAFaultIsToldOnceAndNeverRewritten) {
         {" 125,5 \r\n", "d'une autre machine", 0}};
     for (const auto& [octets, cause, lus] : cas) {
         EntretienOuvert e(octets, [&](auto& hote) { hote.dialogues.repondre(Reponse::Ok, cause); });
-        EXPECT_EQ(e.session.transcription.NbExtraits, lus) << cause;
+        EXPECT_EQ(e.etat.NbExtraits, lus) << cause;
         EXPECT_NE(e.hote.dialogues.dernier().find("a.Rtr"), std::string::npos) << cause;
         LireRetranscription(e.session, e.hote);
 
-        e.hote.dialogues.repondre(Reponse::Ok, IMPOSSIBLE).repondre(Reponse::Ok, IMPOSSIBLE);
-        e.hote.dialogues.repondre(Reponse::Oui).repondre(Reponse::Ok, IMPOSSIBLE);
+        e.attendre({IMPOSSIBLE, IMPOSSIBLE});
         EXPECT_FALSE(EnregistrerExtraits(e.session, e.hote));
         Texte saisi = "neuf";
-        EXPECT_FALSE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "001"));
+        EXPECT_FALSE(e.ajouter(saisi, "001"));
+        e.hote.dialogues.repondre(Reponse::Oui).repondre(Reponse::Ok, IMPOSSIBLE);
         EXPECT_EQ(SupprimerExtrait(e.session, e.hote, e.cible()), Suppression::Echec);
-        EXPECT_TRUE(e.hote.dossier.lire("a.Rtr") == octets) << cause;
+        EXPECT_TRUE(e.disque() == octets) << cause;
     }
 }
 
 TEST(Transcript, IsRewrittenWithoutNegativeStarts) {
     EntretienOuvert e(TETE + UN + DEUX);
-    e.session.transcription.ExtraitCode[1] = "002 Travail";
-    e.session.transcription.ExtraitTexte[1] = "";
-    e.session.transcription.ExtraitDebut[2] = -1.0;
+    e.etat.ExtraitCode[1] = "002 Travail";
+    e.etat.ExtraitTexte[1] = "";
+    e.etat.ExtraitDebut[2] = -1.0;
     EXPECT_TRUE(EnregistrerExtraits(e.session, e.hote));
-    EXPECT_EQ(e.hote.dossier.lire("a.Rtr"), TETE + "::10.00::002 Travail\r\n\r\n::12.50::\r\n");
+    EXPECT_EQ(e.disque(), TETE + "::10.00::002 Travail\r\n\r\n::12.50::\r\n");
 }
 
 TEST(Transcript, KeepsTheDisksNameAndTheMachinesComma) {
@@ -82,43 +87,38 @@ TEST(Transcript, KeepsTheDisksNameAndTheMachinesComma) {
 
 TEST(Extract, IsDeletedAndTheOthersStay) {
     EntretienOuvert e(TETE + UN + DEUX);
-    e.session.transcription.ExtraitCourant = 1;
-    e.session.transcription.ExtraitDebut[2] = -20.0;
-    e.hote.dialogues.repondre(Reponse::Oui).repondre(Reponse::Oui);
-    EXPECT_EQ(SupprimerExtrait(e.session, e.hote, e.cible()), Suppression::Supprime);
-    EXPECT_EQ(e.hote.dossier.lire("a.Rtr"), TETE + "::-20.00" + DEUX.substr(7));
+    e.etat.ExtraitCourant = 1;
+    e.etat.ExtraitDebut[2] = -20.0;
+    const auto supprimer = [&] {
+        e.hote.dialogues.repondre(Reponse::Oui);
+        return SupprimerExtrait(e.session, e.hote, e.cible());
+    };
+    EXPECT_EQ(supprimer(), Suppression::Supprime);
+    EXPECT_EQ(e.disque(), TETE + "::-20.00" + DEUX.substr(7));
     std::filesystem::remove(e.hote.dossier.chemin("a.Rtr"));
-    EXPECT_EQ(SupprimerExtrait(e.session, e.hote, e.cible()), Suppression::Supprime) << "there is none";
-}
-
-TEST(Extract, IsInsertedWithItsTextTrimmed) {
-    EntretienOuvert e(TETE + UN + DEUX);
-    e.session.transcription.SaisieDebut = 10.0;
-    e.session.transcription.SaisieFin = 11.005;
-    Texte saisi = "Oui.\r\r\r";
-    EXPECT_TRUE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "0025"));
-    EXPECT_EQ(saisi, "Oui.\r");
-    EXPECT_NE(e.hote.dossier.lire("a.Rtr").find("::12.50::\r\n::10.00::002\r\nOui.\r\n\r\n::11.01::\r\n::20"),
-              std::string::npos);
+    EXPECT_EQ(supprimer(), Suppression::Supprime) << "there is none";
+    e.hote.media.URL("");
+    EXPECT_THROW(supprimer(), FauteExecution) << "of no recording";
 }
 
 TEST(Extract, MakesItsFileAndKeepsToTheLimit) {
     EntretienOuvert e(TETE);
     std::filesystem::remove(e.hote.dossier.chemin("a.Rtr"));
-    e.session.transcription.SaisieFin = 2;
-    Texte saisi = "a\rb";
-    EXPECT_TRUE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "000"));
-    EXPECT_EQ(e.hote.dossier.lire("a.Rtr"), " 60 \r\n::0.00::000\ra\rb\r::2.00::\r\n");
+    e.etat.SaisieFin = 2;
+    Texte saisi = "a\rb\r\r\r";
+    EXPECT_TRUE(e.ajouter(saisi, "0025"));
+    EXPECT_EQ(saisi, "a\rb\r");
+    EXPECT_EQ(e.disque(), " 60 \r\n::0.00::002\ra\rb\r\r::2.00::\r\n");
     EXPECT_EQ(e.session.corpus.Entretiens[1].Duree, 60);
 
     e.hote.dossier.ecrire("a.Rtr", plein(9998));
-    EXPECT_TRUE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "000"));
-    const std::string avant = e.hote.dossier.lire("a.Rtr");
-    e.hote.dialogues.repondre(Reponse::Ok, "9999").repondre(Reponse::Ok, "Aucun enregistrement");
-    EXPECT_FALSE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "000"));
-    EXPECT_TRUE(e.hote.dossier.lire("a.Rtr") == avant);
+    EXPECT_TRUE(e.ajouter(saisi, "000"));
+    const std::string avant = e.disque();
+    e.attendre({"9999", "Aucun enregistrement"});
+    EXPECT_FALSE(e.ajouter(saisi, "000"));
+    EXPECT_TRUE(e.disque() == avant);
     e.hote.media.URL("");
-    EXPECT_FALSE(AjouterExtrait(e.session, e.hote, e.cible(), saisi, "000"));
+    EXPECT_FALSE(e.ajouter(saisi, "000"));
 }
 
 TEST(Extract, LineEndsAreTrimmedAndTimesReadBothWays) {
@@ -136,5 +136,86 @@ TEST(Extract, LineEndsAreTrimmedAndTimesReadBothWays) {
     EXPECT_EQ(secondes({"12,75", virgule}, virgule), 12.75);
 }
 
+TEST(Marking, ANewSpanMeetsItsNeighbours) {
+    const std::vector<Bornes> extraits{{10, 20}, {30, 40}, {35, 50}};
+    const struct {
+        Bornes voulues;
+        Marquage attendu;
+    } cas[] = {{{2, 8}, {{2, 8}, false}},     {{2, 15}, {{2, 10}, false}}, // its end pulled back
+               {{15, 25}, {{20, 25}, false}},                              // its start pushed on
+               {{15, 32}, {{20, 30}, false}},                              // both
+               {{2, 25}, {{2, 25}, true}},                                 // encloses
+               {{12, 18}, {{12, 18}, true}},                               // lies inside
+               {{10, 20}, {{10, 20}, false}},                              // identical spans pass
+               {{10, 18}, {{10, 18}, false}},                              // one bound equal matches no test
+               {{2, 20}, {{2, 20}, false}},   {{20, 30}, {{20, 30}, false}}, // touching both
+               {{37, 60}, {{50, 60}, false}}, // seen by the third as the second left it
+               {{25, 38}, {{25, 30}, false}}};
+    for (const auto& [voulues, attendu] : cas)
+        EXPECT_EQ(bornerNouvelExtrait(voulues, extraits), attendu) << voulues.debut << ".." << voulues.fin;
+    // A bound that is moved stops at the first that it hits.
+    const std::vector<Bornes> autres{{10, 20}, {18, 40}};
+    EXPECT_EQ(bornerExtraitDeplace({5, 12}, autres), (Marquage{{5, 10}, false}));
+    EXPECT_EQ(bornerExtraitDeplace({15, 30}, autres), (Marquage{{20, 30}, false})); // the second would refuse
+    EXPECT_EQ(bornerExtraitDeplace({5, 30}, autres), (Marquage{{5, 30}, true}));
+    EXPECT_EQ(bornerExtraitDeplace({20, 30}, autres), (Marquage{{20, 30}, true}));
+}
+
+TEST(Marking, ABoundThatIsMovedStopsAtItsNeighbour) {
+    // Under a decimal comma at whole seconds.
+    for (const auto& [virgule, fin] : {std::pair('.', 30.6), {',', 30.0}}) {
+        std::string octets = "100\r\n::10.60::000\r\n::20.00::\r\n::30.60::000\r\n::40.00::\r\n";
+        std::ranges::replace(octets, '.', virgule);
+        EntretienOuvert e(octets, {}, virgule);
+        EXPECT_EQ(deplacerBorne(e.session, 1, false, 35), (Deplacement{.allonge = true}));
+        EXPECT_EQ(bornesExtrait(e.session, 1), (Bornes{10.6, fin}));
+        EXPECT_EQ(bornesExtrait(e.session, 2), (Bornes{30.6, 40}));
+        EXPECT_THROW(deplacerBorne(e.session, 3, false, 35), FauteExecution);
+    }
+}
+
+TEST(Dictation, PortionsAreWholeAndHaveTheirBounds) {
+    using namespace saisie;
+    Session session;
+    EtatTranscription& etat = session.transcription;
+    etat.SaisieDebut = 10;
+    allonger(session, 20);
+    EXPECT_FALSE(suivreBoucle(session, 20, 1000).pause);
+    EXPECT_TRUE(suivreBoucle(session, 20, 1000, true).pause) << "the recording ends with the span";
+    activerDictee(session, 10.6, 5);
+    EXPECT_EQ(suivreBoucle(session, 16, 1000).position, std::nullopt);
+    EXPECT_EQ(portionSuivante(session, 4), 15);
+    EXPECT_EQ(std::pair(etat.PortionDebut, etat.PortionFin), std::pair(16.0, std::int16_t(20)));
+    etat.Compteur = 2;
+    EXPECT_EQ(portionSuivante(session, 5), std::nullopt) << "the span's end is reached";
+    EXPECT_EQ(etat.Compteur, 0);
+    for (const double debut : {32763.0, -32773.0})
+        EXPECT_THROW(demarrerPortion(session, debut, 5), FauteExecution);
+    EXPECT_EQ(etat.PortionDebut, 16);
+    demarrerPortion(session, 32762, 5);
+    EXPECT_EQ(selectionnerPortion(session, 200, 240, 1000), 1);
+    EXPECT_EQ(std::pair(etat.PortionDebut, etat.PortionFin), std::pair(12.0, std::int16_t(13)));
+}
+
+TEST(Thematics, WhatAnExtractShowsAndWhatMayBeAdded) {
+    using namespace saisie;
+    EtatCorpus corpus;
+    EXPECT_EQ(thematiqueDeCode(corpus, "001").caption, depuisUtf8("000 - Pas de thématique"));
+    corpus = corpusDEssai(1).corpus;
+    EXPECT_EQ(thematiqueDeCode(corpus, "002 Famille").caption, "002  Famille");
+    EXPECT_EQ(thematiqueDeCode(corpus, "777").caption, "000  Sans");
+    for (const int rang : {0, 4})
+        EXPECT_THROW(thematiqueDuRang(corpus, rang), FauteExecution);
+
+    const Refus refus = verifierThematique(corpus, {"a", "n", "1"}).value_or(Refus{});
+    EXPECT_TRUE(refus.message.texte.starts_with("Le code 'a' existe déjà")) << "it would be 000";
+    EXPECT_TRUE(refus.codeFautif);
+    const NouvelleThematique bonne{"8", "Vie, travail", "255"};
+    EXPECT_EQ(ajouterThematique(corpus, bonne), 4);
+    EXPECT_EQ(thematiqueDeCode(corpus, "008").caption, "008 Vie, travail");
+    while (corpus.NbThm < 999)
+        ajouterThematique(corpus, bonne);
+    EXPECT_THROW(ajouterThematique(corpus, bonne), FauteExecution);
+}
+
 } // namespace
-} // namespace vermo::essai

@@ -5,7 +5,9 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-namespace vermo {
+using namespace vermo;
+using namespace vermo::essai;
+
 namespace {
 
 /// "line left,top caption" of each word, "(…)" around hidden ones, "\" for a carriage return.
@@ -36,7 +38,7 @@ TEST(WordLayout, OneColumn) {
         {"aaa bbb", "(aaa )|(bbb )|"}, // no line end shows nothing
         {"aaa\rb c", "1 0,0 aaa\\|(b )|"}};
     for (const auto& [texte, attendu] : cas)
-        EXPECT_EQ(decrire(disposerMots(texte, reglages, essai::metriquesFixes)), attendu) << texte;
+        EXPECT_EQ(decrire(disposerMots(texte, reglages, metriquesFixes)), attendu) << texte;
 }
 
 TEST(WordLayout, ColumnsFromTenLinesOn) {
@@ -48,7 +50,7 @@ TEST(WordLayout, ColumnsFromTenLinesOn) {
         for (int n = 0; n < cas.lignes; ++n)
             texte += "a\r";
         const ReglagesMots reglages{.LargeurTexte = 40000, .ColonnesTexte = cas.colonnes, .PasListe = 195};
-        const MotsDisposes disposes = disposerMots(texte, reglages, essai::metriquesFixes);
+        const MotsDisposes disposes = disposerMots(texte, reglages, metriquesFixes);
         EXPECT_EQ(disposes.lignesParColonne, cas.parColonne) << cas.lignes << " lines, " << cas.colonnes;
     }
 }
@@ -59,11 +61,10 @@ TEST(WordLayout, TheSecondColumnStartsAtItsWidth) {
         texte += Texte{c} + " x\r";
     const ReglagesMots reglages{
         .depart = 5000, .haut = 300, .LargeurTexte = 6000, .ColonnesTexte = 2, .PasListe = 195};
-    const MotsDisposes disposes = disposerMots(texte, reglages, essai::metriquesFixes);
+    const MotsDisposes disposes = disposerMots(texte, reglages, metriquesFixes);
     const Mot &finColonne = disposes.mots[11], &second = disposes.mots[12];
     EXPECT_EQ((std::vector{finColonne.gauche, finColonne.haut}), (std::vector<Twips>{5230, 300 + 5 * 195}));
     EXPECT_EQ((std::vector{second.gauche, second.haut}), (std::vector<Twips>{8000, 300}));
 }
 
 } // namespace
-} // namespace vermo
