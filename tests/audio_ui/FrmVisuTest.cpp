@@ -59,6 +59,18 @@ TEST(FrmVisu, ARecordingWithoutSamplesShowsARulerAndIsNeverProbed) {
     EXPECT_NE(cache.pixel(minute, 40), cache.pixel(minute + 10, 40));
 }
 
+TEST(FrmVisu, ARecordingWhoseWaveCantBeDrawnIsShownWithoutOneAndKeepsNoPicture) {
+    EntretienDEssai essai(60);
+    essai.hote.dossier.ecrire("entretien1.wav", wav(1, 24, std::string(6000, 'x')));
+    ASSERT_TRUE(essai.ouvrir());
+    EXPECT_FALSE(essai.hote.dossier.existe("entretien1.Bmp"));
+    const QImage vue = essai.controle<Toile>("Picture1").grab().toImage();
+    int noirs = 0;
+    for (int x = 20; x < 400; ++x)
+        noirs += qGray(vue.pixel(x, 30)) < 60; // through the letters of the line that says why
+    EXPECT_TRUE(noirs > 20 && noirs < 200) << noirs;
+}
+
 TEST(FrmVisu, AnOpeningThatIsGivenUpLeavesTheSession) {
     EntretienDEssai essai(60);
     essai.session.corpus.Entretiens[1].Duree = 0;

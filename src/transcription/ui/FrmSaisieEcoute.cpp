@@ -125,6 +125,7 @@ void FrmSaisie::dessinerOnde() {
     const double densite = devicePixelRatioF() / TWIPS_PAR_PIXEL;
     Bitmap8 image = fondUni(largeur, hauteur, densite, theme::ONDE);
     const Utf8 fichier = plateforme_.media.URL();
+    Pict_saisie_->dessin({});
     try {
         if (estWav(fichier) && duree > 0)
             session_.audio.EnteteWav =
@@ -137,8 +138,8 @@ void FrmSaisie::dessinerOnde() {
                                      .hauteurVue = HAUTEUR_PICTURE1,
                                      .densite = densite},
                                     PointsSaisie_);
-    } catch (const FauteExecution&) {
-        // A recording that has gone leaves an empty wave; its extracts stay open to correction.
+    } catch (const FauteExecution& faute) {
+        Pict_saisie_->dessin(ligneSansOnde(faute.quoi())); // the extract stays open to correction
     }
     Pict_saisie_->image(versQImage(image));
     rafraichirOnde();
