@@ -4,7 +4,9 @@
 #include "corpus/ui/FrmIntro.h"
 #include "corpus/ui/FrmMenu.h"
 
+#include <QLabel>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <gtest/gtest.h>
 
 namespace vermo::essai {

@@ -151,13 +151,9 @@ inline void Programme::releverCorpus(Releve& releve) const {
 }
 
 inline void Programme::releverFrmCorpus(Releve& releve) {
-    for (const char* nom : {"etq0", "etq1"})
-        releve[nom] = duCorpus<QLabel>(nom).text().section(QLatin1Char(' '), 2).toStdString();
+    releverControles(releve, forme("FrmCorpus"));
     for (const char* nom : {"ImgOnOffent", "ImgOnOffthm0", "Imgbtn3"})
-        releve[nom] = icone(nom);
-    for (const char* nom : {"PictTps", "LblScroll", "LblVide"})
-        releve[nom] = duCorpus(nom).isVisible() ? "oui" : "non";
-    releve["jauge"] = duCorpus("PictVol").toolTip().toStdString();
+        releve[nom + std::string(".icone")] = icone(nom);
     releve["rangs"].clear();
     for (const Element& rang : duCorpus<Toile>("Frm_entretiens").elements())
         if (rang.controle == Controle::lblfich) releve["rangs"] += lisible(rang.texte);
@@ -182,7 +178,7 @@ inline Releve Programme::relever() {
     releve["fini"] = fini ? "oui" : "non";
     releverCorpus(releve);
     releverDisque(releve, hote.dossier);
-    if (app.visible(Fenetre::FrmCorpus)) releverFrmCorpus(vue_);
+    if (app.visible(Fenetre::FrmCorpus)) releverFrmCorpus(vue_ = {});
     releve.merge(Releve(vue_));
     return releve;
 }

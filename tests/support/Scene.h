@@ -2,11 +2,13 @@
 #include "support/FenetresMuettes.h"
 #include "support/Pannes.h"
 #include "support/Releve.h"
+#include "support/Temoins.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QPointer>
 #include <QTest>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <cerrno>
 #include <functional>
@@ -59,15 +61,23 @@ class Scene {
     }
     /// All that `gestes` change, "nom=valeur" by name.
     std::string effetDe(const std::string& gestes) {
+        reposer();
         fenetres.effacerJournal();
         dits_ = hote.dialogues.journal().size();
         const Releve avant = relever();
         faire(gestes);
-        return remplacer(difference(avant, relever()), hote.dossier.chemin(), "");
+        const std::string effet = remplacer(difference(avant, relever()), hote.dossier.chemin(), "");
+        reposer();
+        for (Forme* forme : formes())
+            comparerAuDessin(*forme);
+        return effet;
     }
+    /// What waits is done, but for the timers.
+    static void reposer() { QCoreApplication::processEvents(QEventLoop::X11ExcludeTimers); }
 
   private:
     void agir(const std::string& verbe, const std::string& quoi) {
+        reposer();
         const auto action = verbes.find(verbe);
         if (action == verbes.end()) throw std::runtime_error("no such gesture: " + verbe);
         for (const Forme* forme : formes())
@@ -76,6 +86,15 @@ class Scene {
                     (c->focusPolicy() != Qt::NoFocus || qobject_cast<const QAbstractButton*>(c)))
                     essais.offerts[forme->objectName().toStdString()].insert(c->objectName().toStdString());
         action->second(quoi);
+    }
+
+    /// Nothing is left on the screen that a whole painting wouldn't show.
+    static void comparerAuDessin(Forme& forme) {
+        if (!forme.updatesEnabled()) return;
+        const QImage vue = enVue(forme), entiere = forme.grab().toImage().convertToFormat(vue.format());
+        if (vue != entiere)
+            ADD_FAILURE() << forme.objectName().toStdString()
+                          << " shows what has passed: " << Ecart(vue, entiere).dit();
     }
 
     QPoint place(const QWidget& controle, const std::string& ou) {
@@ -120,14 +139,28 @@ class Scene {
         const auto [cible, point] = viser(ou);
         souris(type, *cible, point);
     }
-    void glisser(const std::string& ou) {
+    static void entrer(QWidget& cible, bool dedans) {
+        const QPointF ici = cible.rect().center();
+        QEnterEvent entree(ici, ici, cible.mapToGlobal(ici));
+        QEvent sortie(QEvent::Leave);
+        QApplication::sendEvent(&cible, dedans ? static_cast<QEvent*>(&entree) : &sortie);
+        QHoverEvent survol(dedans ? QEvent::HoverEnter : QEvent::HoverLeave, ici, cible.mapToGlobal(ici),
+                           ici);
+        QApplication::sendEvent(&cible, &survol);
+    }
+    void demanderBulle(const std::string& ou) {
+        const auto [cible, point] = viser(ou);
+        QHelpEvent demande(QEvent::ToolTip, point, cible->mapToGlobal(point));
+        QApplication::sendEvent(cible, &demande);
+    }
+    void glisser(const std::string& ou, bool lacher = true) {
         const auto bouts = couper(ou, ">");
         const auto [cible, de] = viser(bouts.at(0));
         const QPoint a = place(*cible, bouts.at(1));
         souris(QEvent::MouseButtonPress, *cible, de, Qt::LeftButton);
         for (const QPoint& point : {(de + a) / 2, a})
             souris(QEvent::MouseMove, *cible, point, Qt::LeftButton);
-        souris(QEvent::MouseButtonRelease, *cible, a);
+        if (lacher) souris(QEvent::MouseButtonRelease, *cible, a);
     }
     void rouler(const std::string& ou) {
         const auto mots = couper(ou, " ");
@@ -194,6 +227,10 @@ inline Scene::Scene() {
               {"position", [this](S secondes) { hote.media.currentPosition(std::stod(secondes)); }},
               {"pause", [this](S) { hote.media.pause(); }},
               {"attend", [](S) { QApplication::processEvents(); }},
+              {"entre", [this](S nom) { entrer(controle(nom), true); }},
+              {"sort", [this](S nom) { entrer(controle(nom), false); }},
+              {"tient", [this](S ou) { glisser(ou, false); }},
+              {"bulle", [this](S ou) { demanderBulle(ou); }},
               {"sourd", [this](S) { hote.media.sansSon = true; }},
               {"volume", [this](S part) { session.audio.VolumeLecture = std::stof(part); }},
               {"panne",
@@ -212,6 +249,7 @@ inline Scene::Scene() {
 inline Releve Scene::relever() {
     Releve releve;
     releverLecteur(releve, hote.media);
+    releve["bulle"] = QToolTip::text().toStdString();
     releve["focus"] = fenetre().focusWidget() ? fenetre().focusWidget()->objectName().toStdString() : "";
     for (const std::string& demande : fenetres.journal())
         releve["demande"] += (releve["demande"].empty() ? "" : ", ") + demande;

@@ -3,6 +3,7 @@
 #include "support/Gestes.h"
 
 #include <QElapsedTimer>
+#include <QPlainTextEdit>
 #include <gtest/gtest.h>
 
 using namespace vermo;
@@ -73,10 +74,6 @@ class SaisieDEssai : public Scene {
                        : saisie->Timer4_Tick();
         };
         verbes["retour"] = [this](const std::string&) { session.transcription.RetourCorpus = true; };
-        verbes["entre"] = [this](const std::string& nom) {
-            QEvent entree(QEvent::Enter);
-            QApplication::sendEvent(&controle(nom), &entree);
-        };
         verbes["vitesse"] = [this](const std::string& facteur) { hote.media.rate(std::stod(facteur)); };
         verbes["pastilles"] = [this](const std::string&) {
             for (int i = 0; i < 14; ++i)
