@@ -12,12 +12,14 @@ namespace vermo::essai {
 ///
 /// The name and what is done before may be missing. What isn't named after the arrow must stay as it was.
 /// Gestures are parted by "; ", each a verb and what follows it; "6x " in front repeats it:
-///  - clic, droit, double, survole CONTROL[@PLACE]; glisse CONTROL@PLACE>PLACE; roule CONTROL NOTCHES [Ctrl]
+///  - clic, droit, double, survole CONTROL[@PLACE]; glisse CONTROL@PLACE>PLACE, or tient: without letting go;
+///    roule CONTROL NOTCHES [Ctrl]; entre CONTROL, sort CONTROL (the mouse); bulle CONTROL[@PLACE] (it rests)
 ///  - focus CONTROL; touche KEY; tape TEXT; colle TEXT: where the focus is, in the topmost window or that of
 ///    the last `focus`
-///  - repondre ANSWER [PART-OF-THE-QUESTION], before the question comes; position SECONDS; pause; attend
-///  (once
-///    through the waiting events)
+///  - repondre ANSWER [PART-OF-THE-QUESTION], before the question comes; position SECONDS; pause;
+///    attend (once through the waiting events); tic TIMER
+///  - photo NAME, fiche NAME: the topmost window looks like tests/vues/NAME.png, and its controls are as the
+///    lines of NAME.txt tell
 ///  - volume PART (of the session); sourd (no sound output); panne disque (every write fails); perdre FILE;
 ///    muer FILE (a folder stands in its place); and what the window's test adds
 /// A PLACE is an item of a canvas ("LblXtr2"), "x,y" in pixels, or a number that the test makes a place of.

@@ -6,10 +6,10 @@
 #include "window/ui/Glace.h"
 #include "window/ui/Toile.h"
 
-#include <QAbstractButton>
 #include <QAccessible>
 #include <QBackingStore>
 #include <QCoreApplication>
+#include <QMetaProperty>
 #include <QTimer>
 #include <QWindow>
 #include <cmath>
@@ -88,8 +88,7 @@ inline std::string difference(Releve avant, Releve apres) {
         if (avant[nom] == apres[nom]) continue;
         const std::string de = nom.substr(0, nom.find_first_of(".~"));
         const bool neuf = apres.contains(de) && !connus.contains(de) && (de != nom || apres[de] == "vu");
-        if (neuf && !nom.ends_with(".text") && !nom.ends_with(".icone") && !nom.ends_with(".lignes"))
-            continue;
+        if (neuf && !nom.ends_with(".text") && !nom.ends_with(".lignes")) continue;
         const bool deja = dits.contains(de) || fenetre;
         if (dits.insert(de); deja && nom.ends_with("~")) continue;
         effet += (effet.empty() ? "" : "; ") + nom + changement(nom, avant[nom], apres[nom]);
@@ -119,11 +118,8 @@ inline void releverTranscription(Releve& releve, const Session& session) {
     const bool ouverte = t.SaisieDuree == t.SaisieFin - t.SaisieDebut;
     releve["span"] = ouverte ? "" : dixieme(t.SaisieDuree);
     releve["retour"] = std::to_string(t.RetourCorpus);
-    releve["options"] =
-        QString(QLatin1String(t.DicteeActive ? "dictee " : "") + QLatin1String(t.DicteeAuto ? "auto " : "") +
-                QLatin1String(t.BoucleDictee ? "boucle" : ""))
-            .trimmed()
-            .toStdString();
+    releve["options"] = std::string(t.DicteeActive ? "dictee," : "") + (t.DicteeAuto ? "auto," : "") +
+                        (t.BoucleDictee ? "boucle," : "");
     releve["portion"] = etendue(t.PortionDebut, t.PortionFin);
     releve["compteur"] = dixieme(t.Compteur);
     for (int i = 1; i <= nombreExtraits(session); ++i) {
@@ -167,6 +163,44 @@ inline QImage enVue(Forme& f) {
     return static_cast<QImage*>(f.backingStore()->paintDevice())
         ->copy(f.rect())
         .convertToFormat(QImage::Format_RGB32);
+}
+
+/// The properties in which it isn't a plain widget, by name.
+inline Releve proprietes(const QObject& o) {
+    static const QWidget nu;
+    Releve releve;
+    for (int i = 0; i < o.metaObject()->propertyCount(); ++i) {
+        const QMetaProperty propriete = o.metaObject()->property(i);
+        const QVariant valeur = propriete.read(&o);
+        if (!propriete.isWritable() || valeur == nu.property(propriete.name())) continue;
+        std::string& lue = releve[propriete.name()] = enTexte(valeur);
+        if (valeur.userType() == QMetaType::QPalette)
+            lue = enTexte(valeur.value<QPalette>().windowText().color());
+        if (propriete.isEnumType()) lue = std::to_string(valeur.toInt());
+        if (lue.empty()) releve.erase(propriete.name());
+    }
+    return releve;
+}
+
+/// Each control and timer of a window with all that a look at its picture doesn't tell, one a line.
+inline std::string ficheDe(const Forme& f) {
+    QObjectList tous{const_cast<Forme*>(&f)};
+    tous.append(f.findChildren<QObject*>());
+    std::string fiche;
+    for (const QObject* o : tous) {
+        const auto* c = qobject_cast<const QWidget*>(o);
+        if ((!c && !qobject_cast<const QTimer*>(o)) || (c && c->window() != &f) ||
+            o->objectName().startsWith(QLatin1String("qt_")))
+            continue;
+        fiche += std::string(o->metaObject()->className()) + ":";
+        for (const auto& [nom, valeur] : proprietes(*o))
+            fiche += " " + nom + "=" + valeur;
+        for (const auto attribut : {Qt::WA_Hover, Qt::WA_TransparentForMouseEvents, Qt::WA_OpaquePaintEvent,
+                                    Qt::WA_InputMethodEnabled})
+            if (c && c->testAttribute(attribut)) fiche += " +" + std::to_string(attribut);
+        fiche += !c ? "\n" : c->isHidden() ? " caché\n" : " " + std::to_string(c->windowFlags()) + "\n";
+    }
+    return fiche;
 }
 
 /// Of its picture what no sibling covers.
@@ -217,14 +251,12 @@ inline void releverControles(Releve& releve, Forme& f) {
     }
 }
 
-/// Of the items named where they stand, or their colour.
-inline void releverToile(Releve& releve, const Toile& toile, const std::set<std::string>& montres,
-                         const std::set<std::string>& colores) {
+/// Of the items named where they stand.
+inline void releverToile(Releve& releve, const Toile& toile, const std::set<std::string>& montres) {
     for (const Element& e : toile.elements()) {
         if (e.visible && montres.contains(nomDe(e)))
             releve[nomDe(e)] = std::to_string(std::lround(e.cadre.gauche)) + "+" +
                                std::to_string(std::lround(e.cadre.largeur));
-        if (colores.contains(nomDe(e))) releve[nomDe(e)] = std::to_string(e.fond);
     }
 }
 

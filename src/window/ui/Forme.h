@@ -7,9 +7,11 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QTimer>
 #include <QWidget>
 #include <chrono>
 #include <exception>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -58,6 +60,8 @@ class Forme : public QWidget {
     }
 
   protected:
+    /// Names a timer of this window, which guards its ticks.
+    void regler(QTimer& timer, const char* nom, int ms, std::function<void()> tic);
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
     Session& session_;
