@@ -52,7 +52,7 @@ class IndexRepertoire {
     std::optional<Utf8> autreCasse(const Utf8& nom) const;
 
     Utf8 repertoire_;
-    Descripteur ouvert_; ///< the directory, if it can be opened
+    Descripteur ouvert_;                               ///< the directory, if it can be opened
     mutable std::unordered_map<Utf8, Utf8> sansCasse_; ///< upper-cased name -> name
 };
 

@@ -34,16 +34,14 @@ class EntretienDEssai : public Scene {
             fenetres.annoncer(avis);
             visu->surAvis(avis);
         };
-        verbes["tic"] = [this](const std::string& timer) {
-            timer == "Timer1" ? visu->Timer1_Tick() : visu->Timer3_Tick();
-        };
         verbes["saisie"] = [this](const std::string& etat) {
             fenetres.enSaisie = etat == "entamée";
             fenetres.montrer(Fenetre::FrmSaisie);
         };
     }
     /// Writes a transcript with these spans, coded in turn 001 and 002.
-    void transcrire(const std::vector<Bornes>& extraits, const Texte& texte = "Un texte.") {
+    void transcrire(const std::vector<Bornes>& extraits,
+                    const Texte& texte = "Un texte, puis\ranticonstitutionnellement la suite.") {
         std::ostringstream rtr;
         rtr << std::fixed << std::setprecision(2)
             << " 600 \r\n<|OBS|\r\n\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n";

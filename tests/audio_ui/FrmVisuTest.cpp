@@ -85,18 +85,3 @@ TEST(FrmVisu, AnOpeningThatIsGivenUpLeavesTheSession) {
     EXPECT_EQ(essai.session.audio.DureeFichier, 0);
     EXPECT_FALSE(essai.visu->isVisible());
 }
-
-TEST(FrmVisu, AHeldButtonGoesOnInItsDirectionUntilItIsLeft) {
-    const auto essai = ouvert();
-    essai->faire("6x touche Right");
-    for (const auto& [nom, sens] : {std::pair("ImgMedia6", 1), std::pair("ImgMedia5", -1)}) {
-        QWidget& bouton = essai->controle(nom);
-        const double avant = essai->session.audio.DebutZoom;
-        const auto pas = [&, vers = sens] { return vers * (essai->session.audio.DebutZoom - avant); };
-        QTest::mousePress(&bouton, Qt::LeftButton);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return pas() > 5; })) << nom;
-        QTest::mouseRelease(&bouton, Qt::LeftButton);
-        for (const char* timer : {"TimerPlus", "TimerMoins"})
-            EXPECT_FALSE(essai->visu->findChild<QTimer*>(QLatin1String(timer))->isActive()) << nom;
-    }
-}

@@ -53,6 +53,10 @@ TEST(CommandsTest, OfTheStartWindow) {
     couvrir("FrmIntro", FrmIntro::commandes(), jouerTable("journeys/accueil.gestes", avec("ab", "")));
 }
 
+TEST(LooksTest, OfEachWindow) {
+    jouerTable("journeys/vues.gestes", avec("abc", ""));
+}
+
 TEST(RefusalsTest, LeaveEverythingAsItWas) {
     jouerTable("journeys/refus.gestes", avec("ab", "lblcorpus3", true));
     jouerTable("journeys/sans-corpus.gestes", avec("ab", "ImgBtn1", true));

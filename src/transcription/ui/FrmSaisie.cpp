@@ -42,7 +42,7 @@ FrmSaisie::FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetre
     creerAjout();
     commandes_.ecouter();
     TextRtr_->installEventFilter(this); // after the commands, so as to hear of a key before one takes it
-    Timer1_.start(50);
+    Timer1_.start();
     placerLargeur(false);
 }
 
@@ -136,7 +136,7 @@ void FrmSaisie::OuvrirExtrait(int n) {
     saisie::ouvrirSpan(session_, n);
     Transparence(0);
     fondu_ = -FONDU.pas; // the first tick shows nothing yet
-    Timer2_.start(1);
+    Timer2_.start();
     preparer();
     prendrePlace();
 }

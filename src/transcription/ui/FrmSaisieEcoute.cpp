@@ -33,15 +33,13 @@ void FrmSaisie::creerEcoute() {
     ImgPlus_ = {creerBouton("allonger", t::IMGPLUS), creerBouton("arreter-allongement", t::IMGPLUS)};
     ImgPlus_[1]->hide();
 
-    connect(&Timer1_, &QTimer::timeout, this, [this] { garder([this] { Timer1_Tick(); }); });
-    connect(&Timer2_, &QTimer::timeout, this, [this] { garder([this] { Timer2_Tick(); }); });
-    connect(&Timer3_, &QTimer::timeout, this, [this] { garder([this] { Timer3_Tick(); }); });
-    connect(&Timer4_, &QTimer::timeout, this, [this] { garder([this] { Timer4_Tick(); }); });
+    regler(Timer1_, "Timer1", 50, [this] { Timer1_Tick(); });
+    regler(Timer2_, "Timer2", 1, [this] { Timer2_Tick(); });
+    regler(Timer3_, "Timer3", 1000, [this] { Timer3_Tick(); });
+    regler(Timer4_, "Timer4", 1000, [this] { Timer4_Tick(); });
     deplacements_ = plateforme_.media.ecouterDeplacements([this] { garder([this] { suivreLecteur(); }); });
     ecoute_ = plateforme_.media.ecouter(
         [this](EtatLecture etat) { garder([this, etat] { Media_PlayStateChange(etat); }); });
-    Timer3_.setInterval(1000);
-    Timer4_.setInterval(1000);
 }
 
 void FrmSaisie::Media_PlayStateChange(EtatLecture etat) {
