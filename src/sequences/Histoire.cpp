@@ -55,13 +55,11 @@ bool toucheCorpus(const Session& session, const Changement& changement) {
 bool parcourirHistoire(Session& session, Plateforme& plateforme, Sens sens) {
     const auto chemins = sens == Sens::Annuler ? annuler(session, plateforme) : refaire(session, plateforme);
     const auto& retournes = sens == Sens::Annuler ? session.histoire.defaits : session.histoire.faits;
-    bool aRouvrir = false;
+    const bool corpusChange = std::ranges::find(chemins, session.corpus.CheminCorpus) != chemins.end();
+    if (corpusChange && relireCorpus(session, plateforme, retournes)) return true;
     for (const Utf8& chemin : chemins)
-        if (chemin == session.corpus.CheminCorpus)
-            aRouvrir = relireCorpus(session, plateforme, retournes);
-        else
-            relireRetranscription(session, plateforme, chemin);
-    return aRouvrir;
+        relireRetranscription(session, plateforme, chemin);
+    return false;
 }
 
 } // namespace vermo

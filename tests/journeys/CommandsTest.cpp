@@ -62,6 +62,18 @@ TEST(RefusalsTest, LeaveEverythingAsItWas) {
     jouerTable("journeys/sans-corpus.gestes", avec("ab", "ImgBtn1", true));
 }
 
+/// Programs in which the extract of the interview a is being typed.
+std::unique_ptr<Programme> avecSaisie() {
+    auto programme = avec("ab")();
+    programme->app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
+    programme->app.montrer(Fenetre::FrmSaisie, ExtraitVoulu{1});
+    return programme;
+}
+
+TEST(ConflictsTest, NothingOfEitherHandIsLost) {
+    jouerTable("journeys/conflits.gestes", avecSaisie);
+}
+
 TEST(ImportsTest, EndWithTheirCorpusAndAreNotBegunTwice) {
     jouerTable("journeys/ajouts.gestes", avec("ab"));
 }

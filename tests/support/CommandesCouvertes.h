@@ -1,6 +1,6 @@
 #pragma once
 #include "support/Scene.h"
-#include "window/Commande.h"
+#include "window/ui/Commandes.h"
 
 namespace vermo::essai {
 
@@ -30,12 +30,14 @@ inline std::string toucheDeGestes(const Touche& touche) {
 inline void couvrir(const std::string& fenetre, TableCommandes commandes, Essais essais) {
     std::set<std::string>& voulus = essais.offerts[fenetre];
     EXPECT_FALSE(voulus.empty()) << fenetre << " was never seen";
-    for (const Commande& commande : commandes) {
-        if (!commande.faire) continue;
-        voulus.insert({std::string(commande.bouton), std::string(commande.ligne)});
-        for (const Raccourci& raccourci : commande.touches)
-            voulus.insert(toucheDeGestes(raccourci.touche));
-    }
+    for (const TableCommandes table : {commandes, Commandes::communes()})
+        for (const Commande& commande : table) {
+            if (!commande.faire) continue;
+            voulus.insert(std::string(commande.bouton));
+            if (table.data() == commandes.data()) voulus.insert(std::string(commande.ligne));
+            for (const Raccourci& raccourci : commande.touches)
+                voulus.insert(toucheDeGestes(raccourci.touche));
+        }
     voulus.erase("");
     for (const std::string& voulu : voulus)
         EXPECT_TRUE(essais.faits.contains(voulu)) << "no row of " << fenetre << " tries " << voulu;

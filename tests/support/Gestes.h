@@ -22,7 +22,8 @@ namespace vermo::essai {
 ///  - photo NAME, fiche NAME: the topmost window looks like tests/vues/NAME.png, and its controls are as the
 ///    lines of NAME.txt tell
 ///  - volume PART (of the session); sourd (no sound output); panne disque (every write fails); perdre FILE;
-///    muer FILE (a folder stands in its place); and what the window's test adds
+///    muer FILE (a folder stands in its place); autre FILE OLD>NEW (another program's change); and what the
+///    window's test adds
 /// A PLACE is an item of a canvas ("LblXtr2"), "x,y" in pixels, or a number that the test makes a place of.
 /// Changes are parted by "; ": "name=value", "name~" where it only tells that it changed, and of files
 /// "disque path=" with the lines that went (-) and came (+), CR written "/"; " +", " -", " ~" for others.

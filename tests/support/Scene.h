@@ -268,6 +268,14 @@ inline Scene::Scene() {
          [this](S) {
              panne_ = std::make_unique<Pannes>(Panne{1, ENOSPC, "write", true});
          }},
+        {"autre",
+         [this](S quoi) {
+             const auto blanc = quoi.find(' '), fleche = quoi.find('>');
+             const std::string nom = quoi.substr(0, blanc);
+             hote.dossier.ecrire(nom,
+                                 remplacer(hote.dossier.lire(nom), quoi.substr(blanc + 1, fleche - blanc - 1),
+                                           quoi.substr(fleche + 1)));
+         }},
         {"perdre", [this](S nom) { std::filesystem::remove(hote.dossier.chemin(nom)); }},
         {"muer",
          [this](S nom) {
