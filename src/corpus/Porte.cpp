@@ -5,6 +5,8 @@
 #include "textfile/fichier.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 namespace vermo {
@@ -62,8 +64,9 @@ struct Remarques {
 
 /// A copy that holds more than its file did is the rest of an interrupted rewrite: it is kept.
 void garderPlusPlein(const Utf8& temporaire, const EnCours& ici, Remarques& remarques) {
-    const IdentiteFichier copie = identiteFichier(temporaire);
-    if (copie == IdentiteFichier{} || copie.taille <= ici.identite.taille) return;
+    std::error_code erreur;
+    const auto taille = std::filesystem::file_size(temporaire, erreur); // of a file, not of a directory
+    if (erreur || static_cast<std::int64_t>(taille) <= ici.identite.taille) return;
     remarques.textes.push_back("Une copie plus complète que son fichier a été mise de côté :\n" +
                                mettreDeCote(temporaire));
 }

@@ -65,6 +65,30 @@ TEST_F(Door, AChangeOfSeveralFilesIsOneAndIsRemembered) {
     EXPECT_FALSE(essai.dossier().existe("c/b.Rtr.$$$"));
 }
 
+TEST_F(Door, WhatTheDiskDoesntConfirmCountsAndIsToldOnce) {
+    EtatLu& lu = essai.corpus().extraits[2].lu;
+    {
+        const Pannes panne({1, EIO, "fsync"});
+        essai.dialogues().repondre(Reponse::Ok, "n'a pas confirmé qu'il résisterait à une coupure");
+        ASSERT_TRUE(changer({{rtr(2), ajouter("x"), &lu}}));
+    }
+    EXPECT_TRUE(changer({{rtr(2), ajouter("y"), &lu}})) << "memory follows the file";
+    EXPECT_EQ(essai.dossier().lire("c/b.Rtr"), "100\r\nxy");
+}
+
+TEST_F(Door, WhatAnInterruptedRewriteLeftIsNeverLostAndBlocksNothing) {
+    const std::string copie = "100\r\n::1.00::001\r\nmot\r\n::2.00::\r\n";
+    essai.dossier().ecrire("c/b.Rtr.$$$", copie);
+    std::filesystem::create_directory(rtr(1) + ".$$$");
+    essai.dialogues().repondre(Reponse::Ok, "Une copie plus complète que son fichier a été mise de côté");
+    EXPECT_TRUE(changer({{rtr(2), ajouter("x"), nullptr, Temporaire::Disparu},
+                         {rtr(1), ajouter("y"), nullptr, Temporaire::Reste}}));
+    EXPECT_EQ(essai.dossier().lire("c/b.Rtr.$$$.1"), copie);
+    EXPECT_FALSE(essai.dossier().existe("c/b.Rtr.$$$"));
+    EXPECT_EQ(essai.dossier().lire("c/a.Rtr"), ENTETE + std::string("y"));
+    EXPECT_TRUE(std::filesystem::is_directory(rtr(1) + ".$$$"));
+}
+
 TEST_F(Door, GoesOnWhereTheSystemRefusesTheLockAndNotWhereItRefusesTheFile) {
     const std::pair<Panne, bool> cas[] = {{{1, ENOLCK, "flock"}, true},  {{1, EWOULDBLOCK, "flock"}, true},
                                           {{1, EACCES, "open"}, true},   {{1, EIO, "fstat"}, false},

@@ -1,5 +1,6 @@
 // The whole program as a person goes through it: real windows, simulated host.
 #include "Programme.h"
+#include "sequences/Ouverture.h"
 
 #include <QPlainTextEdit>
 #include <gtest/gtest.h>
@@ -171,6 +172,16 @@ TEST_F(JourneysTest, TheStartWindowListsFiveRecentCorporaAtMost) {
     EXPECT_EQ(controle<QAbstractButton>("lblcorpus4").text(), QStringLiteral("/b")) << "a comma ends an item";
     EXPECT_EQ(controle<QAbstractButton>("lblcorpus7").text(), QStringLiteral("/e.Crp"));
     EXPECT_EQ(fenetre().alpha(), 249);
+}
+
+TEST_F(JourneysTest, ACorpusThatAnotherProgramHasOpenIsToldOnceAndOpens) {
+    hote.plateforme.emplacements.execution = hote.dossier.chemin("programme/");
+    session.corpus.RepCorpus = hote.dossier.chemin("c/");
+    const VerrouFichier autre(nomVerrou(hote.plateforme.emplacements, session.corpus));
+    faire("repondre Ok déjà ouvert dans un autre Vermo");
+    ouvrirCorpus();
+    faire("clic lblmenu0; clic lblcorpus1");
+    EXPECT_TRUE(enUsage());
 }
 
 TEST_F(JourneysTest, AListThatCantBeReadIsSaidAndTheStartWindowOpens) {
