@@ -6,6 +6,8 @@
 #include "sequences/Histoire.h"
 #include "sequences/Import.h"
 #include "sequences/Ouverture.h"
+#include "sequences/Reprise.h"
+#include "transcription/ui/FrmSaisie.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -28,6 +30,17 @@ void Application::OuvrirCorpus() {
     if (ouvrirCorpus(session_, plateforme_, spectateur) != IssueOuverture::Ouverte) return;
     repos_.start();
     direVoisin();
+    reprendreBrouillon();
+}
+
+/// What was typed in this corpus when the program was ended from outside.
+void Application::reprendreBrouillon() {
+    auto libre = offrirBrouillon(session_, plateforme_);
+    if (!libre) return;
+    const saisie::Reprise reprise = saisie::repriseDe(libre->brouillon);
+    ouvrirEntretien({libre->slot, Ouverture::SansFondu});
+    if (visible(Fenetre::FrmVisu))
+        formes_.de<FrmSaisie>(Fenetre::FrmSaisie).reprendre(reprise, std::move(libre->tenu), libre->brouillon);
 }
 
 /// Another program may have the corpus open too: both are told, the second one, and may go on.

@@ -59,6 +59,8 @@ class Fenetres {
     virtual bool visible(Fenetre fenetre) const = 0;
     virtual bool entamee(Fenetre fenetre) const = 0; ///< visible, and holds what no file does
     virtual void finir() = 0;                        ///< ends the program, unless something is being typed
+    virtual void reprendreTexte() = 0;               ///< FrmSaisie with the text that was abandoned
+    virtual bool texteAbandonne() const = 0;         ///< whether there is one
     virtual void annoncer(const Avis& avis) = 0;     ///< by the host's `annonces`: every window is told
 
     // Sequences that run through several windows.

@@ -37,6 +37,10 @@ class EntretienDEssai : public Scene {
         verbes["tic"] = [this](const std::string& timer) {
             timer == "Timer1" ? visu->Timer1_Tick() : visu->Timer3_Tick();
         };
+        verbes["abandon"] = [this](const std::string& quoi) {
+            fenetres.abandonne = quoi == "offert";
+            hote.annonces.annoncer({Sujet::TexteAbandonne, 1});
+        };
         verbes["saisie"] = [this](const std::string& etat) {
             fenetres.enSaisie = etat == "entamée";
             fenetres.montrer(Fenetre::FrmSaisie);

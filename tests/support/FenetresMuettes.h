@@ -11,7 +11,8 @@ namespace vermo::essai {
 /// a request: "montrer FrmVisu", "montrer FrmVisu 3 SansFondu", "montrer FrmMenu 5", "annoncer Bascules".
 class FenetresMuettes : public Fenetres {
   public:
-    bool enSaisie = false; ///< a text is being typed
+    bool enSaisie = false;  ///< a text is being typed
+    bool abandonne = false; ///< one was abandoned
 
     const std::vector<std::string>& journal() const { return journal_; }
     void effacerJournal() { journal_.clear(); }
@@ -27,9 +28,11 @@ class FenetresMuettes : public Fenetres {
     void finir() override { noter("finir"); }
     void annoncer(const Avis& avis) override {
         constexpr const char* SUJETS[] = {"Thematiques", "Bascules",  "Entretiens",
-                                          "Extraits",    "Attributs", "Volume"};
+                                          "Extraits",    "Attributs", "Volume", "TexteAbandonne"};
         noter(std::string("annoncer ") + SUJETS[static_cast<int>(avis.sujet)]);
     }
+    void reprendreTexte() override { noter("reprendreTexte"); }
+    bool texteAbandonne() const override { return abandonne; }
     void NouveauCorpus() override { noter("NouveauCorpus"); }
     void OuvrirCorpus() override { noter("OuvrirCorpus"); }
     void ImporterEntretien() override { noter("ImporterEntretien"); }
