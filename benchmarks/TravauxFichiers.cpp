@@ -211,7 +211,8 @@ Resultat ecriture(const std::string& donnees) {
         [&] {
             return chronometrer([&] {
                 extraits[5].texte = (autre = !autre) ? "Un texte repris.\r" : "Un autre texte.\r";
-                remplacerFichier(rep + "/entretien.Rtr", rtr::ecrireApres(rtr::nouveau(0, reglages), extraits, {true, 0}, reglages));
+                remplacerFichier(rep + "/entretien.Rtr",
+                                 rtr::ecrireApres(rtr::nouveau(0, reglages), extraits, {true, 0}, reglages));
             });
         },
         [&] { return chronometrer([&] { ecrireNu(rep, octets); }); });

@@ -88,10 +88,6 @@ void Application::finir() {
     emit fini();
 }
 
-void Application::reprendreTexte() {
-    formes_.de<FrmSaisie>(Fenetre::FrmSaisie).reprendreAbandon();
-}
-
 bool Application::texteAbandonne() const {
     const auto* saisie = dynamic_cast<const FrmSaisie*>(formes_.ouverte(Fenetre::FrmSaisie));
     return saisie != nullptr && saisie->aReprendre();

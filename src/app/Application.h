@@ -37,7 +37,6 @@ class Application final : public QObject, public Fenetres {
     bool visible(Fenetre fenetre) const override;
     bool entamee(Fenetre fenetre) const override;
     void finir() override;
-    void reprendreTexte() override;
     bool texteAbandonne() const override;
     void annoncer(const Avis& avis) override;
 
@@ -70,6 +69,7 @@ class Application final : public QObject, public Fenetres {
     void suivreListe(const SuiteListe& suite);
     void parcourir(Sens sens);
     void direVoisin();
+    bool lireCorpus();
     void reprendreBrouillon();
     void montrerCorpusVide();
     void importer();

@@ -2,9 +2,11 @@
 
 #include "app/Application.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QSocketNotifier>
 
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -20,8 +22,31 @@ int& boutEcrit() {
 
 extern "C" void noterSignal(int) {
     const char fin = 0;
+    const int erreur = errno;
     [[maybe_unused]] const ssize_t ecrits = ::write(boutEcrit(), &fin, 1);
+    errno = erreur;
 }
+
+/// The session asks programs to go once they have had the time to write: windows have no say in it.
+class FinDeSession : public QObject {
+  public:
+    explicit FinDeSession(Application& application) : QObject(&application), application_(application) {
+        qGuiApp->installEventFilter(this);
+        connect(
+            qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { application_.mettreALAbri(); },
+            Qt::DirectConnection);
+    }
+
+  protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override {
+        if (objet != qGuiApp || evenement->type() != QEvent::Quit) return false;
+        application_.terminer();
+        return true;
+    }
+
+  private:
+    Application& application_;
+};
 
 void entendreSignaux(Application& application) {
     int bouts[2];
@@ -43,9 +68,7 @@ void entendreSignaux(Application& application) {
 
 void ecouterLaFin(Application& application) {
     entendreSignaux(application);
-    QObject::connect(
-        qGuiApp, &QGuiApplication::commitDataRequest, &application,
-        [&application] { application.mettreALAbri(); }, Qt::DirectConnection);
+    new FinDeSession(application);
 }
 
 } // namespace vermo

@@ -128,6 +128,7 @@ EnTeteWav dessinerOnde(Bitmap8& image, std::uint8_t indice, const DemandeOnde& d
     const Echelles echelles = calculerEchelles(entete, HauteurCible);
     {
         const FichierOnde fichier(demande.fichier);
+        if (const Utf8 refus = refusOnde(fichier); !refus.empty()) throw FauteExecution(refus);
         const AvanceOnde avance(progression, entete, LargeurCible);
         lirePoints(fichier, entete, demande.empan, LargeurCible, points, avance.suite());
     }
@@ -135,6 +136,12 @@ EnTeteWav dessinerOnde(Bitmap8& image, std::uint8_t indice, const DemandeOnde& d
     tracerOnde(image, indice, demande.vue, points, entete, LargeurCible, facteurDe(demande, entete, echelles),
                demande.densite);
     return entete;
+}
+
+Dessin ligneSansOnde(const Utf8& raison) {
+    constexpr Twips gauche = 150, haut = 360;
+    constexpr std::uint8_t corps = 9;
+    return {.traits = {}, .inscriptions = {{gauche, haut, depuisUtf8(raison), rvb(0, 0, 0), corps}}};
 }
 
 Bitmap8 fondUni(Twips largeur, Twips hauteur, double densite, Couleur fond) {

@@ -64,10 +64,13 @@ struct DemandeOnde {
 };
 
 /// Probes, reads, converts and draws on `image`, in palette colour `indice`. Gives the header, defaults
-/// applied. Throws FauteExecution when the file can't be opened or the picture has no scale; `points` then
-/// keeps what it held and nothing is drawn.
+/// applied. Throws FauteExecution when the file can't be opened, its wave can't be drawn from its bytes
+/// (`refusOnde`) or the picture has no scale; `points` then keeps what it held and nothing is drawn.
 EnTeteWav dessinerOnde(Bitmap8& image, std::uint8_t indice, const DemandeOnde& demande, PointsOnde& points,
                        Progression* progression = nullptr);
+
+/// One line of text for a picture that has no wave: the reason. It stands below the track of extracts.
+Dessin ligneSansOnde(const Utf8& raison);
 
 /// A picture of `largeur` x `hauteur` twips in one colour, with black as its colour 0.
 Bitmap8 fondUni(Twips largeur, Twips hauteur, double densite, Couleur fond);

@@ -84,8 +84,53 @@ LieuDonnees localiserDonnees(const FichierOnde& fichier) {
     return lieu;
 }
 
+namespace {
+
+constexpr std::int16_t PCM = 1;
+
+/// Plain PCM, or the extensible form of it, which names the samples' form in a field of its own.
+bool estPcm(const EnTeteWav& entete, std::string_view debut) {
+    constexpr std::int16_t extensible = -2;
+    constexpr std::size_t sousFormat = 44;
+    if (entete.Format != extensible) return entete.Format == PCM;
+    return debut.size() > sousFormat && debut[sousFormat] == PCM;
+}
+
+/// The samples that the file says to hold, and holds.
+bool tailleTenue(const LieuDonnees& lieu, std::int64_t taille) {
+    return lieu.TailleData > 0 &&
+           lieu.PosDonnees + 3 + lieu.TailleData <= taille + static_cast<std::int64_t>(TAILLE_ENTETE);
+}
+
+Utf8 causeRefus(const EnTeteWav& entete, std::string_view debut, const LieuDonnees& lieu,
+                std::int64_t taille) {
+    if (entete.Riff != "RIFF" || entete.Wave != "WAVE") return "ce n'est pas un fichier WAV, malgré son nom";
+    if (entete.Fmt != "fmt ") return "un autre bloc précède « fmt » dans le fichier";
+    if (!estPcm(entete, debut))
+        return "le son n'est pas en PCM (format " +
+               std::to_string(static_cast<std::uint16_t>(entete.Format)) + ")";
+    if (entete.BitsParEchantillon != 8 && entete.BitsParEchantillon != 16)
+        return "le son est en " + std::to_string(entete.BitsParEchantillon) + " bits, ni 8 ni 16";
+    if (debut.find("data") == std::string_view::npos)
+        return "« data » n'est pas dans les " + std::to_string(TAILLE_DEBUT) + " premiers octets du fichier";
+    if (entete.NbCanaux < 1) return "le fichier dit n'avoir aucun canal";
+    if (!tailleTenue(lieu, taille)) return "le fichier n'a pas la taille qu'il annonce";
+    return {};
+}
+
+} // namespace
+
+Utf8 refusOnde(const FichierOnde& fichier) {
+    std::array<char, TAILLE_DEBUT> octets{};
+    const std::string_view debut(octets.data(), fichier.lire(1, octets.data(), octets.size()));
+    const Utf8 cause = causeRefus(lireEnTeteWav(debut), debut, localiserDonnees(fichier), fichier.taille());
+    return cause.empty() ? cause : "La forme d'onde ne peut pas être dessinée : " + cause + ".";
+}
+
 PasLecture pasDeLecture(const LieuDonnees& lieu, const EnTeteWav& entete, const Empan& empan, long largeur) {
-    const double pas = lieu.TailleData * empan.part / entete.NbCanaux / static_cast<double>(largeur);
+    constexpr double PAS_MAX = 1e10; // longer than any file: the second point lies behind its end
+    const double pas =
+        borner(lieu.TailleData * empan.part / entete.NbCanaux / static_cast<double>(largeur), PAS_MAX);
     PasLecture resultat;
     resultat.PasOctets = static_cast<std::int64_t>(std::trunc(pas)) * entete.NbCanaux;
     resultat.PosDonnees = arrondi(static_cast<double>(lieu.PosDonnees) + 4 + lieu.TailleData * empan.debut);

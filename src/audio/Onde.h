@@ -36,6 +36,8 @@ class FichierOnde {
     /// Reads at a position counted from 1. Gives the number of bytes read, 0 when there are none.
     std::size_t lire(std::int64_t position, void* octets, std::size_t taille) const noexcept;
 
+    std::int64_t taille() const noexcept { return source_.taille(); } ///< bytes
+
     /// Tells the system that these bytes are to be read soon; waits for nothing.
     void annoncer(std::int64_t position, std::size_t taille) const noexcept;
 
@@ -53,6 +55,12 @@ struct LieuDonnees {
 /// Searches the first "data" in the first 255 bytes. When there is none the size is read at position 4:
 /// wrong, told to nobody, and harmless, since reads outside the file give nothing.
 LieuDonnees localiserDonnees(const FichierOnde& fichier);
+
+/// Why the wave of a recording can't be drawn from its bytes, for people; empty when it can. A wave is drawn
+/// from PCM samples of 8 or 16 bits that stand where the header's 44 bytes and the first "data" say; of any
+/// other file, that would be a picture of noise. A file that says up to 44 bytes of samples too many, those
+/// of its header, is let pass.
+Utf8 refusOnde(const FichierOnde& fichier);
 
 /// What of a recording a picture shows.
 struct Empan {

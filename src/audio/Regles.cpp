@@ -12,7 +12,8 @@ constexpr Twips BAS_MARQUE = 1140;
 
 /// Every mark, or as many as stand a twip apart.
 long pasVisible(Twips ecart) {
-    return ecart >= 1 ? 1 : static_cast<long>(1 / ecart) + 1;
+    constexpr double PAS_MAX = 1e15;
+    return ecart >= 1 ? 1 : static_cast<long>(borner(1 / ecart, PAS_MAX)) + 1;
 }
 
 } // namespace

@@ -64,13 +64,12 @@ class Lecteur {
 /// The fields that each has.
 template <class B>
 auto champsCommuns(B& b) {
-    return std::array<std::pair<const char*, decltype(&b.genre)>, 6>{
-        {{"genre", &b.genre},
-         {"corpus", &b.corpus},
-         {"enregistrement", &b.enregistrement},
-         {"empreinte", &b.empreinte},
-         {"instant", &b.instant},
-         {"texte", &b.texte}}};
+    return std::array<std::pair<const char*, decltype(&b.genre)>, 6>{{{"genre", &b.genre},
+                                                                      {"corpus", &b.corpus},
+                                                                      {"enregistrement", &b.enregistrement},
+                                                                      {"empreinte", &b.empreinte},
+                                                                      {"instant", &b.instant},
+                                                                      {"texte", &b.texte}}};
 }
 
 Utf8 empreinteDuDebut(const Utf8& enregistrement) {
@@ -81,6 +80,12 @@ Utf8 empreinteDuDebut(const Utf8& enregistrement) {
     } catch (const FauteExecution&) {
         return {};
     }
+}
+
+/// Its own corpus lies where it did, with the recording.
+bool tientEncore(const Brouillon& brouillon) {
+    return fichierExiste(brouillon.corpus) &&
+           fichierExiste(repertoireDe(brouillon.corpus) + brouillon.enregistrement);
 }
 
 bool memeFichier(const Utf8& a, const Utf8& b) {
@@ -124,22 +129,25 @@ Brouillon lireBrouillon(std::string_view octets, const Utf8& chemin) {
     return brouillon;
 }
 
-Brouillon nouveauBrouillon(const Session& session, const Horloge& horloge, int slot, const Utf8& genre) {
+Utf8 instantDe(const Horloge& horloge) {
     const std::tm heure = horloge.maintenant();
     char instant[32];
-    std::strftime(instant, sizeof instant, "%Y-%m-%d %H:%M:%S", &heure);
+    return {instant, std::strftime(instant, sizeof instant, "%Y-%m-%d %H:%M:%S", &heure)};
+}
+
+Brouillon nouveauBrouillon(const Session& session, int slot, const Utf8& genre) {
     return {.genre = genre,
             .corpus = session.corpus.CheminCorpus,
             .enregistrement = versUtf8(entretienDe(session.corpus, slot).Fichier),
             .empreinte = empreinteDuDebut(cheminEnregistrement(session, slot)),
-            .instant = instant};
+            .instant = {}};
 }
 
 int slotDuBrouillon(const Session& session, const Brouillon& brouillon) {
     const EtatCorpus& corpus = session.corpus;
     const bool ici =
         corpus.CheminCorpus == brouillon.corpus || memeFichier(corpus.CheminCorpus, brouillon.corpus);
-    if (!ici && fichierExiste(brouillon.corpus)) return 0;
+    if (!ici && tientEncore(brouillon)) return 0;
     for (int slot = 1; slot <= corpus.NbEntretiens; ++slot) {
         if (versUtf8(entretienDe(corpus, slot).Fichier) != brouillon.enregistrement) continue;
         const Utf8 empreinte = empreinteDuDebut(cheminEnregistrement(session, slot));

@@ -1,7 +1,5 @@
 #include "corpus/BrouillonTenu.h"
 
-#include "textfile/faute.h"
-
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
@@ -123,18 +121,22 @@ void BrouillonTenu::mettreSurLeDisque(const Attente& attente) noexcept {
     }
 }
 
+Utf8 ecarterBrouillon(const Utf8& chemin, const FauteExecution& faute) {
+    return Utf8(faute.what()) + "\n\nCe brouillon est mis de côté :\n" + mettreDeCote(chemin);
+}
+
 std::vector<BrouillonLibre> brouillonsLibres(const Session& session, const Emplacements& emplacements,
                                              const std::function<void(const Utf8&)>& surFaute) {
     std::vector<BrouillonLibre> libres;
     if (emplacements.etat.empty()) return libres;
     const Utf8 repertoire = repertoireDesBrouillons(emplacements);
+    retirerAbandonnes(repertoire);
     for (const Utf8& chemin : fichiersDe(repertoire, SUFFIXE)) {
         try {
             if (auto libre = prendre(session, chemin)) libres.push_back(std::move(*libre));
         } catch (const FauteExecution& faute) {
             if (!fichierExiste(chemin)) continue;
-            const Utf8 aCote = mettreDeCote(chemin);
-            surFaute(Utf8(faute.what()) + "\n\nCe brouillon est mis de côté :\n" + aCote);
+            surFaute(ecarterBrouillon(chemin, faute));
         }
     }
     std::ranges::sort(libres, [](const BrouillonLibre& a, const BrouillonLibre& b) {

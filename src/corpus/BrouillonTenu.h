@@ -1,6 +1,7 @@
 #pragma once
 #include "corpus/Brouillon.h"
 #include "platform/Emplacements.h"
+#include "textfile/faute.h"
 #include "textfile/fichier.h"
 
 #include <condition_variable>
@@ -35,6 +36,8 @@ class BrouillonTenu {
     void ecrire();
     /// What it holds stands elsewhere, or is wanted no more.
     void retirer();
+    /// Of one that nothing was given to.
+    const Utf8& chemin() const { return chemin_; }
 
   private:
     struct Attente {
@@ -61,7 +64,11 @@ struct BrouillonLibre {
     std::unique_ptr<BrouillonTenu> tenu;
 };
 
+/// Sets the file of a draft aside that can't be read, because of `faute`. Gives the words for people.
+Utf8 ecarterBrouillon(const Utf8& chemin, const FauteExecution& faute);
+
 /// All of them, held from now on, the latest first. A file that is no draft is set aside; `surFaute` is told.
+/// What a killed program left behind of its writing goes.
 std::vector<BrouillonLibre> brouillonsLibres(const Session& session, const Emplacements& emplacements,
                                              const std::function<void(const Utf8&)>& surFaute);
 

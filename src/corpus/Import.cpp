@@ -2,6 +2,7 @@
 
 #include "corpus/OuvertureCorpus.h"
 #include "corpus/Porte.h"
+#include "formats/FichierCorpus.h"
 #include "formats/FichierRtr.h"
 #include "platform/Sablier.h"
 #include "textfile/chemins.h"
@@ -19,7 +20,7 @@ namespace {
 constexpr const char* CONVERTISSEUR = "Convertisseur.exe";
 constexpr std::chrono::milliseconds ENTRE_DEUX_ATTENTES{100}; ///< a wait sleeps: not at each block
 
-bool memeRepertoire(const Utf8& un, const Utf8& autre) {
+bool memeFichier(const Utf8& un, const Utf8& autre) {
     if (un == autre) return true;
     std::error_code absent;
     return std::filesystem::equivalent(un, autre, absent);
@@ -27,7 +28,7 @@ bool memeRepertoire(const Utf8& un, const Utf8& autre) {
 
 /// False when the copy that is there is to be used.
 bool aCopier(Plateforme& plateforme, const Utf8& cible, const Utf8& nom) {
-    if (!fichierExiste(cible)) return true;
+    if (!trouver(cible)) return true;
     return plateforme.dialogues.demander(
                {"Le fichier que vous souhaitez importer (" + nom + " ) existe déjà.\nVoulez-vous l'écraser?",
                 {},
@@ -87,6 +88,74 @@ double dureeAuLecteur(Plateforme& plateforme, const Utf8& chemin) {
     return media.duration();
 }
 
+bool estEntretien(const EtatCorpus& corpus, const Texte& nom) {
+    return std::any_of(corpus.Entretiens.begin(), corpus.Entretiens.end(),
+                       [&](const Entretien& e) { return e.Fichier == nom; });
+}
+
+/// The interview whose companions would be those of a recording of this name; none for an interview's own
+/// name. Case doesn't tell companions apart, as they are found in any.
+const Entretien* memesCompagnons(const EtatCorpus& corpus, const Texte& nom) {
+    if (estEntretien(corpus, nom)) return nullptr;
+    const Texte souche = majuscules(compagnon(nom, {}));
+    const auto trouve = std::find_if(corpus.Entretiens.begin(), corpus.Entretiens.end(), [&](const auto& e) {
+        return !e.Fichier.empty() && majuscules(compagnon(e.Fichier, {})) == souche;
+    });
+    return trouve == corpus.Entretiens.end() ? nullptr : &*trouve;
+}
+
+/// The name with the first number behind it under which neither a recording nor companions of one are there.
+Texte nomLibre(const Session& session, const Texte& nom) {
+    const std::size_t point = std::min(nom.rfind('.'), nom.size());
+    const auto pris = [&](const Utf8& fichier) {
+        return trouver(session.corpus.RepCorpus + fichier).has_value();
+    };
+    for (int n = 2;; ++n) {
+        const Texte essai = nom.substr(0, point) + " " + std::to_string(n) + nom.substr(point);
+        const Utf8 fichier = versUtf8(essai);
+        if (!pris(fichier) && !pris(compagnon(fichier, "Rtr")) && !pris(compagnon(fichier, "Bmp")) &&
+            !pris(compagnon(fichier, "Lct")) && !memesCompagnons(session.corpus, essai))
+            return essai;
+    }
+}
+
+/// The name of a recording that lies in RepCorpus already; nothing, and said, when it can't become an
+/// interview.
+std::optional<Texte> surPlace(const Session& session, Plateforme& plateforme, const Utf8& chemin,
+                              const Texte& nom) {
+    const Entretien* autre = memesCompagnons(session.corpus, nom);
+    if (!autre) return nom;
+    if (memeFichier(chemin, cheminReel(session.corpus.RepCorpus + versUtf8(autre->Fichier))))
+        return autre->Fichier;
+    plateforme.dialogues.demander({"Le fichier " + versUtf8(nom) +
+                                       " ne peut pas être ajouté au projet : sa retranscription serait celle "
+                                       "de l'entretien " +
+                                       versUtf8(autre->Fichier) + ".\nDonnez-lui d'abord un autre nom.",
+                                   "Import du fichier", Boutons::Ok, Icone::Exclamation});
+    return std::nullopt;
+}
+
+/// The name that a recording from elsewhere is to bear in RepCorpus; nothing when the person gave up.
+std::optional<Texte> choisirCible(const Session& session, Plateforme& plateforme, const Texte& nom) {
+    if (const Entretien* autre = memesCompagnons(session.corpus, nom)) {
+        const Texte libre = nomLibre(session, nom);
+        const Utf8 question = "La retranscription du fichier " + versUtf8(nom) +
+                              " serait celle de l'entretien " + versUtf8(autre->Fichier) +
+                              ".\nVoulez-vous le copier sous le nom " + versUtf8(libre) + "?";
+        return plateforme.dialogues.demander(
+                   {question, "Import du fichier", Boutons::OuiNon, Icone::Question}) == Reponse::Oui
+                   ? std::optional(libre)
+                   : std::nullopt;
+    }
+    if (estEntretien(session.corpus, nom)) return nom;
+    return nomImporte(cheminReel(session.corpus.RepCorpus + versUtf8(nom)));
+}
+
+/// Its full path; empty where it wasn't installed.
+Utf8 convertisseur(const Plateforme& plateforme) {
+    return plateforme.emplacements.fichierLu(CONVERTISSEUR);
+}
+
 Utf8 nomCanaux(int canaux) {
     return canaux == 1 ? "Mono" : canaux == 2 ? "Stereo" : "";
 }
@@ -102,7 +171,8 @@ bool proposerOuverture(Plateforme& plateforme) {
 
 Utf8 choisirEnregistrement(const Session& session, Plateforme& plateforme) {
     return plateforme.dialogues.choisirFichier(
-        {"Choisissez un fichier Son", "Fichiers WAV|*.Wav", "Wav", false, session.corpus.RepCorpus});
+        {"Choisissez un fichier Son", "Fichiers WAV|*.Wav|Tous les enregistrements|" + Utf8(FORMATS_LUS),
+         "Wav", false, session.corpus.RepCorpus});
 }
 
 ChoixFormat demanderFormat(const EnTeteWav& enTete, Plateforme& plateforme) {
@@ -112,14 +182,15 @@ ChoixFormat demanderFormat(const EnTeteWav& enTete, Plateforme& plateforme) {
              std::to_string(enTete.BitsParEchantillon) +
              " bits \n\nPour travailler dans Vermo, le Format 8 bits mono est préférable...\n"
              "Souhaitez-vous utiliser le convertisseur?",
-         "Vermo - Conversion de fichier?", Boutons::OuiNonAnnuler, Icone::Question});
+         "Vermo - Conversion de fichier?", Boutons::OuiNonAnnuler, Icone::Question,
+         convertisseur(plateforme).empty() ? Reponse::Non : Reponse::Oui});
     return reponse == Reponse::Oui   ? ChoixFormat::Convertir
            : reponse == Reponse::Non ? ChoixFormat::Garder
                                      : ChoixFormat::Annuler;
 }
 
 void lancerConvertisseur(Plateforme& plateforme) {
-    const Utf8 programme = plateforme.emplacements.fichierLu(CONVERTISSEUR);
+    const Utf8 programme = convertisseur(plateforme);
     if (programme.empty()) {
         plateforme.dialogues.demander({"Impossible de lancer le convertisseur!\nLe fichier " +
                                            plateforme.emplacements.programme + CONVERTISSEUR +
@@ -135,35 +206,37 @@ Texte nomImporte(const Utf8& chemin) {
     const Utf8 nom = nomDe(chemin);
     if (nom.find_first_of("\r\n") != Utf8::npos)
         throw FauteExecution("Le nom du fichier tient sur plusieurs lignes.", chemin);
+    if (crp::nomEtranger(nom)) throw FauteExecution("Le nom du fichier contient « \\ ».", chemin);
     try {
-        return depuisUtf8(nom);
+        return depuisUtf8(composer(nom));
     } catch (const FauteExecution& faute) {
         throw FauteExecution("Le nom du fichier ne convient pas : " + faute.quoi(), chemin);
     }
 }
 
-bool apporterDansCorpus(const Session& session, Plateforme& plateforme, const Utf8& chemin) {
+std::optional<Texte> apporterDansCorpus(const Session& session, Plateforme& plateforme, const Utf8& chemin) {
     const Utf8& RepCorpus = session.corpus.RepCorpus;
-    if (memeRepertoire(repertoireDe(chemin), RepCorpus)) return true;
+    const Texte nom = nomImporte(chemin);
+    if (memeFichier(repertoireDe(chemin), RepCorpus)) return surPlace(session, plateforme, chemin, nom);
     if (plateforme.dialogues.demander(
             {"Le fichier sélectionné est hors du répertoire du projet.\nVoulez-vous l'importer?",
              "Import du fichier", Boutons::OkAnnuler, Icone::Question}) != Reponse::Ok)
-        return false;
+        return std::nullopt;
     Sablier sablier(plateforme.ecran, Pointeur::FlecheSablier);
-    const Utf8 cible = cheminReel(RepCorpus + nomDe(chemin));
-    if (!aCopier(plateforme, cible, nomDe(chemin))) {
+    const auto cible = choisirCible(session, plateforme, nom);
+    if (!cible) return std::nullopt;
+    if (!aCopier(plateforme, RepCorpus + versUtf8(*cible), versUtf8(*cible))) {
         sablier.laisser(); // the import goes on at once
-        return true;
+        return cible;
     }
     plateforme.ecran.pointeur(Pointeur::Sablier);
-    return copierDansCorpus(session, plateforme, chemin, cible);
+    if (!copierDansCorpus(session, plateforme, chemin, cheminReel(RepCorpus + versUtf8(*cible))))
+        return std::nullopt;
+    return cible;
 }
 
 bool dejaDansCorpus(const Session& session, Plateforme& plateforme, const Texte& nom) {
-    const auto& Entretiens = session.corpus.Entretiens;
-    if (std::none_of(Entretiens.begin(), Entretiens.end(),
-                     [&](const Entretien& e) { return e.Fichier == nom; }))
-        return false;
+    if (!estEntretien(session.corpus, nom)) return false;
     plateforme.dialogues.demander({"Le fichier " + versUtf8(nom) + " est déjà présent dans le projet.",
                                    {},
                                    Boutons::Ok,
@@ -173,8 +246,10 @@ bool dejaDansCorpus(const Session& session, Plateforme& plateforme, const Texte&
 
 double mesurerDuree(Plateforme& plateforme, const Utf8& chemin) {
     const double duree = dureeAuLecteur(plateforme, chemin);
-    if (duree == 0) plateforme.dialogues.demander({"ça ne fonctionne pas !"});
-    return duree;
+    if (duree != 0) return duree;
+    const Utf8 cause = plateforme.media.erreur();
+    plateforme.dialogues.demander({"ça ne fonctionne pas !" + (cause.empty() ? "" : "\n" + cause)});
+    return 0;
 }
 
 void ajouterEntretien(Session& session, const Texte& nom, double duree) {

@@ -37,10 +37,34 @@ void direSansBalise(Dialogues& dialogues, const Utf8& quoi) {
                         "Erreur lors de la recherche des " + quoi, Boutons::Ok, Icone::Information});
 }
 
-void direIntrouvable(Dialogues& dialogues, const Texte& fichier) {
+/// Up to 20 of them, one a line, and how many more there are.
+Utf8 enumerer(const std::vector<Utf8>& noms) {
+    constexpr std::size_t montres = 20;
+    Utf8 liste;
+    for (std::size_t i = 0; i < std::min(noms.size(), montres); ++i)
+        liste += "\n" + noms[i];
+    if (noms.size() > montres) liste += "\net " + std::to_string(noms.size() - montres) + " de plus";
+    return liste;
+}
+
+void direIntrouvables(Dialogues& dialogues, const std::vector<Utf8>& noms) {
+    if (noms.empty()) return;
     dialogues.demander(
-        {"Le fichier " + versUtf8(fichier) + " est introuvable.\nIl ne sera pas ajouté au projet.",
-         "Fichier introuvable", Boutons::Ok, Icone::Exclamation});
+        {noms.size() == 1
+             ? "Le fichier " + noms.front() + " est introuvable.\nIl ne sera pas ajouté au projet."
+             : std::to_string(noms.size()) +
+                   " fichiers sont introuvables.\nIls ne seront pas ajoutés au projet.\n" + enumerer(noms),
+         noms.size() == 1 ? "Fichier introuvable" : "Fichiers introuvables", Boutons::Ok,
+         Icone::Exclamation});
+}
+
+/// Each with its line.
+void direEtrangers(Dialogues& dialogues, const EtatCorpus& corpus, const std::vector<Utf8>& noms) {
+    if (noms.empty()) return;
+    dialogues.demander({"Un entretien se nomme par un fichier du répertoire du corpus, sans chemin.\n"
+                        "Ce qui suit n'est pas lu, et reste à sa place dans " +
+                            corpus.NomCorpus + " :\n" + enumerer(noms),
+                        "Nom de fichier fautif", Boutons::Ok, Icone::Exclamation});
 }
 
 /// Puts a corpus at the head of the list as it stands at this moment, whoever wrote it.
@@ -85,6 +109,7 @@ bool demanderCorpus(Session& session, Plateforme& plateforme) {
 
 void nommerCorpus(Session& session) {
     EtatCorpus& corpus = session.corpus;
+    corpus.CheminCorpus = cheminReel(corpus.CheminCorpus);
     corpus.RepCorpus = repertoireDe(corpus.CheminCorpus);
     corpus.NomCorpus = nomDe(corpus.CheminCorpus);
 }
@@ -150,20 +175,29 @@ bool lireThematiques(Session& session, Plateforme& plateforme) {
 
 bool lireEntretiens(Session& session, Plateforme& plateforme) {
     EtatCorpus& corpus = session.corpus;
+    const IndexRepertoire index(corpus.RepCorpus);
+    std::vector<Utf8> introuvables, etrangers;
+    const auto garder = [&](const Texte& fichier, std::size_t ligne) {
+        const Utf8 nom = versUtf8(fichier);
+        if (crp::nomEtranger(fichier))
+            etrangers.push_back("ligne " + std::to_string(ligne) + " : " + nom);
+        else if (index.trouver(nom))
+            return true;
+        else
+            introuvables.push_back(nom);
+        return false;
+    };
     const auto fichiers = crp::lireEntretiens(lireFichierCorpus(corpus, corpus.luEntretiens),
-                                              corpus.CheminCorpus, ENTRETIENS_MAX);
+                                              corpus.CheminCorpus, ENTRETIENS_MAX, garder);
     if (!fichiers) {
         direSansBalise(plateforme.dialogues, "entretiens");
         return false;
     }
-    const IndexRepertoire index(corpus.RepCorpus);
     corpus.Entretiens.assign(1, {});
-    for (const Texte& fichier : *fichiers) {
-        if (index.trouver(versUtf8(fichier)))
-            corpus.Entretiens.emplace_back().Fichier = fichier;
-        else
-            direIntrouvable(plateforme.dialogues, fichier);
-    }
+    for (const Texte& fichier : *fichiers)
+        corpus.Entretiens.emplace_back().Fichier = fichier;
+    direEtrangers(plateforme.dialogues, corpus, etrangers);
+    direIntrouvables(plateforme.dialogues, introuvables);
     corpus.NbEntretiens = static_cast<std::int16_t>(corpus.Entretiens.size() - 1);
     corpus.extraits.assign(corpus.Entretiens.size(), {});
     corpus.ouvertureInachevee = false;

@@ -21,7 +21,7 @@ std::vector<Utf8> listeProjets(const Emplacements& emplacements);
 /// the person gave up or chose the corpus that is open.
 bool demanderCorpus(Session& session, Plateforme& plateforme);
 
-/// RepCorpus and NomCorpus from CheminCorpus.
+/// RepCorpus and NomCorpus from CheminCorpus, which takes the name that the file has on the disk.
 void nommerCorpus(Session& session);
 
 /// Puts CheminCorpus at the head of the recent list. A list that can't be read or written is said in one
@@ -43,8 +43,9 @@ bool lireThematiques(Session& session, Plateforme& plateforme);
 /// Makes these rows the thematic table. One whose code was there keeps its switch, others are on.
 void prendreThematiques(EtatCorpus& corpus, const std::vector<crp::Thematique>& rangs);
 
-/// The interviews whose recording is there; one message for each that isn't. False without an opening tag.
-/// Throws FauteExecution, no interview taken, for a file that can't be read and for more than ENTRETIENS_MAX.
+/// The interviews whose recording is there. One message tells those that aren't, another the names that are
+/// paths, which are never followed. False without an opening tag. Throws FauteExecution, no interview taken,
+/// for a file that can't be read and for more than ENTRETIENS_MAX recordings.
 bool lireEntretiens(Session& session, Plateforme& plateforme);
 
 /// Every interview and every thematic on.

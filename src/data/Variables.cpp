@@ -67,7 +67,8 @@ std::string lireJusquAuxAttributs(const Utf8& chemin) {
 const std::vector<rtr::Choix>* attributsConnus(const EtatCorpus& corpus, int slot) {
     if (static_cast<std::size_t>(slot) >= corpus.extraits.size()) return nullptr;
     const ExtraitsEntretien& table = ligneDe(corpus.extraits, slot);
-    const bool connus = table.attributs && certainementMeme(table.lu.identite, identiteFichier(table.lu.chemin));
+    const bool connus =
+        table.attributs && certainementMeme(table.lu.identite, identiteFichier(table.lu.chemin));
     return connus ? &*table.attributs : nullptr;
 }
 

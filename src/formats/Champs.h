@@ -43,9 +43,9 @@ inline int entierBorne(std::string_view champ, int minimum, int maximum, const s
     int valeur = 0;
     const auto [fin, erreur] = std::from_chars(chiffres.data(), chiffres.data() + chiffres.size(), valeur);
     if (chiffres.empty() || erreur == std::errc::invalid_argument || fin != chiffres.data() + chiffres.size())
-        lieu.refuser("« " + versUtf8(champ) + " » n'est pas un numéro de " + quoi + ".");
+        lieu.refuser(citer(champ) + " n'est pas un numéro de " + quoi + ".");
     if (erreur != std::errc{} || valeur < minimum || valeur > maximum)
-        lieu.refuser("Le numéro de " + quoi + " " + std::string(chiffres) + " n'est pas compris entre " +
+        lieu.refuser("Le numéro de " + quoi + " " + citer(chiffres) + " n'est pas compris entre " +
                      std::to_string(minimum) + " et " + std::to_string(maximum) + ".");
     return valeur;
 }

@@ -5,6 +5,9 @@
 #include "textfile/lignes.h"
 #include "textfile/nombres.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace vermo::crp {
 namespace {
 
@@ -13,7 +16,8 @@ constexpr Section POS{"<|POS|", ">|POS|"};
 constexpr Section DIC{"<|DIC|", ">|DIC|"};
 constexpr Section ENTR{"<|ENTR|", ">|ENTR|"};
 
-/// Rows of a section, one a line that isn't empty; `lireRang` takes a line and where it stands.
+/// Rows of a section, one a line that isn't empty; `lireRang` takes a line and where it stands, and may give
+/// nothing.
 template <class Rang, class LireRang>
 std::optional<std::vector<Rang>> lireSection(std::string_view octets, const Section& section,
                                              const Utf8& fichier, std::size_t maximum, LireRang lireRang) {
@@ -25,10 +29,12 @@ std::optional<std::vector<Rang>> lireSection(std::string_view octets, const Sect
         if (ligne.empty()) continue;
         const Lieu lieu{fichier, lignes.numero()};
         refuserNul(ligne, lieu);
+        std::optional<Rang> rang = lireRang(ligne, lieu);
+        if (!rang) continue;
         if (rangs.size() == maximum)
             lieu.refuser("La section " + std::string(section.ouverture) + " tient au plus " +
                          std::to_string(maximum) + " lignes.");
-        rangs.push_back(lireRang(ligne, lieu));
+        rangs.push_back(std::move(*rang));
     }
     return rangs;
 }
@@ -72,9 +78,16 @@ std::optional<std::vector<Thematique>> lireThematiques(std::string_view octets, 
 }
 
 std::optional<std::vector<Texte>> lireEntretiens(std::string_view octets, const Utf8& fichier,
-                                                 std::size_t maximum) {
-    return lireSection<Texte>(octets, ENTR, fichier, maximum,
-                              [](std::string_view ligne, const Lieu&) { return Texte(ligne); });
+                                                 std::size_t maximum, const Garder& garder) {
+    return lireSection<Texte>(octets, ENTR, fichier, maximum, [&](std::string_view ligne, const Lieu& lieu) {
+        std::optional<Texte> nom(ligne);
+        if (garder && !garder(*nom, lieu.ligne)) nom.reset();
+        return nom;
+    });
+}
+
+bool nomEtranger(std::string_view nom) {
+    return nom.find_first_of("/\\") != std::string_view::npos || nom == "." || nom == "..";
 }
 
 std::optional<std::vector<LigneVariable>> lirePos(std::string_view octets, const Utf8& fichier) {
@@ -104,7 +117,12 @@ std::optional<std::string> ecrireThematiques(std::string_view octets, const std:
 }
 
 std::optional<std::string> ecrireEntretiens(std::string_view octets, std::vector<Texte> fichiers) {
-    std::erase(fichiers, Texte{});
+    std::erase_if(fichiers, [](const Texte& nom) { return nom.empty() || nomEtranger(nom); });
+    std::size_t rang = 0;
+    for (const Texte& ancien : lireEntretiens(octets).value_or(std::vector<Texte>{})) {
+        const auto place = static_cast<std::ptrdiff_t>(std::min(rang++, fichiers.size()));
+        if (nomEtranger(ancien)) fichiers.insert(fichiers.begin() + place, ancien);
+    }
     return reecrireSection(octets, ENTR, fichiers, {.queue = copierEntreGuillemets});
 }
 

@@ -46,8 +46,9 @@ class LecteurExtraits {
 std::string_view enTeteDe(std::string_view octets) {
     const std::size_t marque = octets.find(MARQUE);
     if (marque == std::string_view::npos) return octets;
-    std::size_t fin = octets.substr(0, marque).rfind(CR) + 1; // 0 where the first line is a mark line
-    if (fin != 0 && octets[fin] == '\n') ++fin;
+    const char finLigne = finDeLigne(octets);
+    std::size_t fin = octets.substr(0, marque).rfind(finLigne) + 1; // 0 where the first line is a mark line
+    if (fin != 0 && finLigne == CR && octets[fin] == '\n') ++fin;
     return octets.substr(0, fin);
 }
 
@@ -110,7 +111,15 @@ void ecrireAttributs(std::string& sortie, const Attributs& attributs, const Regl
     ecrireLigne(sortie, FIN_ATTR);
 }
 
+/// A code may be followed by a name, which ends with its line and may hold any mark.
+void exigerExtrait(const Extrait& extrait) {
+    exigerTexte(extrait.texte, "Le texte de l'extrait");
+    if (extrait.code.find_first_of(std::string_view("\r\n\0", 3)) != Texte::npos)
+        throw FauteExecution("Le code de l'extrait tient sur plusieurs lignes.");
+}
+
 void ecrireExtrait(std::string& sortie, const Extrait& extrait, const Reglages& reglages) {
+    exigerExtrait(extrait);
     const auto temps = [&](const Texte& champ) {
         return formatDeuxDecimales(nombre(champ, reglages), reglages);
     };
@@ -133,6 +142,7 @@ void reserver(std::string& sortie, const std::vector<Extrait>& extraits) {
 
 /// An extract as an insertion writes it, its lines separated by lone CRs.
 std::string composer(const Extrait& extrait) {
+    exigerExtrait(extrait);
     std::string sortie;
     sortie.append(MARQUE).append(extrait.debut).append(MARQUE).append(extrait.code) += CR;
     sortie.append(extrait.texte) += CR;
@@ -162,9 +172,16 @@ struct Insertion {
 
 } // namespace
 
+void exigerTexte(std::string_view texte, const std::string& quoi) {
+    if (contient(texte, MARQUE))
+        throw FauteExecution(quoi + " contient « :: », qui sépare les extraits dans leur fichier.");
+    if (contient(texte, std::string_view("\0", 1))) throw FauteExecution(quoi + " contient un octet nul.");
+}
+
 void lire(std::string_view octets, const Utf8& fichier, Lecture& lecture) {
     lecture = {};
-    lecture.enTete = enTeteDe(octets);
+    std::string copie;
+    lecture.enTete = avecCr(enTeteDe(octets), copie);
     Lignes lignes(octets);
     LecteurExtraits preneur(lecture);
     parcourir(lignes, fichier, preneur);
@@ -186,11 +203,14 @@ void verifier(std::string_view octets, const Lecture& lecture, const Utf8& fichi
 }
 
 Texte tempsEtranger(std::string_view octets, const Lecture& lecture, const Reglages& reglages) {
+    const auto etranger = [&](std::string_view temps) {
+        return temps.size() <= TEMPS_LONGUEUR_MAX && separateurEtranger(temps, reglages);
+    };
     std::string_view duree;
-    if (Lignes(octets).suivante(duree) && separateurEtranger(duree, reglages)) return Texte(duree);
+    if (Lignes(octets).suivante(duree) && etranger(duree)) return Texte(duree);
     for (std::size_t n = 1; n < lecture.extraits.size(); ++n)
         for (const Texte& temps : {lecture.extraits[n].debut, lecture.extraits[n].fin})
-            if (separateurEtranger(temps, reglages)) return temps;
+            if (etranger(temps)) return temps;
     return {};
 }
 

@@ -34,6 +34,11 @@ struct Extrait {
     bool operator==(const Extrait&) const = default;
 };
 
+/// What every text that enters a transcript must pass: no "::", which would be read as an extract's bound,
+/// and no NUL. CP1252 is what a Texte is made of. Throws FauteExecution, naming `quoi`, for what a file can't
+/// hold. The routines that write here all ask it.
+void exigerTexte(std::string_view texte, const std::string& quoi);
+
 /// The lines of a file on which an extract opens and closes, from 1; 0 where there is none.
 struct LignesMarques {
     std::uint32_t ouverture = 0;

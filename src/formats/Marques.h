@@ -74,14 +74,18 @@ std::size_t parcourir(Lignes& lignes, const Utf8& fichier, Preneur& preneur) {
     return ouverture;
 }
 
-/// A time by the locale's conversion. Throws, naming `quoi`, for a text that starts with no number.
+constexpr std::size_t TEMPS_LONGUEUR_MAX = 40; ///< of the field of a time
+
+/// A time by the locale's conversion. Throws, naming `quoi`, for a text that starts with no number and for
+/// one of more than TEMPS_LONGUEUR_MAX characters, which nobody wrote as a time.
 inline double tempsOuFaute(std::string_view temps, const Reglages& reglages, const char* quoi,
                            const Lieu& lieu) {
     try {
-        return nombre(temps, reglages);
+        if (temps.size() <= TEMPS_LONGUEUR_MAX) return nombre(temps, reglages);
     } catch (const FauteExecution&) {
-        lieu.refuser(std::string(quoi) + " « " + versUtf8(temps) + " » n'est pas un nombre.");
+        // Told below, with its place.
     }
+    lieu.refuser(std::string(quoi) + " " + citer(temps) + " n'est pas un nombre.");
 }
 
 /// The duration on a transcript's first line, seconds. Throws for what no recording can last.

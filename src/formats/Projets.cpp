@@ -7,7 +7,8 @@ namespace vermo::projets {
 
 std::vector<Utf8> lire(std::string_view octets) {
     std::vector<Utf8> chemins;
-    Jetons jetons(octets);
+    std::string copie;
+    Jetons jetons(avecCr(octets, copie));
     Texte item;
     while (jetons.suivant(item))
         if (!item.empty()) chemins.push_back(versUtf8(item));
@@ -16,9 +17,11 @@ std::vector<Utf8> lire(std::string_view octets) {
 
 std::string ecrire(const Utf8& chemin, const std::vector<Utf8>& anciens) {
     std::string sortie;
-    ecrireLigne(sortie, depuisUtf8(chemin));
+    const Texte premier = depuisUtf8(composer(chemin));
+    ecrireLigne(sortie, premier);
     for (const Utf8& ancien : anciens)
-        if (!ancien.empty() && ancien != chemin) ecrireLigne(sortie, depuisUtf8(ancien));
+        if (const Texte suivant = depuisUtf8(ancien); !suivant.empty() && suivant != premier)
+            ecrireLigne(sortie, suivant);
     return sortie;
 }
 

@@ -21,6 +21,8 @@ void copierEntreGuillemets(std::string& sortie, std::string_view octets) {
 
 std::optional<std::string> reecrireSection(std::string_view octets, const Section& section,
                                            const std::vector<Texte>& lignes, const Cadre& cadre) {
+    std::string copie;
+    octets = avecCr(octets, copie);
     Lignes anciennes(octets);
     if (!anciennes.jusqua(section.ouverture)) return std::nullopt;
     std::string sortie;

@@ -1,21 +1,26 @@
 #pragma once
 #include "textfile/texte.h"
 
+#include <optional>
+
 namespace vermo {
 
 enum class Boutons { Ok, OkAnnuler, OuiNon, OuiNonAnnuler };
 enum class Icone { Aucune, Information, Exclamation, Question, Critique };
 enum class Reponse { Ok, Annuler, Oui, Non };
 
-/// One message box. Lines are separated by "\n". An empty title is shown as the program's name.
+/// One message box. Lines are separated by "\n". An empty title is shown as the program's name. The Enter key
+/// gives `defaut`; none: the first button.
 struct Message {
     Utf8 texte;
     Utf8 titre = {};
     Boutons boutons = Boutons::Ok;
     Icone icone = Icone::Aucune;
+    std::optional<Reponse> defaut = {};
 };
 
-/// One file dialog. `filtre` is "label|pattern", as "Fichier projet|*.Crp".
+/// One file dialog. `filtre` is "label|pattern", as "Fichier projet|*.Crp"; several follow each other, the
+/// first is chosen, and patterns of one label are parted by ";".
 struct DemandeFichier {
     Utf8 titre;
     Utf8 filtre;

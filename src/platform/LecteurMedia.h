@@ -11,6 +11,16 @@ namespace vermo {
 
 enum class Fenetre; ///< the windows, named in window/Fenetres.h
 
+/// Names of the recordings that the player takes, as file dialogs filter them. It looks at what a file holds
+/// and not at its name: these are the sounds, and the videos with a sound, that recorders, telephones and
+/// programs make.
+inline constexpr const char* FORMATS_LUS =
+    "*.wav;*.mp3;*.m4a;*.m4b;*.aac;*.ogg;*.oga;*.opus;*.flac;*.wma;*.amr;*.awb;*.3gp;*.3ga;*.3g2;*.aif;*."
+    "aiff;"
+    "*.aifc;*.caf;*.au;*.snd;*.ac3;*.eac3;*.dts;*.mka;*.mp2;*.mpa;*.wv;*.ape;*.tta;*.tak;*.mpc;*.spx;*.w64;"
+    "*.rf64;*.dss;*.ra;*.voc;*.gsm;*.mp4;*.m4v;*.mov;*.mkv;*.webm;*.avi;*.wmv;*.asf;*.mpg;*.mpeg;*.ts;*.mts;"
+    "*.m2ts;*.vob;*.ogv;*.flv";
+
 /// Play states, numbered as the windows compare them.
 enum class EtatLecture {
     Indefini = 0,

@@ -12,17 +12,19 @@
 namespace vermo {
 namespace {
 
-/// The interviews that the file names by now, whether their recordings are there or not.
-bool listeChangee(const EtatCorpus& corpus) {
-    const auto lus = crp::lireEntretiens(lireFichier(corpus.CheminCorpus), corpus.CheminCorpus);
-    std::vector<Texte> connus;
-    for (int slot = 1; slot <= corpus.NbEntretiens; ++slot)
-        connus.push_back(entretienDe(corpus, slot).Fichier);
-    return lus != connus;
+/// Whether the step that was taken, which stands at the end of `retournes` now, changed the list of
+/// interviews. One that another program's change stopped isn't there: everything may have changed.
+bool listeChangee(const EtatCorpus& corpus, const std::vector<Changement>& retournes) {
+    if (retournes.empty()) return true;
+    for (const Changement::Fichier& fichier : retournes.back().fichiers)
+        if (fichier.chemin == corpus.CheminCorpus && fichier.autre)
+            return crp::lireEntretiens(*fichier.autre) !=
+                   crp::lireEntretiens(lireFichier(fichier.chemin), fichier.chemin);
+    return true;
 }
 
-bool relireCorpus(Session& session, Plateforme& plateforme) {
-    if (listeChangee(session.corpus)) return true;
+bool relireCorpus(Session& session, Plateforme& plateforme, const std::vector<Changement>& retournes) {
+    if (listeChangee(session.corpus, retournes)) return true;
     lireThematiques(session, plateforme);
     plateforme.annonces.annoncer({Sujet::Thematiques});
     return false;
@@ -52,10 +54,11 @@ bool toucheCorpus(const Session& session, const Changement& changement) {
 
 bool parcourirHistoire(Session& session, Plateforme& plateforme, Sens sens) {
     const auto chemins = sens == Sens::Annuler ? annuler(session, plateforme) : refaire(session, plateforme);
+    const auto& retournes = sens == Sens::Annuler ? session.histoire.defaits : session.histoire.faits;
     bool aRouvrir = false;
     for (const Utf8& chemin : chemins)
         if (chemin == session.corpus.CheminCorpus)
-            aRouvrir = relireCorpus(session, plateforme);
+            aRouvrir = relireCorpus(session, plateforme, retournes);
         else
             relireRetranscription(session, plateforme, chemin);
     return aRouvrir;

@@ -8,8 +8,9 @@
 namespace vermo {
 namespace {
 
-/// False ends the import: the person gave up or turned to the converter.
+/// False ends the import: the person gave up or turned to the converter, which takes WAV files only.
 bool formatAccepte(Plateforme& plateforme, const Utf8& chemin) {
+    if (!estWav(chemin)) return true;
     switch (demanderFormat(LireEnteteWav(chemin, plateforme.dialogues), plateforme)) {
     case ChoixFormat::Annuler:
         return false;
@@ -34,9 +35,8 @@ std::optional<Texte> apporter(Session& session, Plateforme& plateforme) {
     const Utf8 vise = corpus.CheminCorpus;
     const Utf8 chemin = choisirEnregistrement(session, plateforme);
     if (chemin.empty() || !formatAccepte(plateforme, chemin)) return std::nullopt;
-    const Texte nom = nomImporte(chemin);
-    if (!apporterDansCorpus(session, plateforme, chemin) || corpus.CheminCorpus != vise) return std::nullopt;
-    if (dejaDansCorpus(session, plateforme, nom)) return std::nullopt;
+    const auto nom = apporterDansCorpus(session, plateforme, chemin);
+    if (!nom || corpus.CheminCorpus != vise || dejaDansCorpus(session, plateforme, *nom)) return std::nullopt;
     return nom;
 }
 

@@ -41,7 +41,14 @@ std::string extension3(std::string_view nom) {
 
 std::optional<Utf8> trouver(const Utf8& chemin) {
     if (fichierExiste(chemin)) return chemin;
-    const Utf8 repertoire = repertoireDe(chemin);
+    Utf8 repertoire = repertoireDe(chemin);
+    if (const Utf8 sansBarre = repertoire.substr(0, repertoire.rfind('/'));
+        !sansBarre.empty() && !fichierExiste(sansBarre)) {
+        const auto autre = trouver(sansBarre);
+        if (!autre) return std::nullopt;
+        repertoire = *autre + "/";
+        if (fichierExiste(repertoire + nomDe(chemin))) return repertoire + nomDe(chemin);
+    }
     const Utf8 cherche = majusculesUtf8(nomDe(chemin));
     Utf8 trouve;
     lister(repertoire, [&](const Utf8& nom) {

@@ -22,9 +22,10 @@ std::string compagnon(std::string_view nom, std::string_view extension);
 /// Upper-cased last three characters, as tests for "WAV" want them.
 std::string extension3(std::string_view nom);
 
-/// The file on the disk that `chemin` means: the exact name, else the same name in another case (in the same
-/// directory), as corpora come from systems where case doesn't count; the first in byte order when several
-/// differ by case only. Whatever bears the name counts, a directory too: opening it tells what is wrong.
+/// The file on the disk that `chemin` means: the exact name, else the same name in another case or with its
+/// accents composed otherwise, as corpora come from systems where neither counts; the first in byte order
+/// when several differ by these only. The directories on its way are found alike. Whatever bears the name
+/// counts, a directory too: opening it tells what is wrong.
 std::optional<Utf8> trouver(const Utf8& chemin);
 
 /// `trouver`, or the path itself when nothing is there: the name under which to create it.
@@ -51,7 +52,7 @@ class IndexRepertoire {
     std::optional<Utf8> autreCasse(const Utf8& nom) const;
 
     Utf8 repertoire_;
-    Descripteur ouvert_; ///< the directory, if it can be opened
+    Descripteur ouvert_;                               ///< the directory, if it can be opened
     mutable std::unordered_map<Utf8, Utf8> sansCasse_; ///< upper-cased name -> name
 };
 

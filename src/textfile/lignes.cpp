@@ -15,10 +15,19 @@ void ecrireLigne(std::string& sortie, std::string_view ligne) {
 
 void copierLignes(std::string& sortie, std::string_view octets,
                   void (*ecrire)(std::string&, std::string_view)) {
-    Lignes lignes(octets);
+    Lignes lignes(octets, '\r');
     std::string_view ligne;
     while (lignes.suivante(ligne))
         ecrire(sortie, ligne);
+}
+
+std::string_view avecCr(std::string_view octets, std::string& copie) {
+    if (finDeLigne(octets) == '\r') return octets;
+    for (const char octet : octets) {
+        if (octet == '\n') copie += '\r';
+        copie += octet;
+    }
+    return copie;
 }
 
 } // namespace vermo

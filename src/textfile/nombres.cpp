@@ -67,9 +67,7 @@ bool estHexadecimal(std::string_view texte) {
 }
 
 [[noreturn]] void refuser(std::string_view texte) {
-    constexpr std::size_t montres = 40;
-    throw FauteExecution("incompatibilité de type : « " + versUtf8(texte.substr(0, montres)) +
-                         (texte.size() > montres ? "…" : "") + " »");
+    throw FauteExecution("incompatibilité de type : " + citer(texte));
 }
 
 template <class Reel>
@@ -218,7 +216,7 @@ std::uint32_t couleur(std::string_view texte) {
 }
 
 long arrondi(double valeur) noexcept {
-    return std::isfinite(valeur) ? std::lrint(valeur) : 0;
+    return std::isfinite(valeur) ? std::lrint(borner(valeur, ENTIER_MAX)) : 0;
 }
 
 std::string imprimer(float valeur, const Reglages& reglages) {

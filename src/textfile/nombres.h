@@ -2,6 +2,7 @@
 #include "textfile/reglages.h"
 #include "textfile/texte.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string_view>
 
@@ -25,7 +26,16 @@ bool separateurEtranger(std::string_view texte, const Reglages& reglages) noexce
 /// it is neither, or does not fit 32 bits.
 std::uint32_t couleur(std::string_view texte);
 
-/// Nearest whole number, halves to the even one.
+/// `valeur` where it lies within ± `borne`, else that bound, which is also that of a NaN: what is to become
+/// an integer must fit one.
+constexpr double borner(double valeur, double borne) {
+    return std::max(-borne, std::min(borne, valeur));
+}
+
+/// Beyond any time or length, and far enough from the largest integer to be added to.
+constexpr double ENTIER_MAX = 1e18;
+
+/// Nearest whole number within ± ENTIER_MAX, halves to the even one; 0 for what is not finite.
 long arrondi(double valeur) noexcept;
 
 /// A 32-bit float as a print statement writes it: at most 7 significant digits, a zero before the separator

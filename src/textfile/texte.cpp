@@ -83,6 +83,34 @@ void parcourir(std::string_view utf8, Faire faire) {
     }
 }
 
+/// A combining accent: the letters that it may follow, and what each becomes.
+struct Accent {
+    char32_t point;
+    std::string_view lettres, composees;
+};
+constexpr std::array<Accent, 8> accents = {
+    {{0x300, "AEIOUaeiou", "\xC0\xC8\xCC\xD2\xD9\xE0\xE8\xEC\xF2\xF9"},
+     {0x301, "AEIOUYaeiouy", "\xC1\xC9\xCD\xD3\xDA\xDD\xE1\xE9\xED\xF3\xFA\xFD"},
+     {0x302, "AEIOUaeiou", "\xC2\xCA\xCE\xD4\xDB\xE2\xEA\xEE\xF4\xFB"},
+     {0x303, "ANOano", "\xC3\xD1\xD5\xE3\xF1\xF5"},
+     {0x308, "AEIOUYaeiouy", "\xC4\xCB\xCF\xD6\xDC\x9F\xE4\xEB\xEF\xF6\xFC\xFF"},
+     {0x30A, "Aa", "\xC5\xE5"},
+     {0x30C, "SZsz", "\x8A\x8E\x9A\x9E"},
+     {0x327, "Cc", "\xC7\xE7"}}};
+
+/// The letter that `lettre` becomes under a combining accent; nothing where they make none.
+std::optional<char> accentuee(char lettre, char32_t point) {
+    for (const Accent& accent : accents) {
+        const std::size_t rang = accent.point == point ? accent.lettres.find(lettre) : std::string_view::npos;
+        if (rang != std::string_view::npos) return accent.composees[rang];
+    }
+    return std::nullopt;
+}
+
+bool enAscii(std::string_view utf8) {
+    return std::all_of(utf8.begin(), utf8.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
 Utf8 montrable(const Caractere& c) {
     return c.point == invalide ? "\uFFFD" : Utf8(c.octets);
 }
@@ -125,8 +153,27 @@ Utf8 versUtf8(std::string_view texte) {
     return utf8;
 }
 
+Utf8 citer(std::string_view texte) {
+    constexpr std::size_t montres = 40;
+    return "« " + versUtf8(texte.substr(0, montres)) + (texte.size() > montres ? "…" : "") + " »";
+}
+
 char32_t pointDeCode(unsigned char octet) noexcept {
     return octet >= 0x80 && octet < 0xA0 ? hauts[octet - 0x80] : octet;
+}
+
+Utf8 composer(std::string_view utf8) {
+    Utf8 resultat;
+    parcourir(utf8, [&](std::size_t, const Caractere& c, std::optional<char>) {
+        const auto lettre = resultat.empty() ? std::nullopt : accentuee(resultat.back(), c.point);
+        if (!lettre) {
+            resultat += c.octets;
+            return;
+        }
+        resultat.pop_back();
+        ajouterUtf8(resultat, pointDeCode(static_cast<unsigned char>(*lettre)));
+    });
+    return resultat;
 }
 
 Texte majuscules(std::string_view texte) {
@@ -136,11 +183,10 @@ Texte majuscules(std::string_view texte) {
 }
 
 Utf8 majusculesUtf8(std::string_view utf8) {
-    if (std::all_of(utf8.begin(), utf8.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; }))
-        return majuscules(utf8);
+    if (enAscii(utf8)) return majuscules(utf8);
     Utf8 resultat;
     resultat.reserve(utf8.size());
-    parcourir(utf8, [&](std::size_t, const Caractere& c, std::optional<char> octet) {
+    parcourir(composer(utf8), [&](std::size_t, const Caractere& c, std::optional<char> octet) {
         if (octet)
             ajouterUtf8(resultat, pointDeCode(static_cast<unsigned char>(majuscule(*octet))));
         else

@@ -33,13 +33,20 @@ std::vector<CaractereRefuse> caracteresRefuses(std::string_view utf8);
 
 Utf8 versUtf8(std::string_view texte);
 
+/// A field of a file between quotes, for a message: at most its first 40 characters.
+Utf8 citer(std::string_view texte);
+
 /// Unicode code point of one CP1252 byte.
 char32_t pointDeCode(unsigned char octet) noexcept;
+
+/// The text with each letter and the combining accent behind it as the one CP1252 letter that they make
+/// ("e" U+0301: "é"), as one system writes names and another doesn't; all else stays.
+Utf8 composer(std::string_view utf8);
 
 /// Upper case of CP1252 letters, accented ones included.
 Texte majuscules(std::string_view texte);
 
-/// The same on UTF-8, as file names need it: other characters, and bytes that are no UTF-8, stay.
+/// The same on UTF-8, composed, as file names need it: other characters, and bytes that are no UTF-8, stay.
 Utf8 majusculesUtf8(std::string_view utf8);
 
 } // namespace vermo

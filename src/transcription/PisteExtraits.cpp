@@ -87,7 +87,8 @@ class Bulle {
         const Rectangle cadre = cadreTexte();
         if (cadre.largeur <= MARGE_MOTS) return;
         const Twips pas = metriques.hauteur(taille_.corps);
-        const int colonnes = static_cast<int>(cadre.largeur / LARGEUR_COLONNE_MIN);
+        constexpr double COLONNES_MAX = 1000; // of a bubble that runs far out of the picture
+        const int colonnes = static_cast<int>(borner(cadre.largeur / LARGEUR_COLONNE_MIN, COLONNES_MAX));
         const MotsDisposes disposes = disposerMots(ligneDe(session_.transcription.ExtraitTexte, extrait_),
                                                    {.depart = cadre.gauche,
                                                     .haut = cadre.haut,

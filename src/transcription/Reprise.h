@@ -13,8 +13,8 @@ struct Reprise {
     bool operator==(const Reprise&) const = default;
 };
 
-/// As a draft, in the place of what `vide` holds, and back; whose transcript it is for, the session knows that
-/// opens the interview. Throws FauteExecution for a draft without one of its fields, or with a number
+/// As a draft, in the place of what `vide` holds, and back; whose transcript it is for, the session knows
+/// that opens the interview. Throws FauteExecution for a draft without one of its fields, or with a number
 /// that is none.
 Brouillon brouillonDe(Brouillon vide, const Reprise& reprise);
 Reprise repriseDe(const Brouillon& brouillon);

@@ -49,6 +49,33 @@ TEST_F(Wave, TheDataTagIsFoundInTheFirst255BytesOnly) {
     EXPECT_EQ(lieu(""), (LieuDonnees{0, 4}));
 }
 
+TEST_F(Wave, WhatCantBeDrawnFromItsBytesIsToldApart) {
+    const std::string bon = wav(2, 16, std::string(400, '\0'));
+    const auto avec = [&](std::size_t place, const std::string& octets) {
+        return std::string(bon).replace(place, octets.size(), octets);
+    };
+    const std::string extensible = avec(20, "\xFE\xFF").insert(36, std::string(24, '\0'));
+    const std::pair<std::string, std::string> cas[] = {
+        {bon + "LIST", ""},
+        {bon.substr(0, bon.size() - 44), ""},
+        {std::string(extensible).replace(44, 1, "\x01"), ""},
+        {"", "pas un fichier WAV"},
+        {avec(12, "LIST"), "« fmt »"},
+        {avec(20, "\x55"), "(format 85)"},
+        {extensible, "(format 65534)"},
+        {wav(1, 24, "sons"), "24 bits"},
+        {avec(22, std::string(1, '\0')), "aucun canal"},
+        {wav(1, 8, "sons", std::string(216, 'z')), "255 premiers octets"},
+        {bon.substr(0, bon.size() - 45), "la taille qu'il annonce"},
+        {avec(40, std::string(4, '\0')), "la taille qu'il annonce"},
+        {avec(40, "\xFF\xFF\xFF\xFF"), "la taille qu'il annonce"}};
+    for (const auto& [octets, cause] : cas) {
+        const Utf8 refus = refusOnde(FichierOnde(dossier.ecrire("a.wav", octets)));
+        EXPECT_TRUE(cause.empty() ? refus.empty() : refus.find(cause) != Utf8::npos)
+            << cause << ": " << refus;
+    }
+}
+
 /// Points of one channel or two, whatever the step and wherever the reading's blocks of 4,096 bytes end: each
 /// is the sample at its place. The last of each channel is never read.
 TEST_F(Wave, EveryPointIsTheSampleAtItsPlace) {

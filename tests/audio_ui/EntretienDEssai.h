@@ -34,9 +34,6 @@ class EntretienDEssai : public Scene {
             fenetres.annoncer(avis);
             visu->surAvis(avis);
         };
-        verbes["tic"] = [this](const std::string& timer) {
-            timer == "Timer1" ? visu->Timer1_Tick() : visu->Timer3_Tick();
-        };
         verbes["abandon"] = [this](const std::string& quoi) {
             fenetres.abandonne = quoi == "offert";
             hote.annonces.annoncer({Sujet::TexteAbandonne, 1});
@@ -47,7 +44,8 @@ class EntretienDEssai : public Scene {
         };
     }
     /// Writes a transcript with these spans, coded in turn 001 and 002.
-    void transcrire(const std::vector<Bornes>& extraits, const Texte& texte = "Un texte.") {
+    void transcrire(const std::vector<Bornes>& extraits,
+                    const Texte& texte = "Un texte, puis\ranticonstitutionnellement la suite.") {
         std::ostringstream rtr;
         rtr << std::fixed << std::setprecision(2)
             << " 600 \r\n<|OBS|\r\n\r\n>|OBS|\r\n<|ATTR|\r\n>|ATTR|\r\n";

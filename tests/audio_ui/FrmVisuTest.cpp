@@ -59,6 +59,18 @@ TEST(FrmVisu, ARecordingWithoutSamplesShowsARulerAndIsNeverProbed) {
     EXPECT_NE(cache.pixel(minute, 40), cache.pixel(minute + 10, 40));
 }
 
+TEST(FrmVisu, ARecordingWhoseWaveCantBeDrawnIsShownWithoutOneAndKeepsNoPicture) {
+    EntretienDEssai essai(60);
+    essai.hote.dossier.ecrire("entretien1.wav", wav(1, 24, std::string(6000, 'x')));
+    ASSERT_TRUE(essai.ouvrir());
+    EXPECT_FALSE(essai.hote.dossier.existe("entretien1.Bmp"));
+    const QImage vue = essai.controle<Toile>("Picture1").grab().toImage();
+    int noirs = 0;
+    for (int x = 20; x < 400; ++x)
+        noirs += qGray(vue.pixel(x, 30)) < 60; // through the letters of the line that says why
+    EXPECT_TRUE(noirs > 20 && noirs < 200) << noirs;
+}
+
 TEST(FrmVisu, AnOpeningThatIsGivenUpLeavesTheSession) {
     EntretienDEssai essai(60);
     essai.session.corpus.Entretiens[1].Duree = 0;
@@ -72,19 +84,4 @@ TEST(FrmVisu, AnOpeningThatIsGivenUpLeavesTheSession) {
     EXPECT_FALSE(essai.ouvrir());
     EXPECT_EQ(essai.session.audio.DureeFichier, 0);
     EXPECT_FALSE(essai.visu->isVisible());
-}
-
-TEST(FrmVisu, AHeldButtonGoesOnInItsDirectionUntilItIsLeft) {
-    const auto essai = ouvert();
-    essai->faire("6x touche Right");
-    for (const auto& [nom, sens] : {std::pair("ImgMedia6", 1), std::pair("ImgMedia5", -1)}) {
-        QWidget& bouton = essai->controle(nom);
-        const double avant = essai->session.audio.DebutZoom;
-        const auto pas = [&, vers = sens] { return vers * (essai->session.audio.DebutZoom - avant); };
-        QTest::mousePress(&bouton, Qt::LeftButton);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return pas() > 5; })) << nom;
-        QTest::mouseRelease(&bouton, Qt::LeftButton);
-        for (const char* timer : {"TimerPlus", "TimerMoins"})
-            EXPECT_FALSE(essai->visu->findChild<QTimer*>(QLatin1String(timer))->isActive()) << nom;
-    }
 }

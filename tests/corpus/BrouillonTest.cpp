@@ -45,7 +45,8 @@ TEST(DraftTest, WhatIsNoDraftIsRefusedByItsLine) {
             ADD_FAILURE() << quoi;
         } catch (const FauteExecution& faute) {
             EXPECT_NE(faute.quoi().find(quoi), std::string::npos) << faute.what();
-            EXPECT_EQ(std::pair(faute.fichier(), faute.ligne()), std::pair(std::string("d.brouillon"), ligne));
+            EXPECT_EQ(std::pair(faute.fichier(), faute.ligne()),
+                      std::pair(std::string("d.brouillon"), ligne));
         }
 }
 
@@ -71,7 +72,7 @@ class HeldDraftTest : public testing::Test, protected CorpusDEssai {
         c.Entretiens[1].Fichier = "a.wav", c.Entretiens[2].Fichier = "b.wav";
     }
     void garder(const Utf8& texte) {
-        Brouillon brouillon = nouveauBrouillon(session, hote.horloge, 2, "extrait");
+        Brouillon brouillon = nouveauBrouillon(session, 2, "extrait");
         brouillon.texte = texte;
         tenu->garder(brouillon, [this](const Utf8& faute) { fautes.push_back(faute); });
     }

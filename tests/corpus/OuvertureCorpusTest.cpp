@@ -30,6 +30,26 @@ TEST(Opening, ReadsWhatIsThere) {
     EXPECT_EQ(essai.corpus().HauteurEntretien, 400) << "a height that was chosen stays";
 }
 
+TEST(Opening, TellsInOneBoxEachWhatIsMissingAndWhatLeavesTheDirectory) {
+    CorpusDEssai essai;
+    essai.ajouterEntretien("a", ENTETE);
+    essai.dossier().ecrire("secret.wav", "");
+    std::string lignes = "../secret.wav\r\na.wav\r\n.\r\n";
+    for (int i = 1; i <= 1000; ++i)
+        lignes += "m" + std::to_string(i) + ".wav\r\n";
+    essai.ecrireCorpus(PAS, lignes);
+    essai.dialogues()
+        .repondre(Reponse::Ok, "dans Essai.Crp :\n\nligne 10 : ../secret.wav\nligne 12 : .")
+        .repondre(Reponse::Ok,
+                  "1000 fichiers sont introuvables.\nIls ne seront pas ajoutés au projet.\n\nm1.wav\n");
+    ASSERT_TRUE(essai.ouvrir());
+    EXPECT_NE(essai.dialogues().dernier().find("m20.wav\\net 980 de plus|"), std::string::npos);
+    EXPECT_EQ(ordre(essai.corpus()), "a.wav ");
+    for (int i = 1; i <= 1000; ++i)
+        essai.dossier().ecrire("c/m" + std::to_string(i) + ".wav", "");
+    EXPECT_THROW(lireEntretiens(essai.session, essai.hote), FauteExecution) << "now they exist";
+}
+
 TEST(Opening, RefusesWhatItCannotRead) {
     const std::string ouverture = "|Impossible de trouver la balise d'ouverture des ";
     const std::pair<std::string, std::string> cas[] = {
@@ -111,6 +131,7 @@ TEST_F(Import, AsksForTheFormatThatIsntTheLightest) {
         entete.NbCanaux = canaux, entete.BitsParEchantillon = bits;
         EXPECT_EQ(demanderFormat(entete, hote), ChoixFormat::Garder);
     }
+    EXPECT_NE(hote.dialogues.dernier().find("|OuiNonAnnuler:Non|"), std::string::npos) << "no converter";
     const Utf8 chemin = hote.dossier.ecrire("donnees/Convertisseur.exe", "");
     lancerConvertisseur(hote);
     EXPECT_EQ(hote.lanceur.lances, std::vector<Utf8>{chemin});
@@ -121,7 +142,7 @@ TEST_F(Import, CopiesAfterAYesAndTellsACopyThatFails) {
     const Utf8 ailleurs = hote.dossier.ecrire("ailleurs/LA.wav", "neuf");
     hote.media.URL(hote.dossier.chemin("c/la.wav"));
     hote.dialogues.repondre(Reponse::Ok).repondre(Reponse::Oui).repondre(Reponse::Ok);
-    EXPECT_TRUE(apporterDansCorpus(session, hote, ailleurs));
+    EXPECT_EQ(apporterDansCorpus(session, hote, ailleurs), "la.wav") << "the file that is there";
     EXPECT_EQ(hote.dossier.lire("c/la.wav"), "neuf");
     EXPECT_EQ(hote.media.URL(), "");
     EXPECT_EQ(hote.dialogues.dernier(),
@@ -138,11 +159,32 @@ TEST_F(Import, CopiesAfterAYesAndTellsACopyThatFails) {
     EXPECT_LE(hote.progression.patience, 0);
 }
 
+TEST_F(Import, NeverMakesTwoInterviewsWithTheSameCompanions) {
+    session.corpus.Entretiens.emplace_back().Fichier = "b.wav";
+    for (const char* nom :
+         {"c/b.wav", "c/b.mp3", "c/B.WAV", "c/B 2.Rtr", "c/É.wav", "ailleurs/B.mp3", "ailleurs/e\u0301.wav"})
+        hote.dossier.ecrire(nom, "son");
+    const std::tuple<Utf8, std::vector<std::pair<Reponse, Utf8>>, std::optional<Texte>> cas[] = {
+        {"c/b.mp3", {{Reponse::Ok, "b.mp3 ne peut pas être ajouté"}}, {}},
+        {"c/B.WAV", {{Reponse::Ok, "celle de l'entretien b.wav"}}, {}},
+        {"ailleurs/B.mp3", {{Reponse::Ok, ""}, {Reponse::Non, "sous le nom B 3.mp3"}}, {}},
+        {"ailleurs/B.mp3",
+         {{Reponse::Ok, ""}, {Reponse::Oui, "de l'entretien b.wav"}, {Reponse::Ok, ""}},
+         "B 3.mp3"},
+        {"ailleurs/e\u0301.wav", {{Reponse::Ok, ""}, {Reponse::Non, "(É.wav ) existe"}}, "\xC9.wav"}};
+    for (const auto& [chemin, reponses, nom] : cas) {
+        for (const auto& [reponse, extrait] : reponses)
+            hote.dialogues.repondre(reponse, extrait);
+        EXPECT_EQ(apporterDansCorpus(session, hote, hote.dossier.chemin(chemin)), nom) << chemin;
+    }
+    EXPECT_EQ(hote.dossier.lire("c/B 3.mp3"), "son");
+}
+
 TEST_F(Import, KeepsATranscriptAndRefusesWhatCannotStandInTheList) {
     ajouterEntretien(session, "la.wav", 12.5);
     hote.dossier.ecrire("c/la.Rtr", "gardee");
     EXPECT_FALSE(retranscriptionACreer(session, 1));
-    for (const char* nom : {"/x/łódź.wav", "/x/a\rb.wav"})
+    for (const char* nom : {"/x/łódź.wav", "/x/a\rb.wav", "/x/a\\b.wav"})
         EXPECT_THROW(nomImporte(nom), FauteExecution);
     hote.dialogues.repondre(Reponse::Ok, "Le fichier la.wav est déjà présent dans le projet.");
     EXPECT_TRUE(!dejaDansCorpus(session, hote, "LA.wav") && dejaDansCorpus(session, hote, "la.wav"));

@@ -16,6 +16,21 @@ const std::string CORPUS =
                "001,255,Famille, enfance\r\n>|THEM|\r\n<|POS|\r\n4,Profession\r\n>|POS|\r\n<|DIC|\r\n"
                "4,1,Enseignant, chercheur\r\n>|DIC|\r\n<|ENTR|\r\na.wav\r\n>|ENTR|\r\n");
 
+/// As an editor of another system leaves it.
+std::string enLf(std::string octets) {
+    std::erase(octets, '\r');
+    return octets;
+}
+
+TEST(CorpusFile, OfAnotherSystemsEditorIsReadWholeAndRewrittenInItsNormalForm) {
+    const std::vector<Thematique> rangs = {{"001", "255", "Un"}};
+    EXPECT_EQ(lireThematiques(enLf(CORPUS), ""), lireThematiques(CORPUS, ""));
+    EXPECT_EQ(lireEntretiens(enLf(CORPUS)), lireEntretiens(CORPUS));
+    EXPECT_EQ(ecrireThematiques(enLf(CORPUS), rangs), ecrireThematiques(CORPUS, rangs));
+    EXPECT_EQ(ecrireEntretiens(enLf(CORPUS), {"b.wav"}), ecrireEntretiens(CORPUS, {"b.wav"}));
+    EXPECT_EQ(ecrireEntretiens("<|ENTR|\r>|ENTR|\ra\nb", {}), "<|ENTR|\r\n>|ENTR|\r\n\"a\nb\"\r\n");
+}
+
 TEST(CorpusFile, ReadsItsFourSections) {
     using Textes = std::vector<Texte>;
     EXPECT_EQ(lireThematiques(CORPUS, "c.Crp"),
@@ -101,12 +116,19 @@ TEST(CorpusFile, RewritingInterviewsQuotesWhatFollows) {
     EXPECT_EQ(lireEntretiens(ecrit), (std::vector<Texte>{"a, b.wav", "\"c\".mp3"}));
     EXPECT_EQ(ecrireEntretiens("<|ENTR|\r\na.wav", {"b.wav"}), "<|ENTR|\r\nb.wav\r\n>|ENTR|\r\n");
     EXPECT_FALSE(ecrireEntretiens("", {"a.wav"}));
+    const auto liste = [](const std::string& noms) { return "<|ENTR|\r\n" + noms + ">|ENTR|\r\n"; };
+    const std::string ancienne = liste("/etc/x\r\na.wav\r\n\r\n..\r\nb..wav\r\nc\\d.wav\r\n");
+    EXPECT_EQ(ecrireEntretiens(ancienne, {"b..wav", "a.wav"}),
+              liste("/etc/x\r\nb..wav\r\n..\r\na.wav\r\nc\\d.wav\r\n"));
+    EXPECT_EQ(ecrireEntretiens(ancienne, {}), liste("/etc/x\r\n..\r\nc\\d.wav\r\n"));
 }
 
 TEST(RecentFile, IsReadByItemsAndKeepsTheOthers) {
     const auto lus = projets::lire("/a/\xE9t\xE9.Crp\r\n\r\n\"/b, c.Crp\"\r\n/d,/e\r/a/\xE9t\xE9.Crp");
     EXPECT_EQ(lus, (std::vector<Utf8>{"/a/été.Crp", "/b, c.Crp", "/d", "/e", "/a/été.Crp"}));
-    EXPECT_EQ(projets::ecrire("/a/été.Crp", lus), "/a/\xE9t\xE9.Crp\r\n/b, c.Crp\r\n/d\r\n/e\r\n");
+    EXPECT_EQ(projets::lire("/a.Crp\n\n\"/b, c.Crp\""), (std::vector<Utf8>{"/a.Crp", "/b, c.Crp"}));
+    for (const char* chemin : {"/a/été.Crp", "/a/e\u0301te\u0301.Crp"})
+        EXPECT_EQ(projets::ecrire(chemin, lus), "/a/\xE9t\xE9.Crp\r\n/b, c.Crp\r\n/d\r\n/e\r\n");
     EXPECT_THROW(projets::ecrire("/中.Crp", {}), FauteExecution);
 }
 

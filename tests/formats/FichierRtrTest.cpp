@@ -72,6 +72,30 @@ TEST(TranscriptFile, RewritesItsHeaderAndLeavesTheLinesOfNoSection) {
         EXPECT_EQ(reecrireEnTete(octets(avant), "", POINT), octets(apres)) << avant;
 }
 
+TEST(TranscriptFile, OfAnotherSystemsEditorIsReadWholeAndRewrittenInItsNormalForm) {
+    std::string lf = EXEMPLE;
+    std::erase(lf, '\r');
+    const Lecture lecture = lire(lf, "");
+    EXPECT_NO_THROW(verifier(lf, lecture, "", POINT));
+    EXPECT_EQ(lecture.extraits, lire(EXEMPLE, "").extraits);
+    EXPECT_EQ(lecture.enTete, TETE);
+    EXPECT_EQ(lireAttributs(lf, ""), lireAttributs(EXEMPLE, ""));
+    const Extrait nouvel{"11.00", "12.00", "002", "un\rdeux\r"};
+    EXPECT_EQ(inserer(lf, nouvel, 11, POINT, ""), inserer(EXEMPLE, nouvel, 11, POINT, ""));
+}
+
+TEST(TranscriptFile, RefusesEveryTextThatItCouldNotReadBack) {
+    for (const Texte& texte : {Texte("a ::b"), Texte("a\rb\0", 4)}) {
+        const Extrait extrait{"1", "2", "000", texte};
+        EXPECT_THROW(exigerTexte(texte, "Les observations"), FauteExecution) << texte;
+        EXPECT_THROW(ecrireApres({}, {{}, extrait}, {}, POINT), FauteExecution) << texte;
+        EXPECT_THROW(inserer(EXEMPLE, extrait, 1, POINT, ""), FauteExecution) << texte;
+        EXPECT_THROW(creerAvec(60, extrait, POINT), FauteExecution) << texte;
+    }
+    EXPECT_THROW(creerAvec(60, {"1", "2", "0\r0", "a : b:"}, POINT), FauteExecution);
+    EXPECT_NO_THROW(ecrireApres({}, {{}, {"1", "2", "001 Ici::et", "a : b:"}}, {}, POINT));
+}
+
 TEST(TranscriptFile, WritesRoundedTimesAndTheChosenExtracts) {
     const std::vector<Extrait> extraits = {{},
                                            {"-0.5", "1", "000", ""},
@@ -124,7 +148,10 @@ TEST(TranscriptFile, RefusesWithTheLineAndKeepsWhatIsRead) {
         {"1\r\n<|ATTR|\r\n1\r\n>|ATTR|\r\n", 3, 0},
         {"1\r\n::1.00::000\r\ntexte\r\n", 2, 1},
         {"1\r\n:: ::000\r\n::2.00::\r\n", 2, 1},
-        {"1\r\n::1.00::000\r\n::fin::\r\n", 3, 1}};
+        {"1\r\n::1.00::000\r\n::fin::\r\n", 3, 1},
+        {"1" + std::string(39, ' ') + "\r\n", 0, 0},
+        {"1" + std::string(40, ' ') + "\r\n", 1, 0},
+        {"1\r\n::1.00::000\r\n::" + std::string(900000, '1') + "::\r\n", 3, 1}};
     for (const auto& [octets, ligne, lus] : cas) {
         Lecture lecture;
         std::size_t fautive = 0;
@@ -134,6 +161,7 @@ TEST(TranscriptFile, RefusesWithTheLineAndKeepsWhatIsRead) {
         } catch (const FauteExecution& faute) {
             EXPECT_EQ(faute.fichier(), "a.Rtr");
             fautive = faute.ligne();
+            EXPECT_LT(faute.quoi().size(), 200U);
         }
         EXPECT_EQ(fautive, ligne) << octets.substr(0, 60);
         EXPECT_EQ(lecture.extraits.size(), lus + 1) << octets.substr(0, 60);

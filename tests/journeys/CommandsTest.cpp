@@ -21,6 +21,7 @@ void poserFichiers(Programme& p) {
         dossier.ecrire(nom, STEREO);
     dossier.ecrire("d/F.Crp", std::string(TETE) + "x.wav\r\n>|ENTR|\r\n");
     dossier.ecrire("d/x.wav", MONO);
+    dossier.ecrire("ailleurs/e.mp3", "son");
     dossier.ecrire("d/x.Rtr", RTR);
     dossier.ecrire("donnees/Vermo de Vermo.mp3", "son");
     p.hote.media.durees = {{"nul.wav", 0}, {"été.wav", 75.5}};
@@ -50,6 +51,10 @@ TEST(CommandsTest, OfTheMenus) {
 
 TEST(CommandsTest, OfTheStartWindow) {
     couvrir("FrmIntro", FrmIntro::commandes(), jouerTable("journeys/accueil.gestes", avec("ab", "")));
+}
+
+TEST(LooksTest, OfEachWindow) {
+    jouerTable("journeys/vues.gestes", avec("abc", ""));
 }
 
 TEST(RefusalsTest, LeaveEverythingAsItWas) {

@@ -1,12 +1,10 @@
 // Every window of the program, at two sizes of the screen: what shows lies where it can be seen and hit, and
-// is named and drawn.
+// is named.
 #include "Programme.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAccessible>
-#include <QApplication>
-#include <QFrame>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -41,17 +39,6 @@ bool prendLaSouris(const QWidget& controle) {
            (deCommande(controle) || qobject_cast<const Toile*>(&controle));
 }
 
-bool blanche(QWidget& controle) {
-    constexpr int BORD = 4; // pixels, of the halo and the focus ring
-    const QImage image = controle.grab(controle.rect().adjusted(BORD, BORD, -BORD, -BORD))
-                             .toImage()
-                             .convertToFormat(QImage::Format_RGB32);
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (image.pixel(x, y) != image.pixel(0, 0)) return false;
-    return true;
-}
-
 /// What is wrong with the visible controls of one window, one line each.
 class Defauts {
   public:
@@ -73,7 +60,6 @@ class Defauts {
         if (!controle.parentWidget()->rect().contains(controle.geometry())) noter(controle, "sticks out");
         const QString nom = QAccessible::queryAccessibleInterface(&controle)->text(QAccessible::Name);
         if (nom.trimmed().isEmpty() || nom == controle.objectName()) noter(controle, "has no name");
-        if (qobject_cast<BoutonImage*>(&controle) && blanche(controle)) noter(controle, "is blank");
     }
     /// With the siblings that lie over it.
     void comparer(const QWidget& controle) {
@@ -107,7 +93,7 @@ void ouvrir(Programme& programme, Fenetre fenetre, Panneau panneau) {
     programme.faire("clic lbl_thm"); // the panel comes out
 }
 
-TEST(Forms, EveryControlIsSeenNamedDrawnAndApart) {
+TEST(Forms, EveryControlIsSeenNamedAndApart) {
     std::set<std::string> fautes;
     for (const QSize taille : {QSize(1280, 720), QSize(1920, 1080)}) {
         Programme programme("a");

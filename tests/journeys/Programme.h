@@ -72,14 +72,9 @@ class Programme : public Scene {
   private:
     void nommerVerbes();
     std::string fenetresEnVue();
-    std::string icone(const char* nom);
     std::string etatDeLaSession();
     void releverCorpus(Releve& releve) const;
     void releverFrmCorpus(Releve& releve);
-    template <class T = QWidget>
-    T& duCorpus(const char* nom) {
-        return *forme("FrmCorpus").findChild<T*>(QLatin1String(nom));
-    }
 
     Releve vue_; ///< what FrmCorpus showed when it was last on the screen
     Session connue_;
@@ -107,27 +102,18 @@ inline void Programme::nommerVerbes() {
     };
 }
 
-/// Which of the icons the button shows.
-inline std::string Programme::icone(const char* nom) {
-    auto& bouton = duCorpus<BoutonImage>(nom);
-    for (const char* essai : {"ImgOn", "ImgOff", "Taille0", "Taille1"}) {
-        BoutonImage temoin({}, QString::fromLatin1(essai), {}, bouton.parentWidget());
-        temoin.resize(bouton.size());
-        if (temoin.grab().toImage() == bouton.grab().toImage()) return essai;
-    }
-    return "?";
-}
-
-/// "-" where a window takes no input, "_" minimised; FrmVisu with its opacity, FrmMenu with its panel.
+/// "-" where a window takes no input, "_" minimised; those over FrmCorpus with their opacity, FrmMenu with
+/// its panel and place.
 inline std::string Programme::fenetresEnVue() {
     std::string suite;
     for (const Forme* f : formes()) {
         std::string vue = f->objectName().toStdString();
         vue += f->isMinimized() ? "_" : f->isEnabled() ? "" : "-";
-        if (vue.starts_with("FrmVisu")) vue += ":" + std::to_string(std::lround(255 * f->windowOpacity()));
+        if (f->objectName() != QLatin1String("FrmCorpus"))
+            vue += ":" + std::to_string(std::lround(255 * f->windowOpacity()));
         for (const QWidget* panneau : f->findChildren<QFrame*>())
             if (panneau->isVisible() && panneau->objectName().startsWith(QLatin1String("FrmMnu")))
-                vue += ":" + panneau->objectName().toStdString();
+                vue += ":" + panneau->objectName().toStdString() + " at " + enTexte(f->geometry());
         suite = vue + (suite.empty() ? "" : " ") + suite;
     }
     return suite;
@@ -151,15 +137,9 @@ inline void Programme::releverCorpus(Releve& releve) const {
 }
 
 inline void Programme::releverFrmCorpus(Releve& releve) {
-    for (const char* nom : {"etq0", "etq1"})
-        releve[nom] = duCorpus<QLabel>(nom).text().section(QLatin1Char(' '), 2).toStdString();
-    for (const char* nom : {"ImgOnOffent", "ImgOnOffthm0", "Imgbtn3"})
-        releve[nom] = icone(nom);
-    for (const char* nom : {"PictTps", "LblScroll", "LblVide"})
-        releve[nom] = duCorpus(nom).isVisible() ? "oui" : "non";
-    releve["jauge"] = duCorpus("PictVol").toolTip().toStdString();
-    releve["rangs"].clear();
-    for (const Element& rang : duCorpus<Toile>("Frm_entretiens").elements())
+    Forme& corpus = forme("FrmCorpus");
+    releverControles(releve, corpus);
+    for (const Element& rang : corpus.findChild<Toile*>(QStringLiteral("Frm_entretiens"))->elements())
         if (rang.controle == Controle::lblfich) releve["rangs"] += lisible(rang.texte);
 }
 
@@ -179,10 +159,11 @@ inline Releve Programme::relever() {
     releve["lecteur"] = vermo::nomDe(hote.media.URL()) + (hote.media.enLecture() ? " joue" : "");
     releve["pointeur"] = std::to_string(static_cast<int>(hote.ecran.pointeurCourant));
     releve["fenetres"] = fenetresEnVue();
+    releve["bulle"] = bulle;
     releve["fini"] = fini ? "oui" : "non";
     releverCorpus(releve);
     releverDisque(releve, hote.dossier);
-    if (app.visible(Fenetre::FrmCorpus)) releverFrmCorpus(vue_);
+    if (app.visible(Fenetre::FrmCorpus)) releverFrmCorpus(vue_ = {});
     releve.merge(Releve(vue_));
     return releve;
 }

@@ -63,10 +63,12 @@ TEST_F(HotePlateformeTest, BoxesAreFrenchAndEscapeNeverAgrees) {
         Boutons boutons;
         std::string affiches;
         Reponse entree, echappe;
+        std::optional<Reponse> defaut = {};
     } cas[] = {
         {Boutons::Ok, "OK ", Reponse::Ok, Reponse::Ok},
         {Boutons::OuiNon, "Oui Non ", Reponse::Oui, Reponse::Non},
         {Boutons::OuiNonAnnuler, "Oui Non Annuler ", Reponse::Oui, Reponse::Annuler},
+        {Boutons::OuiNonAnnuler, "Oui Non Annuler ", Reponse::Non, Reponse::Annuler, Reponse::Non},
     };
     hote.plateforme().ecran.pointeur(Pointeur::Sablier);
     for (const auto& c : cas) {
@@ -78,7 +80,8 @@ TEST_F(HotePlateformeTest, BoxesAreFrenchAndEscapeNeverAgrees) {
                                QTest::keyClick(&boite, Qt::Key_Return);
                            },
                            [](QDialog& boite) { QTest::keyClick(&boite, Qt::Key_Escape); }});
-        EXPECT_EQ(dialogues.demander({"L'été <b>\nest là.", {}, c.boutons}), c.entree);
+        EXPECT_EQ(dialogues.demander({"L'été <b>\nest là.", {}, c.boutons, Icone::Aucune, c.defaut}),
+                  c.entree);
         EXPECT_EQ(dialogues.demander({"?", "Titre", c.boutons}), c.echappe);
     }
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);

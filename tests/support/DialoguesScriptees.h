@@ -12,7 +12,7 @@ namespace vermo::essai {
 /// answer that nobody used, fail the test.
 ///
 /// Each question leaves one line in the journal, line ends inside its text written "\n":
-///     "Vermo|Supprimer cet extrait?|OuiNon|Question -> Oui"
+///     "Vermo|Supprimer cet extrait?|OuiNon|Question -> Oui", "OuiNon:Non" where Enter says Non
 ///     "fichier|Ouvrir|Fichier projet|*.Crp|ouvrir -> /chemin/a.Crp"
 class DialoguesScriptees : public Dialogues {
   public:
@@ -42,7 +42,8 @@ class DialoguesScriptees : public Dialogues {
     Reponse demander(const Message& message) override {
         constexpr const char* boutons[] = {"Ok", "OkAnnuler", "OuiNon", "OuiNonAnnuler"};
         constexpr const char* icones[] = {"Aucune", "Information", "Exclamation", "Question", "Critique"};
-        const std::string offertes = boutons[static_cast<int>(message.boutons)];
+        const std::string offertes = boutons[static_cast<int>(message.boutons)] +
+                                     (message.defaut ? ":" + std::string(nom(*message.defaut)) : "");
         const std::string question = message.titre + "|" + message.texte + "|" + offertes + "|" +
                                      icones[static_cast<int>(message.icone)];
         const Prevue prevue = prochaine(false, question, parDefaut(message.boutons));

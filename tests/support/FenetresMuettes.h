@@ -27,11 +27,10 @@ class FenetresMuettes : public Fenetres {
     bool entamee(Fenetre) const override { return enSaisie; }
     void finir() override { noter("finir"); }
     void annoncer(const Avis& avis) override {
-        constexpr const char* SUJETS[] = {"Thematiques", "Bascules",  "Entretiens",
-                                          "Extraits",    "Attributs", "Volume", "TexteAbandonne"};
+        constexpr const char* SUJETS[] = {"Thematiques", "Bascules", "Entretiens",    "Extraits",
+                                          "Attributs",   "Volume",   "TexteAbandonne"};
         noter(std::string("annoncer ") + SUJETS[static_cast<int>(avis.sujet)]);
     }
-    void reprendreTexte() override { noter("reprendreTexte"); }
     bool texteAbandonne() const override { return abandonne; }
     void NouveauCorpus() override { noter("NouveauCorpus"); }
     void OuvrirCorpus() override { noter("OuvrirCorpus"); }
@@ -57,6 +56,7 @@ class FenetresMuettes : public Fenetres {
                (v.ouverture == Ouverture::AvecFondu ? " AvecFondu" : " SansFondu");
     }
     static std::string dit(NouvelExtraitVoulu) { return " nouvel extrait"; }
+    static std::string dit(TexteAbandonneVoulu) { return " texte abandonné"; }
     static std::string dit(const ExtraitVoulu& v) { return " extrait " + std::to_string(v.numero); }
     void noter(std::string ligne) { journal_.push_back(std::move(ligne)); }
 

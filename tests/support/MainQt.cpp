@@ -9,6 +9,7 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
+    QApplication::setCursorFlashTime(0);
     std::setlocale(LC_NUMERIC, "C");
     vermo::theme::appliquer(application);
     return RUN_ALL_TESTS();

@@ -2,11 +2,15 @@
 #include "support/FenetresMuettes.h"
 #include "support/Pannes.h"
 #include "support/Releve.h"
+#include "support/Temoins.h"
+#include "window/ui/ToileDefilante.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QPainter>
 #include <QPointer>
 #include <QTest>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <cerrno>
 #include <functional>
@@ -28,8 +32,9 @@ class Scene {
     PlateformeDeTest hote;
     FenetresMuettes fenetres;
     Essais essais;
+    std::string bulle;                                                     ///< what the mouse asked about
     std::map<std::string, std::function<void(const std::string&)>> verbes; ///< a test may add its own
-    std::set<std::string> montres, colores; ///< items whose place, or colour, the report tells
+    std::set<std::string> montres; ///< items whose place the report tells
 
     Scene();
     virtual ~Scene() = default;
@@ -59,15 +64,23 @@ class Scene {
     }
     /// All that `gestes` change, "nom=valeur" by name.
     std::string effetDe(const std::string& gestes) {
+        reposer();
         fenetres.effacerJournal();
         dits_ = hote.dialogues.journal().size();
         const Releve avant = relever();
         faire(gestes);
-        return remplacer(difference(avant, relever()), hote.dossier.chemin(), "");
+        const std::string effet = remplacer(difference(avant, relever()), hote.dossier.chemin(), "");
+        reposer();
+        for (Forme* forme : formes())
+            comparerAuDessin(*forme);
+        return effet;
     }
+    /// What waits is done, but for the timers.
+    static void reposer() { QCoreApplication::processEvents(QEventLoop::X11ExcludeTimers); }
 
   private:
     void agir(const std::string& verbe, const std::string& quoi) {
+        reposer();
         const auto action = verbes.find(verbe);
         if (action == verbes.end()) throw std::runtime_error("no such gesture: " + verbe);
         for (const Forme* forme : formes())
@@ -77,6 +90,30 @@ class Scene {
                     essais.offerts[forme->objectName().toStdString()].insert(c->objectName().toStdString());
         action->second(quoi);
         QCoreApplication::sendPostedEvents(&boucle_); // a person's next gesture comes later
+    }
+
+    /// Without the texts that name the test's directory.
+    void photographier(const std::string& nom) {
+        QImage vue = enVue(fenetre());
+        QPainter peintre(&vue);
+        for (const auto* c : fenetre().findChildren<QWidget*>())
+            if (enTexte(c->property("text")).find(hote.dossier.chemin()) != std::string::npos)
+                peintre.fillRect(QRect(c->mapTo(&fenetre(), QPoint()), c->size()), Qt::black);
+        peintre.end();
+        comparerPhoto(nom, vue);
+    }
+    /// Nothing is left on the screen that a whole painting wouldn't show.
+    static void comparerAuDessin(Forme& forme) {
+        if (!forme.updatesEnabled()) return;
+        const QImage vue = enVue(forme), entiere = forme.grab().toImage().convertToFormat(vue.format());
+        EXPECT_TRUE(vue == entiere) << forme.objectName().toStdString() << " shows what has passed";
+        for (auto* toile : forme.findChildren<ToileDefilante*>()) {
+            QImage neuve(toile->size(), QImage::Format_RGB32);
+            QPainter peintre(&neuve);
+            toile->peindre(peintre, toile->rect());
+            EXPECT_TRUE(toile->grab().toImage().convertToFormat(neuve.format()) == neuve)
+                << "kept of a picture";
+        }
     }
 
     QPoint place(const QWidget& controle, const std::string& ou) {
@@ -121,14 +158,29 @@ class Scene {
         const auto [cible, point] = viser(ou);
         souris(type, *cible, point);
     }
-    void glisser(const std::string& ou) {
+    static void entrer(QWidget& cible, bool dedans) {
+        const QPointF ici = cible.rect().center();
+        QEnterEvent entree(ici, ici, cible.mapToGlobal(ici));
+        QEvent sortie(QEvent::Leave);
+        QApplication::sendEvent(&cible, dedans ? static_cast<QEvent*>(&entree) : &sortie);
+        QHoverEvent survol(dedans ? QEvent::HoverEnter : QEvent::HoverLeave, ici, cible.mapToGlobal(ici),
+                           ici);
+        QApplication::sendEvent(&cible, &survol);
+    }
+    void demanderBulle(const std::string& ou) {
+        const auto [cible, point] = viser(ou);
+        QHelpEvent demande(QEvent::ToolTip, point, cible->mapToGlobal(point));
+        QApplication::sendEvent(cible, &demande);
+        bulle = QToolTip::isVisible() ? QToolTip::text().toStdString() : "";
+    }
+    void glisser(const std::string& ou, bool lacher = true) {
         const auto bouts = couper(ou, ">");
         const auto [cible, de] = viser(bouts.at(0));
         const QPoint a = place(*cible, bouts.at(1));
         souris(QEvent::MouseButtonPress, *cible, de, Qt::LeftButton);
         for (const QPoint& point : {(de + a) / 2, a})
             souris(QEvent::MouseMove, *cible, point, Qt::LeftButton);
-        souris(QEvent::MouseButtonRelease, *cible, a);
+        if (lacher) souris(QEvent::MouseButtonRelease, *cible, a);
     }
     void rouler(const std::string& ou) {
         const auto mots = couper(ou, " ");
@@ -187,38 +239,48 @@ inline Scene::Scene() {
     };
     hote.annonces.surAvis = [this](const Avis& avis) { fenetres.annoncer(avis); };
     using S = const std::string&;
-    verbes = {{"clic", [this](S ou) { cliquer(ou); }},
-              {"droit", [this](S ou) { cliquer(ou, Qt::RightButton); }},
-              {"double", [this](S ou) { signaler(QEvent::MouseButtonDblClick, ou); }},
-              {"survole", [this](S ou) { signaler(QEvent::MouseMove, ou); }},
-              {"glisse", [this](S ou) { glisser(ou); }},
-              {"roule", [this](S ou) { rouler(ou); }},
-              {"focus", [this](S nom) { attirer(nom); }},
-              {"touche", [this](S touche) { presser(touche); }},
-              {"tape", [this](S texte) { ecrire(QString::fromStdString(texte)); }},
-              {"colle", [this](S texte) { coller(texte); }},
-              {"position", [this](S secondes) { hote.media.currentPosition(std::stod(secondes)); }},
-              {"ecoule", [this](S secondes) { hote.media.avancer(std::stod(secondes)); }},
-              {"pause", [this](S) { hote.media.pause(); }},
-              {"attend", [](S) { QApplication::processEvents(); }},
-              {"sourd", [this](S) { hote.media.sansSon = true; }},
-              {"volume", [this](S part) { session.audio.VolumeLecture = std::stof(part); }},
-              {"panne",
-               [this](S) {
-                   panne_ = std::make_unique<Pannes>(Panne{1, ENOSPC, "write", true});
-               }},
-              {"perdre", [this](S nom) { std::filesystem::remove(hote.dossier.chemin(nom)); }},
-              {"muer",
-               [this](S nom) {
-                   std::filesystem::remove(hote.dossier.chemin(nom));
-                   std::filesystem::create_directory(hote.dossier.chemin(nom));
-               }},
-              {"repondre", [this](S reponse) { repondre(reponse); }}};
+    verbes = {
+        {"clic", [this](S ou) { cliquer(ou); }},
+        {"droit", [this](S ou) { cliquer(ou, Qt::RightButton); }},
+        {"double", [this](S ou) { signaler(QEvent::MouseButtonDblClick, ou); }},
+        {"survole", [this](S ou) { signaler(QEvent::MouseMove, ou); }},
+        {"glisse", [this](S ou) { glisser(ou); }},
+        {"roule", [this](S ou) { rouler(ou); }},
+        {"focus", [this](S nom) { attirer(nom); }},
+        {"touche", [this](S touche) { presser(touche); }},
+        {"tape", [this](S texte) { ecrire(QString::fromStdString(texte)); }},
+        {"colle", [this](S texte) { coller(texte); }},
+        {"position", [this](S secondes) { hote.media.currentPosition(std::stod(secondes)); }},
+        {"ecoule", [this](S secondes) { hote.media.avancer(std::stod(secondes)); }},
+        {"pause", [this](S) { hote.media.pause(); }},
+        {"attend", [](S) { QApplication::processEvents(); }},
+        {"photo", [this](S nom) { photographier(nom); }},
+        {"fiche",
+         [this](S nom) { comparerFiche(nom, remplacer(ficheDe(fenetre()), hote.dossier.chemin(), "")); }},
+        {"tic", [this](S nom) { QMetaObject::invokeMethod(&controle<QTimer>(nom), "timeout"); }},
+        {"entre", [this](S nom) { entrer(controle(nom), true); }},
+        {"sort", [this](S nom) { entrer(controle(nom), false); }},
+        {"tient", [this](S ou) { glisser(ou, false); }},
+        {"bulle", [this](S ou) { demanderBulle(ou); }},
+        {"sourd", [this](S) { hote.media.sansSon = true; }},
+        {"volume", [this](S part) { session.audio.VolumeLecture = std::stof(part); }},
+        {"panne",
+         [this](S) {
+             panne_ = std::make_unique<Pannes>(Panne{1, ENOSPC, "write", true});
+         }},
+        {"perdre", [this](S nom) { std::filesystem::remove(hote.dossier.chemin(nom)); }},
+        {"muer",
+         [this](S nom) {
+             std::filesystem::remove(hote.dossier.chemin(nom));
+             std::filesystem::create_directory(hote.dossier.chemin(nom));
+         }},
+        {"repondre", [this](S reponse) { repondre(reponse); }}};
 }
 
 inline Releve Scene::relever() {
     Releve releve;
     releverLecteur(releve, hote.media);
+    releve["bulle"] = bulle;
     releve["focus"] = fenetre().focusWidget() ? fenetre().focusWidget()->objectName().toStdString() : "";
     for (const std::string& demande : fenetres.journal())
         releve["demande"] += (releve["demande"].empty() ? "" : ", ") + demande;
@@ -228,7 +290,7 @@ inline Releve Scene::relever() {
     releverDisque(releve, hote.dossier);
     releverControles(releve, fenetre());
     for (auto* toile : fenetre().findChildren<Toile*>())
-        releverToile(releve, *toile, montres, colores);
+        releverToile(releve, *toile, montres);
     return releve;
 }
 

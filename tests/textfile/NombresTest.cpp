@@ -88,7 +88,8 @@ TEST(Numbers, AreWritten) {
     EXPECT_EQ(tous({2.5, -2.5, .4}, formatEntier) + formatCode(0) + formatCode(42) + formatCode(1000),
               "3|-3|0|0000421000");
     const auto arrondie = [](double v) { return std::to_string(arrondi(v)); };
-    EXPECT_EQ(tous({.5, 1.5, 2.5, -.5, -1.5, 2.500001, -2.4, std::nan("")}, arrondie), "0|2|2|0|-2|3|-2|0|");
+    EXPECT_EQ(tous({.5, 1.5, 2.5, -.5, -1.5, 2.500001, -2.4, std::nan(""), 1e300, -1e19}, arrondie),
+              "0|2|2|0|-2|3|-2|0|1000000000000000000|-1000000000000000000|");
     EXPECT_EQ(tous({0, 59, 59.5, 60.5, 425, 3599.4, 3600, 3725, 36000, 360000}, HeureTexte),
               "00:00|00:59|01:00|01:00|07:05|59:59|1:00:00|1:02:05|10:00:00|100:00:00|");
 }

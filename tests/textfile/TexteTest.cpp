@@ -50,6 +50,8 @@ TEST(Pieces, LinesAndItems) {
         {"a\r\r\n\rb\r", "a|||b|"},
         {"a\nb\r\n", "a\nb|"},
         {"a\r\n\n", "a|\n|"},
+        {"a\n\nb\n", "a||b|"},
+        {"\na\tb", "|a\tb|"},
         {"fin", "fin|"},
         {std::string("a\0b\r\n", 5), std::string("a\0b|", 4)}};
     for (const auto& [texte, attendus] : lignes)
@@ -75,10 +77,10 @@ TEST(Paths, Parts) {
     EXPECT_EQ(extension3("x.Wav") + extension3("abc") + extension3("ab"), "WAVABCAB");
 }
 
-TEST(Paths, AreFoundWhateverTheirCase) {
+TEST(Paths, AreFoundWhateverTheirCaseAndAccents) {
     const DossierTemporaire dossier;
-    for (const char* nom :
-         {"Entretien Été.WAV", "a.rtr", "A.Rtr", "a.rtR", "B.wav", "b.wav", "sous/C.wav", "日\xE9.Rtr"})
+    for (const char* nom : {"Entretien Été.WAV", "a.rtr", "A.Rtr", "a.rtR", "B.wav", "b.wav", "sous/C.wav",
+                            "日\xE9.Rtr", "Re\u0301el/Garc\u0327on.wav"})
         dossier.ecrire(nom, "");
     const std::pair<std::string, std::string> cas[] = {{"entretien éTÉ.wav", "Entretien Été.WAV"},
                                                        {"a.rtr", "a.rtr"},
@@ -86,6 +88,8 @@ TEST(Paths, AreFoundWhateverTheirCase) {
                                                        {"b.WAV", "B.wav"},
                                                        {"sous/c.wav", "sous/C.wav"},
                                                        {"日\xE9.RTR", "日\xE9.Rtr"},
+                                                       {"entretien E\u0301te\u0301.wav", "Entretien Été.WAV"},
+                                                       {"Réel/garçon.WAV", "Re\u0301el/Garc\u0327on.wav"},
                                                        {"entretien ete.wav", ""},
                                                        {"absent", ""}};
     for (const Utf8& repertoire : {dossier.chemin(), dossier.chemin().substr(0, dossier.chemin().size() - 1)})

@@ -47,8 +47,8 @@ LblXtr[2] 7500,75 1500x180 tag=2 bulle=777 fond=636363
 
 TEST(Bubbles, ShowWhatTheSpanReallyTouches) {
     const std::tuple<double, double, bool> cas[] = {
-        {10, 20, false}, {5, 10, false}, {20, 25, false}, {5, 10.01, true}, {19.99, 25, true},
-        {9, 21, true},   {10, 19, true}, {9, 20, false},  {12, 13, true},   {30, 40, false}};
+        {10, 20, false}, {5, 10, false}, {20, 25, false}, {5, 10.01, true}, {19.99, 25, true}, {9, 21, true},
+        {10, 19, true},  {9, 20, false}, {12, 13, true},  {30, 40, false},  {15, 1e300, true}};
     for (const auto& [debut, fin, vu] : cas) {
         Vue vue(10, 20, "::1.00::000\r\n::2.00::\r\n");
         vue.session.transcription.ExtraitDebut[1] = debut;

@@ -80,20 +80,6 @@ TEST(ToileTest, NarrowBarsAreFilledAsThePainterFillsThem) {
     }
 }
 
-TEST(ToileTest, TextKeepsBetweenItsEdges) {
-    Toile toile(QStringLiteral("Picture1"));
-    taille(toile, 60, 20).fond(rvb(0, 0, 0));
-    Element mot{.cadre = {150, 0, 450, 300}, .texte = "MMMMMMMMMM"};
-    toile.elements({mot});
-    const QImage image = peinte(toile);
-    int dedans = 0, dehors = 0;
-    for (int x = 0; x < 60; ++x)
-        for (int y = 0; y < 20; ++y)
-            (x >= 10 && x < 40 ? dedans : dehors) += image.pixelColor(x, y).lightness() > 60;
-    EXPECT_GT(dedans, 20);
-    EXPECT_EQ(dehors, 0);
-}
-
 TEST(ToileTest, AClickTakesOneItemTwice) {
     Toile toile(QStringLiteral("Picture1"));
     taille(toile, 40, 10).decalage(150, 0);

@@ -31,21 +31,10 @@ FrmVisu::FrmVisu(Session& session, Plateforme& plateforme, Fenetres& fenetres, Q
 }
 
 void FrmVisu::reglerTimers() {
-    const struct {
-        QTimer& timer;
-        const char* nom;
-        int ms;
-        void (FrmVisu::*tic)();
-    } timers[] = {{Timer1_, "Timer1", 50, &FrmVisu::Timer1_Tick},
-                  {Timer3_, "Timer3", 1, &FrmVisu::Timer3_Tick},
-                  {TimerPlus_, "TimerPlus", 50, &FrmVisu::TimerPlus_Tick},
-                  {TimerMoins_, "TimerMoins", 50, &FrmVisu::TimerMoins_Tick}};
-    for (const auto& [timer, nom, ms, tic] : timers) {
-        timer.setObjectName(QLatin1String(nom));
-        timer.setParent(this);
-        timer.setInterval(ms);
-        connect(&timer, &QTimer::timeout, this, [this, tic = tic] { garder([&] { (this->*tic)(); }); });
-    }
+    regler(Timer1_, "Timer1", 50, [this] { Timer1_Tick(); });
+    regler(Timer3_, "Timer3", 1, [this] { Timer3_Tick(); });
+    regler(TimerPlus_, "TimerPlus", 50, [this] { TimerPlus_Tick(); });
+    regler(TimerMoins_, "TimerMoins", 50, [this] { TimerMoins_Tick(); });
 }
 
 Entretien& FrmVisu::entretien() {

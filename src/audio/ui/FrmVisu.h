@@ -71,7 +71,7 @@ class FrmVisu : public Forme {
 
     // FrmVisuImages.cpp: pictures and rulers.
     void remplirVue();
-    void DessinerVueEtCache(const Utf8& cache);
+    void DessinerVueEtCache(const Utf8& cache); ///< without a wave: one line that says why, and no cache
     void dessinerRegleEnVue(const Utf8& cache);
     void enregistrerCache(const Utf8& cache, const Bitmap8& image);
     QImage ondeZoom();

@@ -76,13 +76,14 @@ void FrmVisu::poserBorne(int k, bool debut, double v) {
 /// The line at the foot makes room for the offer.
 void FrmVisu::montrerReprise() {
     LblReprendre_->setVisible(aReprendre());
-    const int fin = aReprendre() ? LblReprendre_->x() : LblReprendre_->geometry().right();
+    const int fin = LblReprendre_->x() + (aReprendre() ? 0 : LblReprendre_->width());
     lblEtat_->resize(fin - lblEtat_->x(), lblEtat_->height());
     commandes_.actualiser();
 }
 
 void FrmVisu::reprendreTexte() {
-    if (!ramenerSaisie(fenetres_.entamee(Fenetre::FrmSaisie))) fenetres_.reprendreTexte();
+    if (!ramenerSaisie(fenetres_.entamee(Fenetre::FrmSaisie)))
+        fenetres_.montrer(Fenetre::FrmSaisie, TexteAbandonneVoulu{});
 }
 
 void FrmVisu::ouvrirExtrait(int k) {

@@ -35,6 +35,7 @@ double FrmVisu::densite() const {
 
 void FrmVisu::remplirVue() {
     const Utf8 enregistrement = plateforme_.media.URL(), cache = cheminCache(enregistrement);
+    Picture1_->dessin({});
     const QImage gardee = fichierExiste(cache) ? QImage(utf8VersQt(cache)) : QImage();
     switch (sourceVue(enregistrement, !gardee.isNull())) {
     case SourceVue::Cache:
@@ -48,9 +49,14 @@ void FrmVisu::remplirVue() {
 
 void FrmVisu::DessinerVueEtCache(const Utf8& cache) {
     const Twips largeur = Picture1_->largeurTwips();
-    PointsVue_.allouer(static_cast<std::size_t>(2 * largeur) + 1);
+    const Utf8 enregistrement = plateforme_.media.URL();
     Bitmap8 image = fondUni(largeur, HAUTEUR_PICTURE1, densite(), theme::ONDE);
-    session_.audio.EnteteWav = dessinerOnde(image, 0, demandeVue(plateforme_.media.URL(), largeur, densite()),
+    if (const Utf8 refus = refusOnde(FichierOnde(enregistrement)); !refus.empty()) {
+        Picture1_->image(versQImage(image));
+        return Picture1_->dessin(ligneSansOnde(refus));
+    }
+    PointsVue_.allouer(static_cast<std::size_t>(2 * largeur) + 1);
+    session_.audio.EnteteWav = dessinerOnde(image, 0, demandeVue(enregistrement, largeur, densite()),
                                             PointsVue_, &plateforme_.progression);
     Picture1_->image(versQImage(image));
     enregistrerCache(cache, image);
@@ -85,7 +91,8 @@ QImage FrmVisu::ondeZoom() {
             dessinerOnde(image, 0, demandeZoom(session_.audio, enregistrement, largeur, hauteur, densite()),
                          PointsZoom_, &plateforme_.progression);
     } catch (const FauteExecution&) {
-        // A recording that has gone leaves an empty band; the player's own line says so.
+        // A recording that has gone leaves an empty band, as the player's own line says, and so does one
+        // whose wave can't be drawn, as the overview says.
     }
     return versQImage(image);
 }

@@ -49,8 +49,7 @@ FrmIntro::FrmIntro(Session& session, Plateforme& plateforme, Fenetres& fenetres)
     listerCorpus();
     commandes_.ecouter();
     Picture1_->surMouvement = [this](const Souris&) { Lien::soulignerSeul(this, nullptr); };
-    TimerSon_.setInterval(TIC_SON_MS);
-    connect(&TimerSon_, &QTimer::timeout, this, [this] { garder([this] { TimerSon_Tick(); }); });
+    regler(TimerSon_, "TimerSon", TIC_SON_MS, [this] { TimerSon_Tick(); });
 }
 
 void FrmIntro::peindreFond() {

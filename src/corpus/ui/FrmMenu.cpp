@@ -26,8 +26,7 @@ FrmMenu::FrmMenu(Session& session, Plateforme& plateforme, Fenetres& fenetres)
     construirePanneaux();
     commandes_.ecouter();
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &FrmMenu::suivreActivation);
-    Timer1_.setInterval(1);
-    connect(&Timer1_, &QTimer::timeout, this, [this] { garder([this] { Timer1_Tick(); }); });
+    regler(Timer1_, "Timer1", 1, [this] { Timer1_Tick(); });
 }
 
 void FrmMenu::montrer(const Contenu& contenu) {

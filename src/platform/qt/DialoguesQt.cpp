@@ -73,6 +73,20 @@ JeuDeBoutons jeu(Boutons boutons) {
     return {QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok};
 }
 
+QMessageBox::StandardButton boutonDe(Reponse reponse) {
+    switch (reponse) {
+    case Reponse::Oui:
+        return QMessageBox::Yes;
+    case Reponse::Non:
+        return QMessageBox::No;
+    case Reponse::Annuler:
+        return QMessageBox::Cancel;
+    case Reponse::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
 Reponse reponseDe(int bouton) {
     switch (bouton) {
     case QMessageBox::Yes:
@@ -88,6 +102,7 @@ Reponse reponseDe(int bouton) {
 
 void preparer(QFileDialog& boite, const DemandeFichier& demande) {
     boite.setOption(QFileDialog::DontUseNativeDialog);
+    boite.setOption(QFileDialog::HideNameFilterDetails); // dozens of patterns would make the box as wide
     boite.setAcceptMode(demande.enregistrer ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     boite.setFileMode(demande.enregistrer ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     boite.setNameFilter(filtreQt(demande.filtre));
@@ -116,7 +131,7 @@ Reponse DialoguesQt::demander(const Message& message) {
     boite.setTextFormat(Qt::PlainText); // file names may look like markup
     boite.setText(QString::fromStdString(message.texte));
     boite.setStandardButtons(offerts.boutons);
-    boite.setDefaultButton(offerts.premier);
+    boite.setDefaultButton(message.defaut ? boutonDe(*message.defaut) : offerts.premier);
     boite.setEscapeButton(offerts.fermeture);
     return reponseDe(boite.exec());
 }

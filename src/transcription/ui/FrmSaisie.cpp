@@ -43,7 +43,7 @@ FrmSaisie::FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetre
     creerAjout();
     commandes_.ecouter();
     TextRtr_->installEventFilter(this); // after the commands, so as to hear of a key before one takes it
-    Timer1_.start(50);
+    Timer1_.start();
     placerLargeur(false);
 }
 
@@ -81,7 +81,7 @@ void FrmSaisie::creerTexte() {
     poser(TextRtr_, t::TEXTRTR);
     connect(TextRtr_, &QPlainTextEdit::textChanged, this, [this] {
         fiche_.texte = TextRtr_->saisi();
-        if (!remplissage_) garderBrouillon();
+        if (!remplissage_) garder([this] { garderBrouillon(); });
     });
     connect(TextRtr_, &EditeurRtr::refusesChanges, this, [this](int nombre) {
         etat_->setText(
@@ -98,6 +98,8 @@ void FrmSaisie::montrer(const Contenu& contenu) {
         PreparerSaisie();
     else if (const auto* voulu = std::get_if<ExtraitVoulu>(&contenu))
         OuvrirExtrait(voulu->numero);
+    else if (std::holds_alternative<TexteAbandonneVoulu>(contenu))
+        reprendreAbandon();
     else
         Forme::montrer(contenu);
 }
@@ -141,7 +143,7 @@ void FrmSaisie::OuvrirExtrait(int n) {
     saisie::ouvrirSpan(session_, n);
     Transparence(0);
     fondu_ = -FONDU.pas; // the first tick shows nothing yet
-    Timer2_.start(1);
+    Timer2_.start();
     preparer();
     prendrePlace();
 }

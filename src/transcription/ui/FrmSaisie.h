@@ -23,14 +23,14 @@ class EditeurRtr;
 class Lien;
 
 /// The window in which one extract is listened to, typed and coded. Nothing reaches the transcript until the
-/// extract is validated. What is typed has its draft on the disk until then; leaving by Esc or the cross discards
-/// it, and keeps it at hand as the abandoned text until another is, or until the interview is left.
+/// extract is validated. What is typed has its draft on the disk until then; leaving by Esc or the cross
+/// discards it, and keeps it at hand as the abandoned text until another is, or until the interview is left.
 ///
 /// The rules stand in transcription/Saisie.h; this class only places controls, asks them, and tells the
 /// player. Split by concern: FrmSaisie.cpp (making and opening), FrmSaisieEcoute.cpp (player, timers,
 /// waveform), FrmSaisieOptions.cpp (dictation, seconds, speed), FrmSaisieThematiques.cpp (panel and new
-/// thematic), FrmSaisieBrouillon.cpp (draft, abandoned text), FrmSaisieCommandes.cpp (what its buttons and keys
-/// do).
+/// thematic), FrmSaisieBrouillon.cpp (draft, abandoned text), FrmSaisieCommandes.cpp (what its buttons and
+/// keys do).
 class FrmSaisie : public Forme {
     Q_OBJECT
   public:
@@ -50,10 +50,8 @@ class FrmSaisie : public Forme {
     bool entamee() const override;
     /// What was discarded last can be taken up again.
     bool aReprendre() const { return abandon_.has_value(); }
-    void reprendreAbandon();
     /// Opens what was typed and no file holds, on its extract or as a new one, and goes on with its draft.
-    void reprendre(const saisie::Reprise& reprise, std::unique_ptr<BrouillonTenu> brouillon,
-                   const Brouillon& enTete);
+    void reprendre(const saisie::Reprise& reprise, std::unique_ptr<BrouillonTenu> brouillon);
     void mettreALAbri() override;
     /// Refills the panel from the thematic table.
     void ConstruireThematiques();
@@ -92,9 +90,12 @@ class FrmSaisie : public Forme {
 
     // FrmSaisieBrouillon.cpp
     void garderBrouillon(); ///< after each change of what no file holds
+    void tenirBrouillon(std::unique_ptr<BrouillonTenu> brouillon);
     void retirerBrouillon();
+    void oublier(std::unique_ptr<BrouillonTenu> brouillon);
     void direFauteBrouillon(const Utf8& faute);
     void abandonner();
+    void reprendreAbandon();
 
     // FrmSaisieEcoute.cpp, FrmSaisieOptions.cpp
     void creerEcoute();
@@ -163,16 +164,16 @@ class FrmSaisie : public Forme {
     std::array<BoutonImage*, 3> BtnOpt_{};
     QTimer Timer1_, Timer2_, Timer3_, Timer4_;
 
-    saisie::Fiche fiche_, ouverte_; ///< what is worked on, and as it was at the opening
-    std::optional<saisie::Reprise> abandon_;                      ///< the text that was discarded last
+    saisie::Fiche fiche_, ouverte_;          ///< what is worked on, and as it was at the opening
+    std::optional<saisie::Reprise> abandon_; ///< the text that was discarded last
     std::unique_ptr<BrouillonTenu> brouillon_, brouillonAbandon_; ///< once there is something to keep
     Brouillon enTete_;                                            ///< of the draft, without what is typed
     DejaDit brouillonRefuse_;
-    bool aLAbri_ = false;           ///< the program is about to end: drafts stay
-    bool remplissage_ = false;      ///< the text changes by no key
-    Couleur couleurAjout_ = 0;      ///< of ShpFdThm
-    Texte CouleurChoisie_;          ///< decimal value; empty: none
-    double FinInitiale_ = 0;        ///< end of the span when lengthening began
+    bool aLAbri_ = false;      ///< the program is about to end: drafts stay
+    bool remplissage_ = false; ///< the text changes by no key
+    Couleur couleurAjout_ = 0; ///< of ShpFdThm
+    Texte CouleurChoisie_;     ///< decimal value; empty: none
+    double FinInitiale_ = 0;   ///< end of the span when lengthening began
     Twips GlisseDebut_ = 0, GlisseFin_ = 0;
     Twips curseur_ = 0;   ///< Left of Curseur
     Rectangle portion_{}; ///< ShpDict; no width: hidden

@@ -8,21 +8,24 @@
 namespace vermo {
 
 FrmSaisie::~FrmSaisie() {
-    if (brouillonAbandon_ && !aLAbri_) brouillonAbandon_->retirer(); // the interview is left
+    if (!aLAbri_) oublier(std::move(brouillonAbandon_)); // the interview is left
 }
 
 void FrmSaisie::garderBrouillon() {
     aLAbri_ = false;
     if (plateforme_.emplacements.etat.empty()) return;
     if (!entamee()) return retirerBrouillon();
-    if (!brouillon_) {
-        enTete_ = nouveauBrouillon(session_, plateforme_.horloge, fiche_.source.slot, saisie::GENRE_EXTRAIT);
-        brouillon_ = std::make_unique<BrouillonTenu>(plateforme_.emplacements);
-    }
+    if (!brouillon_) tenirBrouillon(std::make_unique<BrouillonTenu>(plateforme_.emplacements));
+    enTete_.instant = instantDe(plateforme_.horloge);
     brouillon_->garder(saisie::brouillonDe(enTete_, {ouverte_, fiche_}), [this](const Utf8& faute) {
         QMetaObject::invokeMethod(
             this, [this, faute] { garder([&] { direFauteBrouillon(faute); }); }, Qt::QueuedConnection);
     });
+}
+
+void FrmSaisie::tenirBrouillon(std::unique_ptr<BrouillonTenu> brouillon) {
+    enTete_ = nouveauBrouillon(session_, fiche_.source.slot, saisie::GENRE_EXTRAIT);
+    brouillon_ = std::move(brouillon);
 }
 
 void FrmSaisie::direFauteBrouillon(const Utf8& faute) {
@@ -35,27 +38,30 @@ void FrmSaisie::direFauteBrouillon(const Utf8& faute) {
 }
 
 void FrmSaisie::retirerBrouillon() {
-    if (const auto brouillon = std::exchange(brouillon_, nullptr)) brouillon->retirer();
+    oublier(std::move(brouillon_));
+}
+
+/// Whatever the disk says, the window goes on.
+void FrmSaisie::oublier(std::unique_ptr<BrouillonTenu> brouillon) {
+    if (brouillon) garder([&] { brouillon->retirer(); });
 }
 
 /// A thematic or a span alone doesn't take the place of a text that can still be taken up.
 void FrmSaisie::abandonner() {
     if (!entamee() || (abandon_ && fiche_.texte == ouverte_.texte)) return retirerBrouillon();
-    if (brouillonAbandon_) brouillonAbandon_->retirer();
-    brouillonAbandon_ = std::exchange(brouillon_, nullptr);
+    oublier(std::exchange(brouillonAbandon_, std::move(brouillon_)));
     abandon_ = saisie::Reprise{std::exchange(ouverte_, fiche_), fiche_};
     fenetres_.annoncer({Sujet::TexteAbandonne, fiche_.source.slot});
 }
 
 void FrmSaisie::reprendreAbandon() {
     if (!abandon_) return;
-    reprendre(*abandon_, std::exchange(brouillonAbandon_, nullptr), enTete_);
+    reprendre(*abandon_, std::move(brouillonAbandon_));
     abandon_.reset();
     fenetres_.annoncer({Sujet::TexteAbandonne, fiche_.source.slot});
 }
 
-void FrmSaisie::reprendre(const saisie::Reprise& reprise, std::unique_ptr<BrouillonTenu> brouillon,
-                          const Brouillon& enTete) {
+void FrmSaisie::reprendre(const saisie::Reprise& reprise, std::unique_ptr<BrouillonTenu> brouillon) {
     auto& etat = session_.transcription;
     if (const int numero = saisie::retrouver(session_, reprise)) {
         OuvrirExtrait(numero);
@@ -73,8 +79,7 @@ void FrmSaisie::reprendre(const saisie::Reprise& reprise, std::unique_ptr<Brouil
     titrer();
     dessinerOnde();
     TextRtr_->moveCursor(QTextCursor::End);
-    brouillon_ = std::move(brouillon);
-    enTete_ = enTete;
+    if (brouillon) tenirBrouillon(std::move(brouillon));
     garderBrouillon();
 }
 

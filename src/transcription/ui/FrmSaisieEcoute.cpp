@@ -33,15 +33,13 @@ void FrmSaisie::creerEcoute() {
     ImgPlus_ = {creerBouton("allonger", t::IMGPLUS), creerBouton("arreter-allongement", t::IMGPLUS)};
     ImgPlus_[1]->hide();
 
-    connect(&Timer1_, &QTimer::timeout, this, [this] { garder([this] { Timer1_Tick(); }); });
-    connect(&Timer2_, &QTimer::timeout, this, [this] { garder([this] { Timer2_Tick(); }); });
-    connect(&Timer3_, &QTimer::timeout, this, [this] { garder([this] { Timer3_Tick(); }); });
-    connect(&Timer4_, &QTimer::timeout, this, [this] { garder([this] { Timer4_Tick(); }); });
+    regler(Timer1_, "Timer1", 50, [this] { Timer1_Tick(); });
+    regler(Timer2_, "Timer2", 1, [this] { Timer2_Tick(); });
+    regler(Timer3_, "Timer3", 1000, [this] { Timer3_Tick(); });
+    regler(Timer4_, "Timer4", 1000, [this] { Timer4_Tick(); });
     deplacements_ = plateforme_.media.ecouterDeplacements([this] { garder([this] { suivreLecteur(); }); });
     ecoute_ = plateforme_.media.ecouter(
         [this](EtatLecture etat) { garder([this, etat] { Media_PlayStateChange(etat); }); });
-    Timer3_.setInterval(1000);
-    Timer4_.setInterval(1000);
 }
 
 void FrmSaisie::Media_PlayStateChange(EtatLecture etat) {
@@ -125,6 +123,7 @@ void FrmSaisie::dessinerOnde() {
     const double densite = devicePixelRatioF() / TWIPS_PAR_PIXEL;
     Bitmap8 image = fondUni(largeur, hauteur, densite, theme::ONDE);
     const Utf8 fichier = plateforme_.media.URL();
+    Pict_saisie_->dessin({});
     try {
         if (estWav(fichier) && duree > 0)
             session_.audio.EnteteWav =
@@ -137,8 +136,8 @@ void FrmSaisie::dessinerOnde() {
                                      .hauteurVue = HAUTEUR_PICTURE1,
                                      .densite = densite},
                                     PointsSaisie_);
-    } catch (const FauteExecution&) {
-        // A recording that has gone leaves an empty wave; its extracts stay open to correction.
+    } catch (const FauteExecution& faute) {
+        Pict_saisie_->dessin(ligneSansOnde(faute.quoi())); // the extract stays open to correction
     }
     Pict_saisie_->image(versQImage(image));
     rafraichirOnde();

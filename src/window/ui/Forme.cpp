@@ -64,6 +64,13 @@ void Forme::deplacerPar(QWidget* poignee) {
     poignee->installEventFilter(this);
 }
 
+void Forme::regler(QTimer& timer, const char* nom, int ms, std::function<void()> tic) {
+    timer.setObjectName(QLatin1String(nom));
+    timer.setParent(this);
+    timer.setInterval(ms);
+    connect(&timer, &QTimer::timeout, this, [this, tic = std::move(tic)] { garder(tic); });
+}
+
 bool Forme::eventFilter(QObject* objet, QEvent* evenement) {
     if (std::find(poignees_.begin(), poignees_.end(), objet) != poignees_.end()) deplacer(evenement);
     return QWidget::eventFilter(objet, evenement);

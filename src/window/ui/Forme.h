@@ -7,9 +7,11 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QTimer>
 #include <QWidget>
 #include <chrono>
 #include <exception>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -67,6 +69,8 @@ class Forme : public QWidget {
     }
 
   protected:
+    /// Names a timer of this window, which guards its ticks.
+    void regler(QTimer& timer, const char* nom, int ms, std::function<void()> tic);
     bool eventFilter(QObject* objet, QEvent* evenement) override;
     /// The window manager closes a window without which there is no program.
     void finirPar(QCloseEvent& evenement);

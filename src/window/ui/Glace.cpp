@@ -1,5 +1,6 @@
 #include "window/ui/Glace.h"
 
+#include "textfile/nombres.h"
 #include "window/ui/Theme.h"
 
 #include <QPainter>
@@ -42,9 +43,25 @@ Rectangle enTwips(const QRectF& r) {
     return {enTwips(r.x()), enTwips(r.y()), enTwips(r.width()), enTwips(r.height())};
 }
 
+namespace {
+
+/// A place that an integer holds: an extract may end a million years behind its recording's end.
+double place(double pixels) {
+    constexpr double PIXELS_MAX = 1e9;
+    return borner(pixels, PIXELS_MAX);
+}
+
+} // namespace
+
 QRect enPixelsEntiers(const Rectangle& r) {
-    const QPoint coin(qRound(enPixels(r.gauche)), qRound(enPixels(r.haut)));
-    return {coin, QSize(qRound(enPixels(r.droite())) - coin.x(), qRound(enPixels(r.bas())) - coin.y())};
+    const QPoint coin(qRound(place(enPixels(r.gauche))), qRound(place(enPixels(r.haut))));
+    const QPoint fin(qRound(place(enPixels(r.droite()))), qRound(place(enPixels(r.bas()))));
+    return {coin, QSize(fin.x() - coin.x(), fin.y() - coin.y())};
+}
+
+QRect pixelsTouches(const QRectF& r) {
+    return QRectF(QPointF(place(r.left()), place(r.top())), QPointF(place(r.right()), place(r.bottom())))
+        .toAlignedRect();
 }
 
 namespace {

@@ -38,6 +38,9 @@ Rectangle enTwips(const QRectF& r);
 /// Each edge at its nearest pixel, so that neighbours stay neighbours.
 QRect enPixelsEntiers(const Rectangle& r);
 
+/// Every pixel that a part touches.
+QRect pixelsTouches(const QRectF& r);
+
 /// A picture of the resources (SVG, drawn at that size) or of the disk, stretched to `taille` device pixels.
 /// Kept until some 64 MB of others were asked for. Null when there is no such picture: that is kept as well,
 /// until `oublierImage`.

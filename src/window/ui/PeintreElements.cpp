@@ -1,5 +1,6 @@
 #include "window/ui/PeintreElements.h"
 
+#include "textfile/nombres.h"
 #include "window/ui/Glace.h"
 
 #include <QPainter>
@@ -13,8 +14,11 @@ namespace {
 // Opacities of fills, of 255: what lies under them stays seen.
 constexpr int FUSION = 140, VOILE = 60;
 
-/// As std::round for what fits a window, in a third of its time: it is asked four times a bar.
-double arrondi(double pixels) {
+/// As std::round for what fits a window, in a third of its time: it is asked four times a bar. What lies
+/// farther out than any window stays out, within what an integer holds.
+double pixelProche(double pixels) {
+    constexpr double PIXELS_MAX = 1e9;
+    pixels = borner(pixels, PIXELS_MAX);
     return static_cast<double>(static_cast<std::int64_t>(pixels < 0 ? pixels - 0.5 : pixels + 0.5));
 }
 
@@ -35,6 +39,7 @@ void PeintreElements::peindre(const Element& element) {
         if (element.encre != Encre::Copie) couleur.setAlpha(element.encre == Encre::Fusion ? FUSION : VOILE);
         remplissage_.remplir(cadre, couleur);
     }
+    if (!element.image.empty() || element.borde || !element.texte.empty()) remplissage_.finir();
     if (!element.image.empty())
         peintre_.drawImage(cadre, imageEtiree(element.image, (cadre.size() * ratio_).toSize()));
     if (element.borde) border(cadre, element.bord);
@@ -43,9 +48,9 @@ void PeintreElements::peindre(const Element& element) {
 
 QRectF PeintreElements::auPixel(const Rectangle& cadre) const {
     const double pas = ratio_ / TWIPS_PAR_PIXEL;
-    const double gauche = arrondi(cadre.gauche * pas), haut = arrondi(cadre.haut * pas);
-    const double largeur = std::max(1.0, arrondi(cadre.droite() * pas) - gauche);
-    const double hauteur = std::max(1.0, arrondi(cadre.bas() * pas) - haut);
+    const double gauche = pixelProche(cadre.gauche * pas), haut = pixelProche(cadre.haut * pas);
+    const double largeur = std::max(1.0, pixelProche(cadre.droite() * pas) - gauche);
+    const double hauteur = std::max(1.0, pixelProche(cadre.bas() * pas) - haut);
     return {gauche / ratio_, haut / ratio_, largeur / ratio_, hauteur / ratio_};
 }
 

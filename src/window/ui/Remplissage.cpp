@@ -45,14 +45,27 @@ Remplissage::Remplissage(QPainter& peintre) : peintre_(peintre) {
 }
 
 void Remplissage::remplir(const QRectF& cadre, const QColor& couleur) {
-    if (pixels_ == nullptr || cadre.width() > ETROIT) return peintre_.fillRect(cadre, couleur);
+    if (pixels_ == nullptr || cadre.width() > ETROIT) {
+        finir();
+        return peintre_.fillRect(cadre, couleur);
+    }
     const QRect ici = cadre.toRect().translated(decalage_) & limites_;
-    const QRgb encre = qPremultiply(couleur.rgba());
-    const unsigned reste = 255U - static_cast<unsigned>(qAlpha(encre));
-    for (int y = ici.top(); y <= ici.bottom(); ++y) {
-        QRgb* const ligne = pixels_ + static_cast<qsizetype>(y) * parLigne_;
-        for (int x = ici.left(); x <= ici.right(); ++x)
-            ligne[x] = encre + partDe(ligne[x], reste);
+    if (ici.top() != haut_ || ici.bottom() != bas_) finir();
+    haut_ = ici.top(), bas_ = ici.bottom();
+    barres_.push_back({ici.left(), ici.right(), qPremultiply(couleur.rgba())});
+}
+
+void Remplissage::finir() {
+    for (int y = haut_; y <= bas_; ++y)
+        remplirLigne(pixels_ + static_cast<qsizetype>(y) * parLigne_);
+    barres_.clear();
+}
+
+void Remplissage::remplirLigne(QRgb* ligne) const {
+    for (const Barre& barre : barres_) {
+        const unsigned reste = 255U - static_cast<unsigned>(qAlpha(barre.encre));
+        for (int x = barre.gauche; x <= barre.droite; ++x)
+            ligne[x] = barre.encre + partDe(ligne[x], reste);
     }
 }
 

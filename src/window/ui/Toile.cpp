@@ -65,7 +65,7 @@ Twips Toile::hauteurTwips() const {
 
 void Toile::repeindre(const Rectangle& partie) {
     const QRectF pixels = enPixels(partie).translated(-enPixels(decalageX_), -enPixels(decalageY_));
-    update(pixels.toAlignedRect().adjusted(-1, -1, 1, 1));
+    update(pixelsTouches(pixels).adjusted(-1, -1, 1, 1));
 }
 
 void Toile::oublierImage(const std::string& chemin) {

@@ -91,7 +91,7 @@ void ToileDefilante::paintEvent(QPaintEvent* evenement) {
 void ToileDefilante::repeindre(const Rectangle& partie) {
     listeAJour_ = false;
     actualiserVue();
-    aPeindre_ += enPixels(dansLaToile(partie)).toAlignedRect().adjusted(-1, -1, 1, 1) & rect();
+    aPeindre_ += pixelsTouches(enPixels(dansLaToile(partie))).adjusted(-1, -1, 1, 1) & rect();
     update();
 }
 
