@@ -6,6 +6,7 @@
 #include "audio/ImageOnde.h"
 #include "corpus/AnalyserEntretiens.h"
 #include "corpus/OuvertureCorpus.h"
+#include "corpus/Porte.h"
 #include "formats/FichierRtr.h"
 #include "textfile/fichier.h"
 
@@ -180,16 +181,21 @@ Resultat memoire999(const std::string& donnees) {
             .atteinte = 1.5};
 }
 
-/// The least that stays after a power cut: write, fdatasync, rename, fsync of the directory.
-void ecrireNu(const std::string& repertoire, const std::string& octets) {
+/// The least of a change that stays after a power cut: read, write, fdatasync, rename, fsync of the
+/// directory.
+void changerNu(const std::string& repertoire, std::string& octets) {
     const std::string temporaire = repertoire + "/nu.tmp", chemin = repertoire + "/nu";
+    if (const int avant = ::open(chemin.c_str(), O_RDONLY | O_CLOEXEC); avant >= 0) {
+        octets.resize(std::size_t(std::max<ssize_t>(::read(avant, octets.data(), octets.size()), 0)));
+        ::close(avant);
+    }
     const int fichier = ::open(temporaire.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, 0644);
     const bool ecrit = ::write(fichier, octets.data(), octets.size()) == ssize_t(octets.size());
     const bool stable = ecrit && ::fdatasync(fichier) == 0;
     ::close(fichier);
     const int dossier = ::open(repertoire.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (!stable || ::rename(temporaire.c_str(), chemin.c_str()) != 0 || ::fsync(dossier) != 0)
-        throw std::runtime_error("the bare write failed");
+        throw std::runtime_error("the bare change failed");
     ::close(dossier);
 }
 
@@ -205,21 +211,31 @@ Resultat ecriture(const std::string& donnees) {
                             std::string(400, 'a') + CR});
         octets = rtr::ecrireApres(rtr::nouveau(0, reglages), extraits, {}, reglages);
     }
+    const std::string chemin = rep + "/entretien.Rtr";
+    remplacerFichier(chemin, octets);
+    Session session;
+    HotePlateforme hote{"null"};
+    EtatLu lu;
+    lireRetranscription({1, chemin}, lu);
+    const auto ecrire = [&](const Octets& avant) -> Octets {
+        return rtr::ecrireApres(rtr::reecrireEnTete(*avant, chemin, reglages), extraits, {true, 0}, reglages);
+    };
     bool autre = false;
     const Paire paire = apparier(
         61,
         [&] {
+            extraits[5].texte = (autre = !autre) ? "Un texte repris.\r" : "Un autre texte.\r";
             return chronometrer([&] {
-                extraits[5].texte = (autre = !autre) ? "Un texte repris.\r" : "Un autre texte.\r";
-                remplacerFichier(rep + "/entretien.Rtr",
-                                 rtr::ecrireApres(rtr::nouveau(0, reglages), extraits, {true, 0}, reglages));
+                if (changerFichiers(session, hote.plateforme(), "", {{chemin, ecrire, &lu}}) !=
+                    IssueChangement::Fait)
+                    throw std::runtime_error("the change was refused");
             });
         },
-        [&] { return chronometrer([&] { ecrireNu(rep, octets); }); });
+        [&] { return chronometrer([&] { changerNu(rep, octets); }); });
     return {.notre = paire.notre,
             .autre = paire.autre,
-            .aCote = "bare write, fdatasync, rename, fsync of the directory",
-            .atteinte = 1.5};
+            .aCote = "bare read, write, fdatasync, rename, fsync of the directory",
+            .atteinte = 1.6};
 }
 
 } // namespace

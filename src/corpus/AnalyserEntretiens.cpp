@@ -83,7 +83,6 @@ struct Releve {
     bool aLire = false;                  ///< the transcript may not be the one that was read last
     std::optional<EtatLu> connu{};       ///< of the table; none: another file's, or none
     std::optional<LectureRtr> lecture{}; ///< of a transcript that isn't the one that was read last
-    std::exception_ptr autre{};          ///< no fault of the file, as memory that runs out
 };
 
 Releve aRelever(const Fichiers& fichiers, ExtraitsEntretien& table) {
@@ -103,27 +102,28 @@ void dater(EnregistrementVu& connu, const FichierVu& fichier) {
     connu = dates ? EnregistrementVu{fichier.chemin, fichier.identite, *dates} : EnregistrementVu{};
 }
 
-void relever(Releve& releve, const Fichiers& fichiers, const Reglages& reglages, FichierLu& lu) noexcept {
-    try {
-        dater(releve.enregistrement, fichiers.enregistrement);
-        if (releve.aLire)
-            releve.lecture = lireTable(*fichiers.rtr, reglages, lu, releve.connu ? &*releve.connu : nullptr);
-    } catch (...) {
-        releve.autre = std::current_exception();
-    }
+void relever(Releve& releve, const Fichiers& fichiers, const Reglages& reglages, FichierLu& lu) {
+    dater(releve.enregistrement, fichiers.enregistrement);
+    if (releve.aLire)
+        releve.lecture = lireTable(*fichiers.rtr, reglages, lu, releve.connu ? &*releve.connu : nullptr);
 }
 
 /// Calls `faire` with 0 to `nombre` - 1, each once, on so many threads, and a tool that the thread keeps; and
-/// `dire` with the same on this thread, in order, as soon as all up to there are done. After an exception
-/// from `dire` nothing further is begun.
+/// `dire` with the same on this thread, in order, as soon as all up to there are done. Passes on the first
+/// exception in this order; nothing further is begun after it.
 template <class Outil, class Faire, class Dire>
 void enParallele(std::size_t nombre, std::size_t fils, const Faire& faire, const Dire& dire) {
     std::atomic<std::size_t> suivant = 0;
     std::vector<std::atomic<bool>> faits(nombre);
+    std::vector<std::exception_ptr> fautes(nombre);
     const auto faireUn = [&](Outil& outil) {
         const std::size_t i = suivant++;
         if (i >= nombre) return false;
-        faire(i, outil);
+        try {
+            faire(i, outil);
+        } catch (...) {
+            fautes[i] = std::current_exception();
+        }
         faits[i] = true;
         faits[i].notify_one();
         return true;
@@ -144,6 +144,7 @@ void enParallele(std::size_t nombre, std::size_t fils, const Faire& faire, const
     for (std::size_t i = 0; i < nombre; ++i) {
         while (!faits[i])
             if (!faireUn(outil)) faits[i].wait(false);
+        if (fautes[i]) std::rethrow_exception(fautes[i]);
         dire(i);
     }
 }
@@ -166,7 +167,6 @@ void direManquant(Dialogues& dialogues, const Entretien& entretien) {
 /// Takes what was found of one interview into the session, and tells what there is to tell.
 void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const Fichiers& fichiers,
                        Releve& releve) {
-    if (releve.autre) std::rethrow_exception(releve.autre);
     ExtraitsEntretien& table = ligneDe(session.corpus.extraits, slot);
     const EtatLu avant = std::exchange(table.lu, {});
     if (releve.lecture)
@@ -192,6 +192,23 @@ void analyserEntretien(Session& session, Plateforme& plateforme, int slot, const
     prendreTable(entretien, table);
 }
 
+/// The files of the interviews from `premier` to `dernier`. The system is asked on several threads: it takes
+/// longer to answer than all that follows where no file has changed.
+std::vector<Fichiers> fichiersDes(const EtatCorpus& corpus, int premier, int dernier) {
+    constexpr std::size_t LOT = 128; ///< a thread less is sooner there than one for fewer
+    const IndexRepertoire index(corpus.RepCorpus);
+    std::vector<Fichiers> fichiers(static_cast<std::size_t>(std::max(dernier - premier + 1, 0)));
+    const std::size_t lots = (fichiers.size() + LOT - 1) / LOT;
+    const auto chercher = [&](std::size_t lot, char) {
+        for (std::size_t i = lot * LOT; i < std::min(fichiers.size(), (lot + 1) * LOT); ++i)
+            fichiers[i] =
+                fichiersDe(entretienDe(corpus, premier + static_cast<int>(i)), corpus.RepCorpus, index);
+    };
+    enParallele<char>(lots, std::min<std::size_t>(lots, std::thread::hardware_concurrency()), chercher,
+                      [](std::size_t) {});
+    return fichiers;
+}
+
 /// Threads come for transcripts that are to be read, not to find that none is.
 std::size_t filsPour(const std::vector<Releve>& releves) {
     const auto aLire = std::count_if(releves.begin(), releves.end(), [](const Releve& r) { return r.aLire; });
@@ -205,11 +222,7 @@ void AnalyserEntretiens(Session& session, Plateforme& plateforme, int premier, i
     premier = std::max(premier, 1);
     dernier = std::min<int>(dernier, corpus.NbEntretiens);
     corpus.extraits.resize(corpus.Entretiens.size());
-    const IndexRepertoire index(corpus.RepCorpus);
-    std::vector<Fichiers> fichiers;
-    fichiers.reserve(corpus.Entretiens.size());
-    for (int slot = premier; slot <= dernier; ++slot)
-        fichiers.push_back(fichiersDe(entretienDe(corpus, slot), corpus.RepCorpus, index));
+    const std::vector<Fichiers> fichiers = fichiersDes(corpus, premier, dernier);
     reprendreAnciens(corpus, fichiers, premier);
     std::vector<Releve> releves;
     releves.reserve(fichiers.size());

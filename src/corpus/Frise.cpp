@@ -125,11 +125,10 @@ int nombreLignes(const EtatCorpus& corpus) {
 
 std::vector<Utf8> cheminsVues(const Session& session) {
     const EtatCorpus& corpus = session.corpus;
-    const IndexRepertoire index(corpus.RepCorpus);
+    const CompagnonsRepertoire images(corpus.RepCorpus, "Bmp");
     std::vector<Utf8> vues(1);
     for (int slot = 1; slot <= nombreLignes(corpus); ++slot)
-        vues.push_back(
-            index.trouver(versUtf8(compagnon(entretienDe(corpus, slot).Fichier, "Bmp"))).value_or(Utf8()));
+        vues.push_back(images.de(versUtf8(entretienDe(corpus, slot).Fichier)));
     return vues;
 }
 

@@ -74,11 +74,12 @@ IdentiteFichier IndexRepertoire::identite(const Utf8& nom) const {
 
 std::optional<Utf8> IndexRepertoire::autreCasse(const Utf8& nom) const {
     if (nom.find('/') != Utf8::npos) return vermo::trouver(repertoire_ + nom);
-    if (sansCasse_.empty())
+    std::call_once(liste_, [&] {
         lister(repertoire_, [&](const Utf8& exact) {
             Utf8& garde = sansCasse_[majusculesUtf8(exact)];
             if (garde.empty() || exact < garde) garde = exact;
         });
+    });
     const auto autre = sansCasse_.find(majusculesUtf8(nom));
     if (autre == sansCasse_.end()) return std::nullopt;
     return repertoire_ + autre->second;
@@ -96,6 +97,20 @@ std::optional<Utf8> IndexRepertoire::trouver(const Utf8& nom) const {
     const auto vu = voir(nom);
     if (!vu) return std::nullopt;
     return vu->chemin;
+}
+
+CompagnonsRepertoire::CompagnonsRepertoire(const Utf8& repertoire, std::string_view extension)
+    : repertoire_(repertoire), extension_(extension) {
+    lister(repertoire, [&](const Utf8& nom) {
+        if (extension3(nom) == majuscules(extension_)) noms_[majusculesUtf8(nom)].insert(nom);
+    });
+}
+
+Utf8 CompagnonsRepertoire::de(std::string_view enregistrement) const {
+    const Utf8 nom = compagnon(enregistrement, extension_);
+    const auto memes = noms_.find(majusculesUtf8(nom));
+    if (memes == noms_.end()) return {};
+    return repertoire_ + (memes->second.contains(nom) ? nom : *memes->second.begin());
 }
 
 } // namespace vermo

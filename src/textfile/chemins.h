@@ -2,7 +2,9 @@
 #include "textfile/fichier.h"
 #include "textfile/texte.h"
 
+#include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -37,8 +39,8 @@ struct FichierVu {
     IdentiteFichier identite;
 };
 
-/// For looking up many names in a directory: one question to the system for a name that exists as it is
-/// written, and one listing, made at the first need, for all the others.
+/// For looking up many names in a directory, on several threads if wanted: one question to the system for a
+/// name that exists as it is written, and one listing, made at the first need, for all the others.
 class IndexRepertoire {
   public:
     explicit IndexRepertoire(const Utf8& repertoire);
@@ -52,8 +54,23 @@ class IndexRepertoire {
     std::optional<Utf8> autreCasse(const Utf8& nom) const;
 
     Utf8 repertoire_;
-    Descripteur ouvert_;                               ///< the directory, if it can be opened
+    Descripteur ouvert_; ///< the directory, if it can be opened
+    mutable std::once_flag liste_;
     mutable std::unordered_map<Utf8, Utf8> sansCasse_; ///< upper-cased name -> name
+};
+
+/// The companions in a directory that bear one extension, as one listing tells them: for asking after many
+/// where few are.
+class CompagnonsRepertoire {
+  public:
+    CompagnonsRepertoire(const Utf8& repertoire, std::string_view extension);
+    /// Full path of the companion of a recording, by the rule of `vermo::trouver`; empty: there is none.
+    Utf8 de(std::string_view enregistrement) const;
+
+  private:
+    Utf8 repertoire_;
+    std::string extension_;
+    std::unordered_map<Utf8, std::set<Utf8>> noms_; ///< by the upper-cased one
 };
 
 } // namespace vermo

@@ -36,14 +36,8 @@ VueFrise ToileEntretiens::vue() const {
 }
 
 void ToileEntretiens::redessiner() {
-    std::vector<Utf8> vues = cheminsVues(session_);
-    std::vector<IdentiteFichier> identites;
-    for (const Utf8& chemin : vues)
-        identites.push_back(chemin.empty() ? IdentiteFichier{} : identiteFichier(chemin));
-    for (std::size_t i = 0; i < vues.size(); ++i)
-        if (i >= vues_.size() || vues[i] != vues_[i] || identites[i] != identites_[i]) oublierImage(vues[i]);
-    vues_ = std::move(vues);
-    identites_ = std::move(identites);
+    vues_ = cheminsVues(session_);
+    oublierImagesChangees();
     vide_ = false;
     tailleReelle_ = session_.corpus.TailleReelle;
     lignes(lignesFrise(session_));

@@ -57,7 +57,6 @@ class ToileEntretiens : public ToileDefilante {
     Session& session_;
     Fenetres& fenetres_;
     std::vector<Utf8> vues_;
-    std::vector<IdentiteFichier> identites_; ///< of vues_
     bool vide_ = true;                       ///< nothing is shown before the first redraw
     bool tailleReelle_ = false;              ///< as of the last redraw
 

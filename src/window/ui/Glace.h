@@ -43,11 +43,11 @@ QRect pixelsTouches(const QRectF& r);
 
 /// A picture of the resources (SVG, drawn at that size) or of the disk, stretched to `taille` device pixels.
 /// Kept until some 64 MB of others were asked for. Null when there is no such picture: that is kept as well,
-/// until `oublierImage`.
+/// until `oublierImagesChangees`.
 QImage imageEtiree(const std::string& source, QSize taille);
 
-/// Lets a picture that changed on the disk be read again.
-void oublierImage(const std::string& source);
+/// Lets pictures whose files changed on the disk be read again.
+void oublierImagesChangees();
 
 /// Size at which a picture was drawn; empty when there is none.
 QSize tailleNaturelle(const std::string& source);

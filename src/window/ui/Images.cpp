@@ -1,5 +1,7 @@
 #include "window/ui/Glace.h"
 
+#include "textfile/fichier.h"
+
 #include <QCache>
 #include <QImageReader>
 #include <QPainter>
@@ -21,9 +23,18 @@ size_t qHash(const Cle& cle, size_t graine) {
 
 constexpr int KIO_GARDES = 64 * 1024;
 
-QCache<Cle, QImage>& reserve() {
-    static QCache<Cle, QImage> images(KIO_GARDES);
+struct Gardee {
+    QImage image;
+    IdentiteFichier identite; ///< of the file before it was read
+};
+
+QCache<Cle, Gardee>& reserve() {
+    static QCache<Cle, Gardee> images(KIO_GARDES);
     return images;
+}
+
+bool surLeDisque(const std::string& source) {
+    return source.front() != ':';
 }
 
 bool vectorielle(const std::string& source) {
@@ -52,15 +63,18 @@ QImage lire(const std::string& source, QSize taille) {
 QImage imageEtiree(const std::string& source, QSize taille) {
     if (source.empty() || taille.isEmpty()) return {};
     const Cle cle{source, taille};
-    if (const QImage* gardee = reserve().object(cle)) return *gardee;
+    if (const Gardee* gardee = reserve().object(cle)) return gardee->image;
+    const auto identite = surLeDisque(source) ? identiteFichier(source) : IdentiteFichier{};
     const QImage image = vectorielle(source) ? tracer(source, taille) : lire(source, taille);
-    reserve().insert(cle, new QImage(image), 1 + static_cast<int>(image.sizeInBytes() / 1024));
+    reserve().insert(cle, new Gardee{image, identite}, 1 + static_cast<int>(image.sizeInBytes() / 1024));
     return image;
 }
 
-void oublierImage(const std::string& source) {
+void oublierImagesChangees() {
     for (const Cle& cle : reserve().keys())
-        if (cle.source == source) reserve().remove(cle);
+        if (surLeDisque(cle.source) &&
+            !certainementMeme(reserve().object(cle)->identite, identiteFichier(cle.source)))
+            reserve().remove(cle);
 }
 
 QSize tailleNaturelle(const std::string& source) {

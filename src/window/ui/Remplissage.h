@@ -2,6 +2,7 @@
 #include <QPoint>
 #include <QRect>
 #include <QRgb>
+#include <cstddef>
 #include <vector>
 
 class QColor;
@@ -11,8 +12,8 @@ class QRectF;
 namespace vermo {
 
 /// QPainter::fillRect to the pixel. On a picture in memory narrow bars are filled in a fraction of its time:
-/// a corpus has tens of thousands in view. Bars of one height that follow each other wait to be filled line
-/// by line, as memory is read fastest.
+/// a corpus has tens of thousands in view. Bars of one height that follow each other wait, and are then
+/// filled line by line, many pixels at once.
 class Remplissage {
   public:
     /// The painter keeps its place and its clip as long as this lives.
@@ -31,10 +32,19 @@ class Remplissage {
         int gauche, droite; ///< pixels of the picture, the last one included
         QRgb encre;         ///< premultiplied
     };
-    void remplirLigne(QRgb* ligne) const;
+    /// One bar at most for each pixel of a line: its ink, and what it leaves of what stands there, each byte
+    /// for its own, 255 for all of it.
+    struct Couche {
+        std::vector<QRgb> encres, restes;
+        std::size_t debut, fin; ///< of the pixels that have one
+    };
+    std::size_t empiler();
+    void commencer(std::size_t k, std::size_t x);
 
-    std::vector<Barre> barres_; ///< that wait
-    int haut_ = 0, bas_ = -1;   ///< their lines, the last one included
+    std::vector<Barre> barres_;     ///< that wait
+    std::vector<Couche> couches_;   ///< of the same
+    std::vector<std::size_t> pile_; ///< how many layers have a bar at each pixel
+    int haut_ = 0, bas_ = -1;       ///< their lines, the last one included
     QPainter& peintre_;
     QRgb* pixels_ = nullptr; ///< of the picture; null: the painter does it all
     int parLigne_ = 0;       ///< pixels from one line to the next

@@ -68,11 +68,6 @@ void Toile::repeindre(const Rectangle& partie) {
     update(pixelsTouches(pixels).adjusted(-1, -1, 1, 1));
 }
 
-void Toile::oublierImage(const std::string& chemin) {
-    vermo::oublierImage(chemin);
-    update();
-}
-
 void Toile::peindre(QPainter& peintre, const QRectF& zone) {
     peindre(peintre, zone, elements(), {decalageX_, decalageY_});
 }

@@ -58,7 +58,6 @@ class Toile : public QWidget {
     virtual void repeindre(const Rectangle& partie);
 
     /// Forgets a picture of the disk that was read for items, so that it is read again.
-    void oublierImage(const std::string& chemin);
 
     /// Paints ground and items onto any device, as on the screen; `zone` in pixels of the canvas.
     virtual void peindre(QPainter& peintre, const QRectF& zone);
