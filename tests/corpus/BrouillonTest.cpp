@@ -3,9 +3,7 @@
 #include "support/Pannes.h"
 #include "textfile/faute.h"
 
-#include <chrono>
 #include <gtest/gtest.h>
-#include <thread>
 
 namespace vermo::essai {
 namespace {
@@ -87,21 +85,10 @@ class HeldDraftTest : public testing::Test, protected CorpusDEssai {
     }
 };
 
-TEST_F(HeldDraftTest, StandsOnTheDiskWithinASecondForTheUserAlone) {
-    std::string ecrit;
-    for (int dixieme = 1; dixieme <= 10; ++dixieme) { // keys put nothing off
-        std::this_thread::sleep_for(std::chrono::milliseconds(100));
-        garder("Bonjour" + std::string(static_cast<std::size_t>(dixieme), '.'));
-    }
-    for (const fs::path& chemin : fichiers()) {
-        EXPECT_EQ(int(fs::status(chemin).permissions()), fs::is_directory(chemin) ? 0700 : 0600) << chemin;
-        if (chemin.extension() == ".brouillon") ecrit = lireBrouillon(lireFichier(chemin), chemin).texte;
-    }
-    EXPECT_TRUE(ecrit.starts_with("Bonjour.")) << ecrit;
-}
-
-TEST_F(HeldDraftTest, IsOfferedOnceByOneProgramWhenItsOwnIsGone) {
+TEST_F(HeldDraftTest, IsTheUsersAloneAndOfferedOnceByOneProgramWhenItsOwnIsGone) {
     tenu->ecrire();
+    for (const fs::path& chemin : fichiers())
+        EXPECT_EQ(int(fs::status(chemin).permissions()), fs::is_directory(chemin) ? 0700 : 0600) << chemin;
     EXPECT_TRUE(libres().empty());
     tenu.reset();
     auto trouves = libres();
@@ -119,6 +106,9 @@ TEST_F(HeldDraftTest, IsOfItsCorpusWhereverThatLiesNow) {
     fs::copy(dossier().chemin("c"), dossier().chemin("d"));
     ouvrirIci("d/");
     EXPECT_TRUE(libres().empty()) << "a copy, while its own corpus stands";
+    fs::rename(dossier().chemin("c/b.wav"), dossier().chemin("c/x.wav"));
+    EXPECT_EQ(libres().size(), 1U) << "which its recording has left";
+    fs::rename(dossier().chemin("c/x.wav"), dossier().chemin("c/b.wav"));
     fs::rename(dossier().chemin("c"), dossier().chemin("e"));
     EXPECT_EQ(libres().size(), 1U);
     dossier().ecrire("d/b.wav", "another");

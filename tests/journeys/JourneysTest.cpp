@@ -1,5 +1,6 @@
 // The whole program as a person goes through it: real windows, simulated host.
 #include "Programme.h"
+#include "corpus/Brouillon.h"
 
 #include <QPlainTextEdit>
 #include <gtest/gtest.h>
@@ -149,7 +150,12 @@ TEST_F(JourneysTest, WhatWasTypedWhenTheProgramEndedIsOfferedWhereverItsCorpusLi
     EXPECT_EQ(session.transcription.ExtraitCourant, 1);
     EXPECT_EQ(tape(), "mXot\n");
     finirBrutalement();
-    faire("repondre Non « mXot »; clic lblmenu0; clic lblcorpus1; clic lblmenu0; clic lblcorpus1");
+    hote.dossier.ecrire("etat/brouillons/x.brouillon", ecrireBrouillon({.genre = "extrait",
+                                                                        .corpus = session.corpus.CheminCorpus,
+                                                                        .enregistrement = "b.wav",
+                                                                        .instant = {}}));
+    faire("repondre Non « mXot »; repondre Ok mis de côté; clic lblmenu0; clic lblcorpus1");
+    faire("clic lblmenu0; clic lblcorpus1");
 }
 
 TEST_F(JourneysTest, ADiscardedTextIsTakenUpUntilTheInterviewIsLeft) {
