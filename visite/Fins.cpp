@@ -78,7 +78,6 @@ int taper(int argc, char** argv) {
 class Processus : public QProcess {
   public:
     Processus() {
-        setProcessChannelMode(ForwardedErrorChannel);
         setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
     }
     ~Processus() override { tuer(); }
@@ -139,6 +138,7 @@ class Fins::Enfant {
                       QLatin1Char(':') + QString::fromLatin1(ecran_.readLine().trimmed()));
         milieu.insert(QStringLiteral("XDG_STATE_HOME"), QString::fromStdString(dossier_ / "etat"));
         programme_.setProcessEnvironment(milieu);
+        programme_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         programme_.start(
             QCoreApplication::applicationFilePath(),
             {QStringLiteral("--taper"), QString::fromStdString(dossier_ / "corpus/Métiers.Crp")});
