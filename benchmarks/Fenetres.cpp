@@ -82,7 +82,8 @@ void fermerCorpus(Programme& programme, const std::string& crp) {
     programme.session().corpus = {};
     malloc_trim(0);
     const std::string repertoire = std::filesystem::path(crp).parent_path();
-    programme.hote().plateforme().emplacements.programme = repertoire + "/";
+    auto& emplacements = programme.hote().plateforme().emplacements;
+    emplacements.programme = emplacements.etat = repertoire + "/";
     std::ofstream(repertoire + "/Projets.ini") << crp << "\r\n";
 }
 

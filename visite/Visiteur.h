@@ -41,7 +41,7 @@ class Visiteur {
     void cliquer(Toile& toile, Controle controle, int index, bool deuxFois = false);
     /// From one place to another of a canvas, in pixels.
     void glisser(QWidget& toile, QPoint de, QPoint vers);
-    void taper(QWidget& controle, const QString& texte);
+    static void taper(QWidget& controle, const QString& texte);
     void touche(QWidget& controle, Qt::Key touche, Qt::KeyboardModifiers avec = {});
 
     /// What to do with the next dialog that opens; answered in order.

@@ -1,6 +1,9 @@
 // The guided tour: the real windows, dialogs and player, driven as a researcher would, on a copy of the demo
-// corpus. Each step leaves a photograph; at the end the files are compared with what they should hold.
+// corpus. Each step leaves a photograph; at the end the files are compared with what they should hold, and
+// what is typed when the program is ended from outside is taken up.
 //   visite PROJECT_ROOT
+//   visite --taper CORPUS_FILE   its own child, which types until it is ended
+#include "Fins.h"
 #include "Visiteur.h"
 
 #include "app/Demarrage.h"
@@ -14,6 +17,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <string_view>
 
 namespace vermo::visite {
 
@@ -36,6 +40,7 @@ class Visite {
             fs::copy(entree.path(), corpus_);
         auto& emplacements = programme_.hote().plateforme().emplacements;
         emplacements.programme = dossier_.string() + "/";
+        emplacements.etat = dossier_.string() + "/etat/";
         remplacerFichier(emplacements.programme + "Projets.ini",
                          depuisUtf8((corpus_ / "Métiers.Crp").string()) + "\r\n");
     }
@@ -72,6 +77,13 @@ class Visite {
         std::string texte = versUtf8(lireFichier(corpus_ / "Claire infirmière.Rtr"));
         std::erase(texte, '\r');
         std::printf("\n%s\n", texte.c_str());
+    }
+
+    void finirDeForce() {
+        Fins fins(programme_, visiteur_, racine_ / "demo", dossier_ / "fins");
+        visiteur_.etape("fins-brutales", [&] { fins.finirTous(); });
+        for (std::size_t i = 0; i < fins.nombre(); ++i)
+            visiteur_.etape("texte-abandonne", [&] { fins.reprendre(i); });
     }
 
   private:
@@ -223,6 +235,7 @@ class Visite {
 } // namespace vermo::visite
 
 int main(int argc, char** argv) {
+    if (argc == 3 && std::string_view(argv[1]) == "--taper") return vermo::visite::taper(argc, argv);
     if (argc != 2) {
         std::fprintf(stderr, "visite PROJECT_ROOT\n");
         return 2;
@@ -233,6 +246,7 @@ int main(int argc, char** argv) {
         visite.preparer();
         visite.derouler();
         visite.comparer();
+        visite.finirDeForce();
     } catch (const std::exception& faute) {
         std::fprintf(stderr, "Visite : %s\n", faute.what());
         return 1;

@@ -2,7 +2,9 @@
 
 #include "audio/Suivi.h"
 #include "corpus/ui/FrmCorpus.h"
+#include "transcription/ui/FrmSaisie.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <iterator>
 
@@ -84,6 +86,21 @@ void Application::finir() {
         if (entamee(fenetre)) return montrer(fenetre);
     std::for_each(std::rbegin(FENETRES), std::rend(FENETRES), [this](Fenetre fenetre) { cacher(fenetre); });
     emit fini();
+}
+
+bool Application::texteAbandonne() const {
+    const auto* saisie = dynamic_cast<const FrmSaisie*>(formes_.ouverte(Fenetre::FrmSaisie));
+    return saisie != nullptr && saisie->aReprendre();
+}
+
+void Application::mettreALAbri() {
+    for (const Fenetre fenetre : FENETRES)
+        if (Forme* forme = formes_.ouverte(fenetre)) forme->garder([&] { forme->mettreALAbri(); });
+}
+
+void Application::terminer() {
+    mettreALAbri();
+    QCoreApplication::exit();
 }
 
 void Application::annoncer(const Avis& avis) {

@@ -37,7 +37,13 @@ class Application final : public QObject, public Fenetres {
     bool visible(Fenetre fenetre) const override;
     bool entamee(Fenetre fenetre) const override;
     void finir() override;
+    bool texteAbandonne() const override;
     void annoncer(const Avis& avis) override;
+
+    /// What is being typed, kept on the disk: the program may be ended at once. `terminer` ends it, asking
+    /// nobody.
+    void mettreALAbri();
+    void terminer();
 
     void NouveauCorpus() override;
     void OuvrirCorpus() override;
@@ -63,6 +69,8 @@ class Application final : public QObject, public Fenetres {
     void suivreListe(const SuiteListe& suite);
     void parcourir(Sens sens);
     void direVoisin();
+    bool lireCorpus();
+    void reprendreBrouillon();
     void montrerCorpusVide();
     void importer();
     void ouvrirEntretien(const EntretienVoulu& voulu);

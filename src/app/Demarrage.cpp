@@ -35,7 +35,8 @@ Programme::Programme(int& argc, char** argv, const std::string& sortieAudio)
     theme::appliquer(qt_);
     installerFrancais(qt_);
     session_.reglages = reglagesDuSysteme();
-    QObject::connect(&application_, &Application::fini, &qt_, &QApplication::quit, Qt::QueuedConnection);
+    QObject::connect(
+        &application_, &Application::fini, &qt_, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
 }
 
 } // namespace vermo

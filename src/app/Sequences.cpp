@@ -6,6 +6,8 @@
 #include "sequences/Histoire.h"
 #include "sequences/Import.h"
 #include "sequences/Ouverture.h"
+#include "sequences/Reprise.h"
+#include "transcription/ui/FrmSaisie.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -23,11 +25,26 @@ void Application::NouveauCorpus() {
 }
 
 void Application::OuvrirCorpus() {
+    if (lireCorpus()) reprendreBrouillon();
+}
+
+/// False when the person wanted none, or it couldn't be opened.
+bool Application::lireCorpus() {
     const auto progression = qScopeGuard([this] { plateforme_.progression.fin(); });
     const Spectateur spectateur{corpus().hauteurFond(), [this](Etape etape) { montrerEtape(etape); }};
-    if (ouvrirCorpus(session_, plateforme_, spectateur) != IssueOuverture::Ouverte) return;
+    if (ouvrirCorpus(session_, plateforme_, spectateur) != IssueOuverture::Ouverte) return false;
     repos_.start();
     direVoisin();
+    return true;
+}
+
+/// What was typed in this corpus when the program was ended from outside.
+void Application::reprendreBrouillon() {
+    auto offre = offrirBrouillon(session_, plateforme_);
+    if (!offre) return;
+    ouvrirEntretien({offre->slot, Ouverture::SansFondu});
+    if (visible(Fenetre::FrmVisu))
+        formes_.de<FrmSaisie>(Fenetre::FrmSaisie).reprendre(offre->reprise, std::move(offre->tenu));
 }
 
 /// Another program may have the corpus open too: both are told, the second one, and may go on.
@@ -74,7 +91,7 @@ void Application::montrerCorpusVide() {
 /// What is on the disk counts again, without a question.
 void Application::rouvrirCorpus() {
     session_.corpus.OuvertureDirecte = true;
-    OuvrirCorpus();
+    lireCorpus();
 }
 
 void Application::suivreListe(const SuiteListe& suite) {

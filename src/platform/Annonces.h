@@ -12,6 +12,7 @@ enum class Sujet {
     Extraits,    ///< the extracts of one interview
     Attributs,   ///< the attributes of one interview
     Volume,
+    TexteAbandonne, ///< whether there is one to be taken up
 };
 
 /// One notice: something has changed, and stands.

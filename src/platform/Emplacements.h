@@ -9,6 +9,7 @@ struct Emplacements {
     Utf8 donneesProgramme; ///< its read-only data, as an installed program has them
     Utf8 donneesPersonne;  ///< the user's data directory
     Utf8 execution{};      ///< the user's run-time directory, which goes with the session; empty: none
+    Utf8 etat{};           ///< what the program keeps of its own state for the user; empty: nothing is kept
 
     /// A file that is only read: beside the program first, then in its data directory. Empty when nowhere.
     Utf8 fichierLu(const Utf8& nom) const;

@@ -82,7 +82,7 @@ void ignorerSigxfsz() {
 /// the temporary one goes.
 class Remplacement {
   public:
-    explicit Remplacement(const Utf8& chemin) : chemin_(chemin) {
+    explicit Remplacement(const Utf8& chemin, mode_t mode = 0666) : chemin_(chemin), mode_(mode) {
         ignorerSigxfsz();
         if (chemin.find('\0') != Utf8::npos) refuser(ecriture, EINVAL, chemin);
         cible_ = cibleDe(chemin);
@@ -160,7 +160,7 @@ class Remplacement {
             const Utf8 nom = debut + std::to_string(++suivant) + FIN_TEMPORAIRE;
             fichier_ = Descripteur(appelsSysteme().open(nom.c_str(),
                                                         O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
-                                                        existe_ ? ancien_.st_mode & 0666 : 0666));
+                                                        existe_ ? ancien_.st_mode & 0666 : mode_));
             if (!fichier_.ouvert())
                 exiger(errno == EEXIST || errno == EINTR);
             else if (retenir())
@@ -190,6 +190,7 @@ class Remplacement {
     const Utf8& chemin_;
     Utf8 cible_;
     Utf8 temporaire_; ///< empty when there is none on the disk
+    mode_t mode_;     ///< of a file that wasn't there
     struct stat ancien_ {};
     bool existe_ = false;
     Descripteur repertoire_;
@@ -314,8 +315,10 @@ std::string lireDebut(const Utf8& chemin, std::size_t taille) {
     return octets;
 }
 
-FichierEcrit remplacerFichier(const Utf8& chemin, std::string_view octets) {
-    return *remplacerSi(chemin, octets, {});
+FichierEcrit remplacerFichier(const Utf8& chemin, std::string_view octets, mode_t mode) {
+    Remplacement remplacement(chemin, mode);
+    remplacement.ecrire(octets);
+    return *remplacement.valider();
 }
 
 std::optional<FichierEcrit> remplacerSi(const Utf8& chemin, std::string_view octets,
@@ -362,6 +365,12 @@ bool copierFichier(const Utf8& source, const Utf8& cible,
     return true;
 }
 
+void creerRepertoirePrive(const Utf8& repertoire) {
+    for (std::size_t fin = repertoire.find('/', 1); fin != Utf8::npos; fin = repertoire.find('/', fin + 1))
+        if (::mkdir(repertoire.substr(0, fin).c_str(), 0700) != 0 && errno != EEXIST)
+            refuser("Création du répertoire", errno, repertoire);
+}
+
 void supprimerFichier(const Utf8& chemin) {
     if (chemin.find('\0') != Utf8::npos) return;
     if (appelsSysteme().unlink(chemin.c_str()) != 0 && errno != ENOENT) refuser("Suppression", errno, chemin);
@@ -369,7 +378,8 @@ void supprimerFichier(const Utf8& chemin) {
 
 VerrouFichier::VerrouFichier(const Utf8& chemin)
     : fichier_(appelsSysteme().open(chemin.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600)),
-      tenu_(fichier_.ouvert() && appelsSysteme().flock(fichier_.valeur(), LOCK_EX | LOCK_NB) == 0) {}
+      tenu_(fichier_.ouvert() && appelsSysteme().flock(fichier_.valeur(), LOCK_EX | LOCK_NB) == 0),
+      ailleurs_(fichier_.ouvert() && !tenu_ && errno == EWOULDBLOCK) {}
 
 VerrouRepertoire::VerrouRepertoire(const Utf8& repertoire) {
     constexpr int essais = 50;

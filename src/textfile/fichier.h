@@ -134,7 +134,8 @@ struct FichierEcrit {
 /// symbolic link is followed; the mode of the old file is kept, and its owner where the system allows. A file
 /// that may not be written is not replaced. A killed process may leave ".vermo-*.tmp" beside the file:
 /// `retirerAbandonnes` knows it by the lock that it no longer holds.
-FichierEcrit remplacerFichier(const Utf8& chemin, std::string_view octets);
+/// A file that wasn't there gets `mode`, less what the process's mask takes.
+FichierEcrit remplacerFichier(const Utf8& chemin, std::string_view octets, mode_t mode = 0666);
 
 /// The same, unless `tient` says no, which is asked at the last moment: nothing is then written or given.
 std::optional<FichierEcrit> remplacerSi(const Utf8& chemin, std::string_view octets,
@@ -152,6 +153,10 @@ Utf8 mettreDeCote(const Utf8& chemin);
 bool copierFichier(const Utf8& source, const Utf8& cible,
                    const std::function<bool(std::int64_t, std::int64_t)>& avance = {});
 
+/// Makes a directory, and those on its way, that only the user may enter; one that is there stays as it is.
+/// Throws FauteExecution with the cause.
+void creerRepertoirePrive(const Utf8& repertoire);
+
 /// Removes a file; one that isn't there is no fault.
 void supprimerFichier(const Utf8& chemin);
 
@@ -162,11 +167,12 @@ class VerrouFichier {
     explicit VerrouFichier(const Utf8& chemin);
 
     bool tenu() const noexcept { return tenu_; }
-    bool ailleurs() const noexcept { return fichier_.ouvert() && !tenu_; } ///< another holds it
+    /// Another holds it; where the system has no locks, nobody does.
+    bool ailleurs() const noexcept { return ailleurs_; }
 
   private:
     Descripteur fichier_;
-    bool tenu_ = false;
+    bool tenu_ = false, ailleurs_ = false;
 };
 
 /// Keeps a directory for its owner against other programs that ask for it by the same means, waiting for them

@@ -42,7 +42,9 @@ struct NouvelExtraitVoulu {}; ///< FrmSaisie: the span SaisieDebut..SaisieFin, a
 struct ExtraitVoulu {         ///< FrmSaisie: extract `numero` of the interview that FrmVisu shows
     int numero;
 };
-using Contenu = std::variant<std::monostate, PanneauVoulu, EntretienVoulu, NouvelExtraitVoulu, ExtraitVoulu>;
+struct TexteAbandonneVoulu {}; ///< FrmSaisie: what was discarded last
+using Contenu = std::variant<std::monostate, PanneauVoulu, EntretienVoulu, NouvelExtraitVoulu, ExtraitVoulu,
+                             TexteAbandonneVoulu>;
 
 /// What crosses windows. Windows know each other only through this; the program implements it, and one file
 /// shows all of it. Each window is made at its first reference and lives until it is unloaded.
@@ -59,6 +61,7 @@ class Fenetres {
     virtual bool visible(Fenetre fenetre) const = 0;
     virtual bool entamee(Fenetre fenetre) const = 0; ///< visible, and holds what no file does
     virtual void finir() = 0;                        ///< ends the program, unless something is being typed
+    virtual bool texteAbandonne() const = 0;         ///< whether FrmSaisie has one to take up
     virtual void annoncer(const Avis& avis) = 0;     ///< by the host's `annonces`: every window is told
 
     // Sequences that run through several windows.

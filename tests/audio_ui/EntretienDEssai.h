@@ -34,6 +34,10 @@ class EntretienDEssai : public Scene {
             fenetres.annoncer(avis);
             visu->surAvis(avis);
         };
+        verbes["abandon"] = [this](const std::string& quoi) {
+            fenetres.abandonne = quoi == "offert";
+            hote.annonces.annoncer({Sujet::TexteAbandonne, 1});
+        };
         verbes["saisie"] = [this](const std::string& etat) {
             fenetres.enSaisie = etat == "entamée";
             fenetres.montrer(Fenetre::FrmSaisie);

@@ -84,8 +84,11 @@ constexpr Panneau PANNEAUX[] = {Panneau::Corpus, Panneau::Entretiens, Panneau::T
 
 /// Opens the window so that it shows all that it holds.
 void ouvrir(Programme& programme, Fenetre fenetre, Panneau panneau) {
-    if (fenetre == Fenetre::FrmVisu)
-        return programme.app.montrer(fenetre, EntretienVoulu{1, Ouverture::SansFondu});
+    if (fenetre == Fenetre::FrmVisu) {
+        programme.app.montrer(fenetre, EntretienVoulu{1, Ouverture::SansFondu});
+        programme.app.montrer(Fenetre::FrmSaisie, ExtraitVoulu{1});
+        return programme.faire("focus TextRtr; tape X; touche Escape"); // can be taken up again
+    }
     if (fenetre == Fenetre::FrmMenu) return programme.app.montrer(fenetre, PanneauVoulu{panneau, {}});
     if (fenetre == Fenetre::FrmCorpus) return programme.ouvrirCorpus();
     if (fenetre == Fenetre::FrmIntro) return programme.app.demarrer();

@@ -1,5 +1,6 @@
 // The whole program as a person goes through it: real windows, simulated host.
 #include "Programme.h"
+#include "corpus/Brouillon.h"
 #include "sequences/Ouverture.h"
 
 #include <QPlainTextEdit>
@@ -121,6 +122,53 @@ TEST_F(JourneysTest, NothingOpensOverATextThatIsBeingTyped) {
     faire("focus TextRtr; touche Escape");
     app.finir();
     EXPECT_FALSE(app.visible(Fenetre::FrmCorpus));
+}
+
+/// Typed about b, on a new extract, then about its first one; the program ended in each.
+TEST_F(JourneysTest, WhatWasTypedWhenTheProgramEndedIsOfferedWhereverItsCorpusLies) {
+    hote.plateforme.emplacements.etat = hote.dossier.chemin("etat/");
+    const auto finirBrutalement = [&] {
+        app.mettreALAbri();
+        app.decharger(Fenetre::FrmVisu);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    ouvrirCorpus();
+    app.montrer(Fenetre::FrmVisu, EntretienVoulu{2, Ouverture::SansFondu});
+    faire("position 10; touche Return; position 20; touche Return; focus TextRtr; tape bonjour");
+    finirBrutalement();
+    std::filesystem::rename(hote.dossier.chemin("c"), hote.dossier.chemin("d"));
+
+    faire("fichier d/E.Crp; repondre Annuler « bonjour »; clic lblmenu0; clic lblmenu1");
+    EXPECT_FALSE(app.visible(Fenetre::FrmVisu));
+    faire("repondre Oui Entretien : b; clic lblmenu0; clic lblcorpus1");
+    EXPECT_EQ(tape(), "bonjour");
+    EXPECT_EQ(effetDe("focus TextRtr; touche Ctrl+Return").find("disque d/b.Rtr= +::10.00::000/ +bonjour/"),
+              0U);
+    faire("focus TxtCtrl; touche Ctrl+Right; touche F2; focus TextRtr; tape X");
+    finirBrutalement();
+
+    faire("repondre Oui « mXot »; clic lblmenu0; clic lblcorpus1");
+    EXPECT_EQ(session.transcription.ExtraitCourant, 1);
+    EXPECT_EQ(tape(), "mXot\n");
+    finirBrutalement();
+    hote.dossier.ecrire("etat/brouillons/x.brouillon", ecrireBrouillon({.genre = "extrait",
+                                                                        .corpus = session.corpus.CheminCorpus,
+                                                                        .enregistrement = "b.wav",
+                                                                        .instant = {}}));
+    faire("repondre Non « mXot »; repondre Ok mis de côté; clic lblmenu0; clic lblcorpus1");
+    faire("clic lblmenu0; clic lblcorpus1");
+}
+
+TEST_F(JourneysTest, ADiscardedTextIsTakenUpUntilTheInterviewIsLeft) {
+    ouvrirEntretien();
+    faire(
+        "position 10; touche Return; position 20; touche Return; focus TextRtr; tape bonjour; touche Escape");
+    faire("clic LblReprendre");
+    EXPECT_EQ(tape(), "bonjour");
+    faire("focus TextRtr; touche Escape; clic ImgCorpus");
+    EXPECT_TRUE(rendre());
+    app.montrer(Fenetre::FrmVisu, EntretienVoulu{1, Ouverture::SansFondu});
+    EXPECT_FALSE(controle("LblReprendre").isVisible());
 }
 
 TEST_F(JourneysTest, FaultsInSingleTranscriptsAreEachToldOnceAndTheCorpusOpens) {

@@ -32,6 +32,7 @@ const std::set<std::string> ECRIVAINS = {
     "corpus/Porte.cpp",           // corpus file and transcripts
     "corpus/OuvertureCorpus.cpp", // the recent list
     "corpus/Import.cpp",          // the copy of a recording
+    "corpus/BrouillonTenu.cpp",   // drafts
     "audio/Vues.cpp"              // pictures
 };
 

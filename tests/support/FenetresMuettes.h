@@ -11,7 +11,8 @@ namespace vermo::essai {
 /// a request: "montrer FrmVisu", "montrer FrmVisu 3 SansFondu", "montrer FrmMenu 5", "annoncer Bascules".
 class FenetresMuettes : public Fenetres {
   public:
-    bool enSaisie = false; ///< a text is being typed
+    bool enSaisie = false;  ///< a text is being typed
+    bool abandonne = false; ///< one was abandoned
 
     const std::vector<std::string>& journal() const { return journal_; }
     void effacerJournal() { journal_.clear(); }
@@ -26,10 +27,11 @@ class FenetresMuettes : public Fenetres {
     bool entamee(Fenetre) const override { return enSaisie; }
     void finir() override { noter("finir"); }
     void annoncer(const Avis& avis) override {
-        constexpr const char* SUJETS[] = {"Thematiques", "Bascules",  "Entretiens",
-                                          "Extraits",    "Attributs", "Volume"};
+        constexpr const char* SUJETS[] = {"Thematiques", "Bascules", "Entretiens",    "Extraits",
+                                          "Attributs",   "Volume",   "TexteAbandonne"};
         noter(std::string("annoncer ") + SUJETS[static_cast<int>(avis.sujet)]);
     }
+    bool texteAbandonne() const override { return abandonne; }
     void NouveauCorpus() override { noter("NouveauCorpus"); }
     void OuvrirCorpus() override { noter("OuvrirCorpus"); }
     void ImporterEntretien() override { noter("ImporterEntretien"); }
@@ -54,6 +56,7 @@ class FenetresMuettes : public Fenetres {
                (v.ouverture == Ouverture::AvecFondu ? " AvecFondu" : " SansFondu");
     }
     static std::string dit(NouvelExtraitVoulu) { return " nouvel extrait"; }
+    static std::string dit(TexteAbandonneVoulu) { return " texte abandonné"; }
     static std::string dit(const ExtraitVoulu& v) { return " extrait " + std::to_string(v.numero); }
     void noter(std::string ligne) { journal_.push_back(std::move(ligne)); }
 

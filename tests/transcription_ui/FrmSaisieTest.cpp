@@ -21,6 +21,7 @@ constexpr auto RTR =
 /// Places on Pict_saisie are seconds, on LblSec parts of its height.
 class SaisieDEssai : public Scene {
   public:
+    DossierTemporaire etat; ///< the user's, which drafts go to after "abri"
     std::unique_ptr<FrmSaisie> saisie;
 
     SaisieDEssai() {
@@ -45,6 +46,16 @@ class SaisieDEssai : public Scene {
     std::vector<Forme*> formes() override {
         return saisie ? std::vector<Forme*>{saisie.get()} : std::vector<Forme*>{};
     }
+    /// With "brouillons": the texts of those on the disk, once what is typed stands there.
+    Releve relever() override {
+        Releve releve = Scene::relever();
+        if (!hote.plateforme.emplacements.etat.empty()) saisie->mettreALAbri();
+        std::error_code absent;
+        for (const auto& entree : std::filesystem::directory_iterator(etat.chemin("brouillons"), absent))
+            if (const Utf8 chemin = entree.path(); chemin.ends_with(".brouillon"))
+                releve["brouillons"] += "«" + lireBrouillon(lireFichier(chemin), chemin).texte + "»";
+        return releve;
+    }
     QPoint lieu(const QWidget& toile, const std::string& ou) override {
         const auto& t = session.transcription;
         const double part = std::stod(ou);
@@ -66,6 +77,11 @@ class SaisieDEssai : public Scene {
             t.SaisieDuree = t.SaisieFin - t.SaisieDebut, t.NouvelExtrait = true;
             saisie->PreparerSaisie();
         };
+        verbes["abri"] = [this](const std::string&) { hote.plateforme.emplacements.etat = etat.chemin(); };
+        verbes["prive"] = [this](const std::string&) { etat.ecrire("brouillons", "no directory"); };
+        verbes["ecrit"] = [this](const std::string&) { saisie->mettreALAbri(); };
+        verbes["ferme"] = [this](const std::string&) { saisie->close(); };
+        verbes["reprend"] = [this](const std::string&) { saisie->montrer(TexteAbandonneVoulu{}); };
         verbes["retour"] = [this](const std::string&) { session.transcription.RetourCorpus = true; };
         verbes["revient"] = [this](const std::string&) {
             QApplication::sendEvent(saisie.get(), std::make_unique<QEvent>(QEvent::WindowActivate).get());

@@ -97,6 +97,10 @@ class FrmVisu : public Forme {
     void refuserEnglobement();
     void ouvrirExtrait(int k);
 
+    void montrerReprise();
+    void reprendreTexte();
+    bool aReprendre() const { return fenetres_.texteAbandonne(); }
+
     // FrmVisuLecture.cpp: the player, commands, closing.
     void Media_PlayStateChange(EtatLecture etat); ///< on each change of the player's state
     void jouer();
@@ -138,6 +142,7 @@ class FrmVisu : public Forme {
     std::array<BoutonImage*, 7> ImgMedia_{}; ///< members 1 to 6
     BoutonImage *ImgCroix_, *ImgCorpus_;
     QLabel *LblCompteur_, *lblfich_, *lblEtat_;
+    QAbstractButton* LblReprendre_ = nullptr; ///< beside the line at the foot
     CapteurTouches* TxtCtrl_;
     QTimer Timer1_, Timer3_, TimerPlus_, TimerMoins_;
 

@@ -4,6 +4,7 @@
 #include "audio/ui/GeometrieVisu.h"
 #include "window/Placement.h"
 #include "window/ui/Glace.h"
+#include "window/ui/Lien.h"
 
 #include <utility>
 
@@ -49,6 +50,8 @@ void FrmVisu::creerBoutons() {
     ImgMedia_[4]->hide();
     ImgCorpus_ = commandes_.bouton("corpus", this);
     ImgCroix_ = commandes_.bouton("fermer", this);
+    LblReprendre_ = commandes_.ligne("reprendre", this);
+    LblReprendre_->hide();
 
     for (const auto& [bouton, timer] :
          {std::pair(ImgMedia_[5], &TimerMoins_), std::pair(ImgMedia_[6], &TimerPlus_)}) {
@@ -74,6 +77,7 @@ void FrmVisu::disposer() {
     poser(Pict_zoom_, {0, 0, largeur, zoomHauteur});
     poser(Pict_tpsZ_, {RETRAIT, zoomHaut + zoomHauteur, largeur, REGLE_ZOOM});
     poser(lblEtat_, {RETRAIT + 30, H - BAS, largeur - 60, BAS - 30});
+    poser(LblReprendre_, {RETRAIT + largeur - 30 - REPRISE, H - BAS, REPRISE, BAS - 30});
 }
 
 void FrmVisu::disposerTitre(Twips L) {

@@ -15,6 +15,7 @@ void FrmVisu::AfficherExtraits() {
 void FrmVisu::surAvis(const Avis& avis) {
     if (avis.sujet == Sujet::Extraits && avis.slot == session_.corpus.EntretienCourant) rafraichirExtraits();
     if (avis.sujet == Sujet::Volume) DessinerVolume();
+    if (avis.sujet == Sujet::TexteAbandonne) montrerReprise();
 }
 
 void FrmVisu::rafraichirExtraits() {
@@ -70,6 +71,19 @@ void FrmVisu::poserBorne(int k, bool debut, double v) {
     const bool ecrit = EnregistrerExtraits(session_, plateforme_, nom);
     if (!ecrit) rafraichirExtraits(); // as the file has them
     if ((deplacement.allonge || ouvert) && ecrit) ouvrirExtrait(k);
+}
+
+/// The line at the foot makes room for the offer.
+void FrmVisu::montrerReprise() {
+    LblReprendre_->setVisible(aReprendre());
+    const int fin = LblReprendre_->x() + (aReprendre() ? 0 : LblReprendre_->width());
+    lblEtat_->resize(fin - lblEtat_->x(), lblEtat_->height());
+    commandes_.actualiser();
+}
+
+void FrmVisu::reprendreTexte() {
+    if (!ramenerSaisie(fenetres_.entamee(Fenetre::FrmSaisie)))
+        fenetres_.montrer(Fenetre::FrmSaisie, TexteAbandonneVoulu{});
 }
 
 void FrmVisu::ouvrirExtrait(int k) {

@@ -23,7 +23,8 @@ constexpr Twips REGLE = 345;
 constexpr Twips LECT_HAUT = VUE_HAUT + HAUTEUR_PICTURE1 + REGLE + 60;
 constexpr Twips LECT_HAUTEUR = 2895;
 constexpr Twips REGLE_ZOOM = 600;
-constexpr Twips BAS = 360; ///< the line under everything
+constexpr Twips BAS = 360;      ///< the line under everything
+constexpr Twips REPRISE = 3300; ///< at its end, the offer of the abandoned text
 
 // The extract's text in PictLect.
 constexpr Twips BARRE_LECT = 60, TEXTE_LECT_HAUT = 120, TEXTE_LECT_LARGEUR = 7500;

@@ -57,8 +57,8 @@ class ToileEntretiens : public ToileDefilante {
     Session& session_;
     Fenetres& fenetres_;
     std::vector<Utf8> vues_;
-    bool vide_ = true;                       ///< nothing is shown before the first redraw
-    bool tailleReelle_ = false;              ///< as of the last redraw
+    bool vide_ = true;          ///< nothing is shown before the first redraw
+    bool tailleReelle_ = false; ///< as of the last redraw
 
     // A row that is pressed, and perhaps dragged.
     int source_ = 0, cible_ = 0;

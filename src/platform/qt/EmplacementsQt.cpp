@@ -13,10 +13,13 @@ Emplacements emplacementsQt() {
     };
     const QString programme = QCoreApplication::applicationDirPath();
     const QString execution = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    const QString etat = qEnvironmentVariable("XDG_STATE_HOME");
     return {dossier(programme), dossier(programme + QStringLiteral("/../share/vermo")),
             dossier(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                     QStringLiteral("/Vermo")),
-            execution.isEmpty() ? Utf8() : dossier(execution)};
+            execution.isEmpty() ? Utf8() : dossier(execution),
+            dossier((QDir::isAbsolutePath(etat) ? etat : QDir::homePath() + QStringLiteral("/.local/state")) +
+                    QStringLiteral("/Vermo"))};
 }
 
 } // namespace vermo

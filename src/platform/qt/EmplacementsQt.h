@@ -4,7 +4,7 @@
 namespace vermo {
 
 /// The places of the running program: its directory, "../share/vermo/" beside that, and the user's
-/// "Vermo/" in the desktop's directory for data.
+/// "Vermo/" in the desktop's directories for data and for state.
 Emplacements emplacementsQt();
 
 } // namespace vermo

@@ -13,6 +13,7 @@
 #include <QCloseEvent>
 #include <QEvent>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <utility>
 
 namespace vermo {
@@ -78,7 +79,10 @@ void FrmSaisie::creerTexte() {
     TextRtr_ = new EditeurRtr(this);
     theme::habiller(TextRtr_);
     poser(TextRtr_, t::TEXTRTR);
-    connect(TextRtr_, &QPlainTextEdit::textChanged, this, [this] { fiche_.texte = TextRtr_->saisi(); });
+    connect(TextRtr_, &QPlainTextEdit::textChanged, this, [this] {
+        fiche_.texte = TextRtr_->saisi();
+        if (!remplissage_) garder([this] { garderBrouillon(); });
+    });
     connect(TextRtr_, &EditeurRtr::refusesChanges, this, [this](int nombre) {
         etat_->setText(
             nombre == 0
@@ -94,6 +98,8 @@ void FrmSaisie::montrer(const Contenu& contenu) {
         PreparerSaisie();
     else if (const auto* voulu = std::get_if<ExtraitVoulu>(&contenu))
         OuvrirExtrait(voulu->numero);
+    else if (std::holds_alternative<TexteAbandonneVoulu>(contenu))
+        reprendreAbandon();
     else
         Forme::montrer(contenu);
 }
@@ -114,6 +120,7 @@ void FrmSaisie::retrouverExtrait() {
     etat.ExtraitCourant = static_cast<float>(numero);
     etat.NouvelExtrait = numero == 0;
     Imgsuppr_->setVisible(!etat.NouvelExtrait);
+    garderBrouillon();
 }
 
 void FrmSaisie::relireExtrait() {
@@ -201,6 +208,7 @@ void FrmSaisie::placerLargeur(bool depliee) {
 }
 
 void FrmSaisie::montrerFiche() {
+    const QScopedValueRollback remplissage(remplissage_, true);
     montrerThematique();
     TextRtr_->texte(fiche_.texte);
 }
@@ -251,6 +259,7 @@ bool FrmSaisie::eventFilter(QObject* objet, QEvent* evenement) {
 }
 
 void FrmSaisie::FermerSaisie() {
+    abandonner();
     arreterAllongement();
     session_.transcription.SaisieDuree = 0;
     hide();
@@ -304,6 +313,7 @@ void FrmSaisie::valider() {
                                     texte, fiche_.thematique.tag)
                    : saisie::validerModification(session_, plateforme_, fiche_.thematique.caption, texte);
     });
+    if (ecrit) retirerBrouillon();
     if (!ecrit || etat.NouvelExtrait || !etat.RetourCorpus) return;
     etat.RetourCorpus = false;
     quitterEntretien(session_, plateforme_);
@@ -316,6 +326,7 @@ void FrmSaisie::supprimer() {
     const Retranscription cible = retranscriptionDuLecteur(session_, plateforme_);
     const bool supprime =
         cacherPour([&] { return SupprimerExtrait(session_, plateforme_, cible) == Suppression::Supprime; });
+    if (supprime) retirerBrouillon();
     if (!supprime || !etat.RetourCorpus) return;
     etat.RetourCorpus = false;
     quitterEntretien(session_, plateforme_);

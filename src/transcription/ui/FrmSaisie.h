@@ -1,7 +1,8 @@
 #pragma once
 #include "audio/Onde.h"
+#include "corpus/BrouillonTenu.h"
 #include "corpus/Session.h"
-#include "transcription/Fiche.h"
+#include "transcription/Reprise.h"
 #include "window/ui/Commandes.h"
 #include "window/ui/Forme.h"
 #include "window/ui/Theme.h"
@@ -10,6 +11,8 @@
 #include <QTimer>
 #include <array>
 #include <functional>
+#include <memory>
+#include <optional>
 
 class QLabel;
 class QLineEdit;
@@ -20,16 +23,19 @@ class EditeurRtr;
 class Lien;
 
 /// The window in which one extract is listened to, typed and coded. Nothing reaches the transcript until the
-/// extract is validated; leaving by Esc or the cross discards what was typed.
+/// extract is validated. What is typed has its draft on the disk until then; leaving by Esc or the cross
+/// discards it, and keeps it at hand as the abandoned text until another is, or until the interview is left.
 ///
 /// The rules stand in transcription/Saisie.h; this class only places controls, asks them, and tells the
 /// player. Split by concern: FrmSaisie.cpp (making and opening), FrmSaisieEcoute.cpp (player, timers,
 /// waveform), FrmSaisieOptions.cpp (dictation, seconds, speed), FrmSaisieThematiques.cpp (panel and new
-/// thematic), FrmSaisieCommandes.cpp (what its buttons and keys do).
+/// thematic), FrmSaisieBrouillon.cpp (draft, abandoned text), FrmSaisieCommandes.cpp (what its buttons and
+/// keys do).
 class FrmSaisie : public Forme {
     Q_OBJECT
   public:
     FrmSaisie(Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent = nullptr);
+    ~FrmSaisie() override;
     static TableCommandes commandes();
 
     /// Opens the span SaisieDebut..SaisieFin as a new extract, the panel of thematics out.
@@ -42,6 +48,11 @@ class FrmSaisie : public Forme {
     void FermerSaisie();
     /// The text, the thematic or the end of the span are no more what they were at the opening.
     bool entamee() const override;
+    /// What was discarded last can be taken up again.
+    bool aReprendre() const { return abandon_.has_value(); }
+    /// Opens what was typed and no file holds, on its extract or as a new one, and goes on with its draft.
+    void reprendre(const saisie::Reprise& reprise, std::unique_ptr<BrouillonTenu> brouillon);
+    void mettreALAbri() override;
     /// Refills the panel from the thematic table.
     void ConstruireThematiques();
 
@@ -76,6 +87,15 @@ class FrmSaisie : public Forme {
     void valider();
     void supprimer();
     bool texteValide(Texte& texte); ///< false, and told, when CP1252 can't hold it
+
+    // FrmSaisieBrouillon.cpp
+    void garderBrouillon(); ///< after each change of what no file holds
+    void tenirBrouillon(std::unique_ptr<BrouillonTenu> brouillon);
+    void retirerBrouillon();
+    void oublier(std::unique_ptr<BrouillonTenu> brouillon);
+    void direFauteBrouillon(const Utf8& faute);
+    void abandonner();
+    void reprendreAbandon();
 
     // FrmSaisieEcoute.cpp, FrmSaisieOptions.cpp
     void creerEcoute();
@@ -144,10 +164,16 @@ class FrmSaisie : public Forme {
     std::array<BoutonImage*, 3> BtnOpt_{};
     QTimer Timer1_, Timer2_, Timer3_, Timer4_;
 
-    saisie::Fiche fiche_, ouverte_; ///< what is worked on, and as it was at the opening
-    Couleur couleurAjout_ = 0;      ///< of ShpFdThm
-    Texte CouleurChoisie_;          ///< decimal value; empty: none
-    double FinInitiale_ = 0;        ///< end of the span when lengthening began
+    saisie::Fiche fiche_, ouverte_;          ///< what is worked on, and as it was at the opening
+    std::optional<saisie::Reprise> abandon_; ///< the text that was discarded last
+    std::unique_ptr<BrouillonTenu> brouillon_, brouillonAbandon_; ///< once there is something to keep
+    Brouillon enTete_;                                            ///< of the draft, without what is typed
+    DejaDit brouillonRefuse_;
+    bool aLAbri_ = false;      ///< the program is about to end: drafts stay
+    bool remplissage_ = false; ///< the text changes by no key
+    Couleur couleurAjout_ = 0; ///< of ShpFdThm
+    Texte CouleurChoisie_;     ///< decimal value; empty: none
+    double FinInitiale_ = 0;   ///< end of the span when lengthening began
     Twips GlisseDebut_ = 0, GlisseFin_ = 0;
     Twips curseur_ = 0;   ///< Left of Curseur
     Rectangle portion_{}; ///< ShpDict; no width: hidden

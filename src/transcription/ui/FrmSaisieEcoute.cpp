@@ -221,6 +221,7 @@ void FrmSaisie::allonger() {
 void FrmSaisie::Timer4_Tick() {
     saisie::allonger(session_, plateforme_.media.currentPosition());
     fiche_.fin = session_.transcription.SaisieFin;
+    garderBrouillon();
     titrer();
     dessinerOnde();
 }
@@ -228,6 +229,7 @@ void FrmSaisie::Timer4_Tick() {
 void FrmSaisie::finirAllongement() {
     saisie::allonger(session_, plateforme_.media.currentPosition());
     fiche_.fin = session_.transcription.SaisieFin;
+    garderBrouillon();
     arreterAllongement();
     titrer();
     dessinerOnde();

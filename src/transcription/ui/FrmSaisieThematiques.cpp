@@ -102,6 +102,7 @@ void FrmSaisie::choisirThematique(int rang) {
     lbl_thm_->encre(0);
     placerLargeur(false);
     ConstruireThematiques();
+    garderBrouillon();
 }
 
 void FrmSaisie::choisirCouleur(int index) {

@@ -35,6 +35,9 @@ class Forme : public QWidget {
     /// Holds what was typed and stands in no file.
     virtual bool entamee() const { return false; }
 
+    /// The program may end at once: what was typed and stands in no file is on the disk when this returns.
+    virtual void mettreALAbri() {}
+
     /// What every window's keys and rows do with the history of changes.
     void annulerChangement() { fenetres_.annulerChangement(); }
     void refaireChangement() { fenetres_.refaireChangement(); }
