@@ -21,8 +21,8 @@ constexpr std::chrono::milliseconds REPIT{300}; ///< in which the same fault is 
 } // namespace
 
 Forme::Forme(const char* nom, Session& session, Plateforme& plateforme, Fenetres& fenetres, QWidget* parent)
-    : QWidget(parent, Qt::Window | Qt::FramelessWindowHint), session_(session), plateforme_(plateforme),
-      fenetres_(fenetres) {
+    : QWidget(parent, (parent ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint), session_(session),
+      plateforme_(plateforme), fenetres_(fenetres) {
     setObjectName(QLatin1String(nom));
     setWindowTitle(QStringLiteral("Vermo"));
 }

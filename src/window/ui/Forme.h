@@ -25,6 +25,7 @@ struct Session;
 class Forme : public QWidget {
     Q_OBJECT
   public:
+    /// Over `parent`, wherever the window manager would put it: as a dialog, as only those stay in front.
     Forme(const char* nom, Session& session, Plateforme& plateforme, Fenetres& fenetres,
           QWidget* parent = nullptr);
 
