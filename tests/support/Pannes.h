@@ -32,8 +32,8 @@ class Pannes {
         table.write = [](int d, const void* octets, std::size_t n) -> ssize_t {
             return frappe("write") ? -1 : etat().vrais.write(d, octets, std::min(n, etat().panne.morceau));
         };
-        table.fdatasync = [](int d) { return frappe("fdatasync") ? -1 : etat().vrais.fdatasync(d); };
-        table.fsync = [](int d) { return frappe("fsync") ? -1 : etat().vrais.fsync(d); };
+        table.fdatasync = [](int) { return frappe("fdatasync") ? -1 : 0; }; // a kill leaves what was written
+        table.fsync = [](int) { return frappe("fsync") ? -1 : 0; };
         table.close = [](int d) {
             const bool echec = frappe("close");
             const int erreur = errno, resultat = etat().vrais.close(d);
