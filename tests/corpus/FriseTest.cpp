@@ -154,14 +154,4 @@ TEST(Panels, FramesStandAroundThem) {
               std::pair(Rectangle(), Rectangle{3760, 13620, 24860, 2400}));
 }
 
-TEST(Panels, AnActiveOneAloneCountsAsNoneAndNotAllAsNone) {
-    EtatCorpus corpus = corpusDEssai(3).corpus;
-    isolerEntretien(corpus, 3);
-    basculerTousEntretiens(corpus);
-    EXPECT_EQ(compteEntretiens(corpus), "Entretiens  (3/3)");
-    basculerThematique(corpus, 1);
-    basculerToutesThematiques(corpus);
-    EXPECT_EQ(compteThematiques(corpus), depuisUtf8("Thématiques  (3/3)"));
-}
-
 } // namespace

@@ -25,7 +25,6 @@ struct Accord : Dialogues {
 /// each: the old file or the new one.
 TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
     EntretienOuvert e(" 125.5 \r\n::10.00::001\r\nBonjour.\r\r\n::12.50::\r\n");
-    e.thematiques({"001"});
     const DossierTemporaire& dossier = e.hote.dossier;
     Session& session = e.session;
     Session autre;

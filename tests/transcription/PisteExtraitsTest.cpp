@@ -15,7 +15,6 @@ namespace {
 /// An interview of 100 s that shows `debut` to `fin`, its extracts those of `rtr`.
 struct Vue : EntretienOuvert {
     Vue(double debut, double fin, const std::string& rtr) : EntretienOuvert("100\r\n" + rtr) {
-        thematiques({"001", "002", "003"});
         session.audio.DureeFichier = 100;
         session.audio.DebutZoom = debut;
         session.audio.FinZoom = fin;

@@ -67,17 +67,9 @@ TEST(Transcript, WithAFaultIsToldOnceAndNeverRewritten) {
     }
 }
 
-TEST(Transcript, IsRewrittenWithoutNegativeStarts) {
-    EntretienOuvert e(TETE + UN + DEUX);
-    e.etat.ExtraitCode[1] = "002 Travail";
-    e.etat.ExtraitTexte[1] = "";
+TEST(Transcript, IsRewrittenUnderItsNameWithTheMachinesCommaAndNoNegativeStart) {
+    EntretienOuvert e("60\r\n::1,5::000\r\na\r\n::2::\r\n::3::001\r\n::4::\r\n", {}, ',', "A.RTR");
     e.etat.ExtraitDebut[2] = -1.0;
-    EXPECT_TRUE(EnregistrerExtraits(e.session, e.hote));
-    EXPECT_EQ(e.disque(), TETE + "::10.00::002 Travail\r\n\r\n::12.50::\r\n");
-}
-
-TEST(Transcript, KeepsTheDisksNameAndTheMachinesComma) {
-    EntretienOuvert e("60\r\n::1,5::000\r\na\r\n::2::\r\n", {}, ',', "A.RTR");
     EXPECT_TRUE(EnregistrerExtraits(e.session, e.hote));
     const std::string ecrit = e.hote.dossier.lire("A.RTR");
     EXPECT_EQ(ecrit.substr(0, 9) + ecrit.substr(ecrit.find("::")),
