@@ -98,9 +98,8 @@ TEST(CorpusRewriting, LeavesOutWhatIsEmptyAndAFileWithoutItsTag) {
 }
 
 TEST(Order, MovesInterviewsWithTheirExtracts) {
-    const std::tuple<int, int, std::string> cas[] = {{3, 1, "3 1 2 4 "}, {1, 3, "2 3 1 4 "},
-                                                     {2, 2, "1 2 3 4 "}, {4, 3, "1 2 4 3 "},
-                                                     {0, 2, "1 2 3 4 "}, {1, 5, "1 2 3 4 "}};
+    const std::tuple<int, int, std::string> cas[] = {
+        {3, 1, "3 1 2 4 "}, {0, 2, "1 2 3 4 "}, {1, 5, "1 2 3 4 "}};
     for (const auto& [source, cible, attendu] : cas) {
         Session session = corpusDEssai(4);
         for (std::size_t i = 1; i <= 4; ++i)

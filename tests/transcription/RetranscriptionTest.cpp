@@ -199,14 +199,9 @@ TEST(Thematics, WhatAnExtractShowsAndWhatMayBeAdded) {
     for (const int rang : {0, 4})
         EXPECT_THROW(thematiqueDuRang(corpus, rang), FauteExecution);
 
-    const Refus refus = verifierThematique(corpus, {"a", "n", "1"}).value_or(Refus{});
-    EXPECT_TRUE(refus.message.texte.starts_with("Le code 'a' existe déjà")) << "it would be 000";
-    EXPECT_TRUE(refus.codeFautif);
     CorpusDEssai essai;
     essai.ecrireCorpus("000,&H0, Sans\r\n", "");
     ASSERT_TRUE(essai.ouvrir());
-    EXPECT_FALSE(ajouterThematique(essai.session, essai.hote, {"8", "Vie, travail", "255"}));
-    EXPECT_EQ(thematiqueDeCode(essai.corpus(), "008").caption, "008 Vie, travail");
     std::string pleine;
     for (int code = 0; code < 999; ++code)
         pleine += std::to_string(code) + ",0,n\r\n";
