@@ -14,11 +14,11 @@ inline std::string entier(std::uint32_t valeur, int octets) {
 
 /// A wave file. `apresFmt` stands between the format chunk and "data".
 inline std::string wav(int canaux, int bits, const std::string& echantillons,
-                       const std::string& apresFmt = {}) {
+                       const std::string& apresFmt = {}, std::uint32_t frequence = 8000) {
     const auto bloc = static_cast<std::uint32_t>(canaux * bits / 8);
     return "RIFF" + entier(static_cast<std::uint32_t>(36 + apresFmt.size() + echantillons.size()), 4) +
            "WAVEfmt " + entier(16, 4) + entier(1, 2) + entier(static_cast<std::uint32_t>(canaux), 2) +
-           entier(8000, 4) + entier(8000 * bloc, 4) + entier(bloc, 2) +
+           entier(frequence, 4) + entier(frequence * bloc, 4) + entier(bloc, 2) +
            entier(static_cast<std::uint32_t>(bits), 2) + apresFmt + "data" +
            entier(static_cast<std::uint32_t>(echantillons.size()), 4) + echantillons;
 }

@@ -1,6 +1,5 @@
 #include "corpus/Porte.h"
 
-#include "corpus/EcritureCorpus.h"
 #include "support/CorpusDEssai.h"
 #include "support/Pannes.h"
 #include "textfile/faute.h"

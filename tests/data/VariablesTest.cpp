@@ -2,7 +2,6 @@
 
 #include "corpus/AnalyserEntretiens.h"
 #include "support/PlateformeDeTest.h"
-#include "textfile/faute.h"
 
 #include <gtest/gtest.h>
 

@@ -15,14 +15,18 @@ namespace {
 /// The files that rows speak of, beside the corpus.
 void poserFichiers(Programme& p) {
     const DossierTemporaire& dossier = p.hote.dossier;
-    for (const char* nom : {"c/z.wav", "c/nul.wav", "ailleurs/y.wav", "ailleurs/a.wav"})
+    for (const char* nom :
+         {"c/z.wav", "c/nul.wav", "c/A.wav", "c/É.wav", "c/garde.wav", "ailleurs/y.wav", "ailleurs/a.wav",
+          "ailleurs/nul.wav", "ailleurs/e\u0301.wav", "ailleurs/łódź.wav"})
         dossier.ecrire(nom, wav(1, 8, std::string(9000, '\x7F')));
-    for (const char* nom : {"c/s.wav", "ailleurs/été.wav"})
+    for (const char* nom : {"c/s.wav", "ailleurs/été.wav", "ailleurs/Z.wav"})
         dossier.ecrire(nom, STEREO);
+    for (const char* nom : {"ailleurs/e.mp3", "ailleurs/A.mp3", "c/a.mp3", "c/A 2.Rtr"})
+        dossier.ecrire(nom, "son");
     dossier.ecrire("d/F.Crp", std::string(TETE) + "x.wav\r\n>|ENTR|\r\n");
     dossier.ecrire("d/x.wav", MONO);
-    dossier.ecrire("ailleurs/e.mp3", "son");
-    dossier.ecrire("d/x.Rtr", RTR);
+    for (const char* nom : {"d/x.Rtr", "c/garde.Rtr"})
+        dossier.ecrire(nom, RTR);
     dossier.ecrire("donnees/Vermo de Vermo.mp3", "son");
     p.hote.media.durees = {{"nul.wav", 0}, {"été.wav", 75.5}};
 }

@@ -39,7 +39,7 @@ class LecteurReel : public testing::Test {
         dansUnAppel = false;
     }
     Utf8 enregistrement(double secondes, const Utf8& nom = "a.wav") {
-        return dossier.ecrire(nom, wav(son(secondes), {}));
+        return dossier.ecrire(nom, son(secondes));
     }
 
     DossierTemporaire dossier;
@@ -54,16 +54,15 @@ class LecteurReel : public testing::Test {
 
 TEST_F(LecteurReel, DurationsAreThoseOfTheSoundInTheFile) {
     constexpr double TRAME = 1152.0 / 44100;
-    const FormatWav stereo{16, 2, 44100};
     const struct {
         Utf8 nom;
         std::string octets;
         double duree;
     } cas[] = {
-        {"8 bits.wav", wav(son(2), {}), 2},
-        {"été, l'\"entretien\".WAV", wav(son(1.5, stereo), stereo), 1.5},
-        {"coupé.wav", wav(son(2), {}, 80000), 2},
-        {"sans taille.wav", wav(son(2), {}, 0), 2},
+        {"8 bits.wav", son(2), 2},
+        {"été, l'\"entretien\".WAV", son(1.5, 2, 16, 44100), 1.5},
+        {"coupé.wav", annoncant(80000, son(2)), 2},
+        {"sans taille.wav", annoncant(0, son(2)), 2},
         {"variable.mp3", mp3(300), 300 * TRAME},
     };
     for (const auto& c : cas) {
@@ -144,13 +143,16 @@ TEST_F(LecteurReel, AChangeOfRateKeepsThePosition) {
     EXPECT_LT(lecteur.currentPosition() - avant, 0.1 + 1.25e-3 * static_cast<double>(montre.elapsed()));
 }
 
-TEST_F(LecteurReel, WhatIsAskedWhileLoadingIsDoneOnceReady) {
+TEST_F(LecteurReel, WhatIsAskedBeforeAndWhileItLoadsIsDoneOnceReadyUnderADecimalCommaToo) {
+    std::setlocale(LC_NUMERIC, "fr_FR.UTF-8"); // where it is installed
+    lecteur.volume(40);                        // before the library is there
     lecteur.URL(enregistrement(4));
     lecteur.currentPosition(3);
     lecteur.play();
     EXPECT_EQ(lecteur.currentPosition(), 3);
     ASSERT_TRUE(attendre(EtatLecture::Lecture));
     EXPECT_TRUE(attendrePosition(3.1));
+    EXPECT_EQ(lecteur.volume(), 40);
 }
 
 TEST_F(LecteurReel, AFileCutAndGoneWhileItPlaysComesToAnEnd) {
@@ -163,13 +165,6 @@ TEST_F(LecteurReel, AFileCutAndGoneWhileItPlaysComesToAnEnd) {
     lecteur.currentPosition(500);
     EXPECT_TRUE(attendre([&] { return !lecteur.enLecture(); }));
     EXPECT_FALSE(charger(chemin));
-}
-
-TEST_F(LecteurReel, StartsUnderADecimalCommaAndKeepsTheVolumeAskedBefore) {
-    std::setlocale(LC_NUMERIC, "fr_FR.UTF-8"); // where it is installed
-    lecteur.volume(40);                        // before the library is there
-    ASSERT_TRUE(charger(enregistrement(1)));
-    EXPECT_EQ(lecteur.volume(), 40);
 }
 
 /// Plays into the file "audiodump.wav" of the current directory.
@@ -191,11 +186,10 @@ class LecteurVersFichier : public testing::Test {
 };
 
 TEST_F(LecteurVersFichier, WhatIsHeardBeginsExactlyWhereAskedAtALinearVolume) {
-    constexpr FormatWav format{16, 1, 8000};
     std::string rampe; // each sample tells its own place
     for (std::uint32_t i = 0; i < 32000; ++i)
         rampe += entier(i, 2);
-    const Utf8 chemin = dossier.ecrire("rampe.wav", wav(rampe, format));
+    const Utf8 chemin = dossier.ecrire("rampe.wav", wav(1, 16, rampe));
     for (int volume : {100, 50}) {
         {
             LecteurDiffere lecteur("pcm");
@@ -215,7 +209,7 @@ TEST_F(LecteurVersFichier, WhatIsHeardBeginsExactlyWhereAskedAtALinearVolume) {
 
 TEST_F(LecteurVersFichier, WithoutAnOutputItPlaysSilentlyAndSaysSo) {
     const DossierTemporaire ailleurs;
-    const Utf8 son1 = ailleurs.ecrire("a.wav", wav(son(2), {}));
+    const Utf8 son1 = ailleurs.ecrire("a.wav", son(2));
     fs::remove_all(dossier.chemin()); // no output can be made here
     LecteurDiffere lecteur("pcm");
     lecteur.URL(son1);

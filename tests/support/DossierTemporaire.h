@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -45,7 +45,9 @@ class DossierTemporaire {
     std::string lire(const Utf8& nom) const {
         std::ifstream fichier(chemin(nom), std::ios::binary);
         EXPECT_TRUE(fichier) << "no file " << chemin(nom);
-        return {std::istreambuf_iterator<char>(fichier), {}};
+        std::ostringstream octets;
+        octets << fichier.rdbuf();
+        return std::move(octets).str();
     }
 
   private:

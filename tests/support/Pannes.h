@@ -17,7 +17,7 @@ struct Panne {
     int erreur = 0;                 ///< errno that the call fails with; 0: the process is killed there
     std::string appel = {};         ///< strikes only this call ("write"), counted alone
     bool toujours = false;          ///< strikes again at each later one
-    std::size_t morceau = SIZE_MAX; ///< bytes that one write takes at most
+    std::size_t morceau = SIZE_MAX; ///< bytes that one read or write takes at most
 };
 
 /// Puts a `Panne` into the table while it lives.
@@ -29,11 +29,17 @@ class Pannes {
         table.open = [](const char* chemin, int drapeaux, mode_t mode) {
             return frappe("open") ? -1 : etat().vrais.open(chemin, drapeaux, mode);
         };
+        table.read = [](int d, void* vers, std::size_t n) -> ssize_t {
+            return frappe("read") ? -1 : etat().vrais.read(d, vers, std::min(n, etat().panne.morceau));
+        };
+        table.pread = [](int d, void* vers, std::size_t n, off_t ou) -> ssize_t {
+            return frappe("pread") ? -1 : etat().vrais.pread(d, vers, std::min(n, etat().panne.morceau), ou);
+        };
         table.write = [](int d, const void* octets, std::size_t n) -> ssize_t {
             return frappe("write") ? -1 : etat().vrais.write(d, octets, std::min(n, etat().panne.morceau));
         };
-        table.fdatasync = [](int d) { return frappe("fdatasync") ? -1 : etat().vrais.fdatasync(d); };
-        table.fsync = [](int d) { return frappe("fsync") ? -1 : etat().vrais.fsync(d); };
+        table.fdatasync = [](int) { return frappe("fdatasync") ? -1 : 0; }; // a kill leaves what was written
+        table.fsync = [](int) { return frappe("fsync") ? -1 : 0; };
         table.close = [](int d) {
             const bool echec = frappe("close");
             const int erreur = errno, resultat = etat().vrais.close(d);
@@ -79,7 +85,7 @@ class Pannes {
 /// Temporary files in `dossier`, which are removed.
 inline long temporairesRestants(const DossierTemporaire& dossier) {
     long restants = 0;
-    for (const auto& entree : std::filesystem::directory_iterator(dossier.chemin()))
+    for (const auto& entree : std::filesystem::recursive_directory_iterator(dossier.chemin()))
         if (entree.path().filename().string().starts_with(".vermo-"))
             restants += std::filesystem::remove(entree) ? 1 : 0;
     return restants;

@@ -1,19 +1,10 @@
 #pragma once
+#include "support/Fiches.h"
+
 #include <QDir>
 #include <QImage>
-#include <cstdlib>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <sstream>
-#include <string>
-#include <utility>
 
 namespace vermo::essai {
-
-/// References are written anew instead of compared.
-inline bool aRefaire() {
-    return qEnvironmentVariableIsSet("VERMO_REFAIRE_TEMOINS");
-}
 
 /// The most by which two pictures of one size differ in one colour, of 255, and where.
 inline std::pair<int, QPoint> ecart(const QImage& a, const QImage& b) {
@@ -39,15 +30,6 @@ inline void comparerPhoto(const std::string& nom, const QImage& vue) {
     petite.save(vu);
     ADD_FAILURE() << nom << " looks otherwise, most at " << ou.x() << "," << ou.y() << " by " << valeur
                   << " of 255: " << vu.toStdString();
-}
-
-/// With tests/vues/`nom`.txt.
-inline void comparerFiche(const std::string& nom, const std::string& fiche) {
-    const std::string fichier = VERMO_RACINE "/tests/vues/" + nom + ".txt";
-    if (aRefaire()) return void(std::ofstream(fichier) << fiche);
-    std::stringstream temoin;
-    temoin << std::ifstream(fichier).rdbuf();
-    EXPECT_EQ(fiche, temoin.str());
 }
 
 } // namespace vermo::essai

@@ -63,21 +63,14 @@ TEST(FileReading, GoesOnAfterShortAndInterruptedReads) {
     const DossierTemporaire dossier;
     const std::string octets = contenu(5000);
     const Utf8 chemin = dossier.ecrire("a", octets);
-    const AppelsSysteme vrais = appelsSysteme();
-    static int appels;
-    static const auto interrompu = [] { return errno = EINTR, ++appels % 2 == 0; };
-    appelsSysteme().read = [](int d, void* vers, std::size_t n) {
-        return interrompu() ? -1 : ::read(d, vers, std::min<std::size_t>(n, 700));
-    };
-    appelsSysteme().pread = [](int d, void* vers, std::size_t n, off_t position) {
-        return interrompu() ? -1 : ::pread(d, vers, std::min<std::size_t>(n, 700), position);
-    };
     std::string morceau(4000, ' ');
-    EXPECT_EQ(Source(chemin).lireA(500, morceau.data(), 4000), 4000U);
-    EXPECT_EQ(lireFichier(chemin), octets);
-    EXPECT_EQ(lireDebut(chemin, 4000), octets.substr(0, 4000));
-    appelsSysteme() = vrais;
-    EXPECT_EQ(morceau, octets.substr(500, 4000));
+    for (const char* appel : {"read", "pread"}) {
+        const Pannes pannes({2, EINTR, appel, false, 700});
+        EXPECT_EQ(Source(chemin).lireA(500, morceau.data(), 4000), 4000U);
+        EXPECT_EQ(morceau, octets.substr(500, 4000));
+        EXPECT_EQ(lireFichier(chemin), octets);
+        EXPECT_EQ(lireDebut(chemin, 4000), octets.substr(0, 4000));
+    }
 }
 
 TEST(FileReplacement, TellsEachCallThatFails) {

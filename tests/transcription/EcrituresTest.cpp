@@ -12,29 +12,16 @@ using namespace vermo::essai;
 
 namespace {
 
-/// A person who agrees to everything, and always names the same file.
-struct Accord : Dialogues {
-    Utf8 fichier;
-    Reponse demander(const Message& message) override {
-        return message.boutons == Boutons::OuiNon ? Reponse::Oui : Reponse::Ok;
-    }
-    Utf8 choisirFichier(const DemandeFichier&) override { return fichier; }
-};
-
 /// Each file that the program writes, under every fault of every system call on the way and under a kill at
 /// each: the old file or the new one.
 TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
     EntretienOuvert e(" 125.5 \r\n::10.00::001\r\nBonjour.\r\r\n::12.50::\r\n");
-    e.thematiques({"001"});
-    const DossierTemporaire& dossier = e.hote.dossier;
+    PlateformeDeTest& hote = e.hote;
+    const DossierTemporaire& dossier = hote.dossier;
     Session& session = e.session;
     Session autre;
-    Accord accord;
-    accord.fichier = dossier.chemin("Neuf.Crp");
-    e.hote.progression.patience = 1'000'000;
-    PlateformeDeTest& p = e.hote;
-    Plateforme hote{accord,  p.media,       p.horloge,  p.lanceur,
-                    p.ecran, p.progression, p.annonces, {dossier.chemin(), {}, {}}};
+    hote.dialogues.accord = dossier.chemin("Neuf.Crp");
+    hote.progression.patience = 1'000'000;
     const std::string corpus = "Projet\r\n<|THEM|\r\n000,0,Pas\r\n>|THEM|\r\n<|ENTR|\r\n>|ENTR|\r\n";
     const std::string rtr = e.disque();
     const Utf8 source = dossier.ecrire("ailleurs/son.wav", std::string(5000, 's'));
@@ -55,7 +42,7 @@ TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
     } cas[] = {{"E.Crp", corpus, [&] { lireCorpus(), EcrireThematiques(session, hote); }},
                {"E.Crp", corpus, [&] { lireCorpus(), EcrireEntretiens(session, hote); }},
                {"Neuf.Crp", {}, [&] { creerCorpus(autre, hote); }},
-               {"Projets.ini", "/ancien.Crp\r\n", [&] { MettreAJourProjets(session, hote); }},
+               {"programme/Projets.ini", "/ancien.Crp\r\n", [&] { MettreAJourProjets(session, hote); }},
                {"son.wav", {}, apporter},
                {"son.wav", "ancien", apporter},
                {"a.Rtr", {}, [&] { InsererEntretien(session, hote, 1, ""); }},
@@ -69,7 +56,7 @@ TEST(Writing, LeavesTheOldFileOrTheNewOneWhateverFails) {
         SCOPED_TRACE(c.nom);
         dossier.ecrire("E.Crp", corpus);
         session.corpus.CheminCorpus = dossier.chemin("E.Crp");
-        e.hote.media.URL(dossier.chemin("a.wav"));
+        hote.media.URL(dossier.chemin("a.wav"));
         c.ancien ? void(dossier.ecrire(c.nom, *c.ancien)) : supprimerFichier(dossier.chemin(c.nom));
         survitAuxPannes(dossier, c.nom, c.action);
     }

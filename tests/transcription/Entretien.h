@@ -7,8 +7,8 @@
 
 namespace vermo::essai {
 
-/// A corpus of one interview, "a.wav", loaded in the player and read: 125.5 seconds, one note, variables 1
-/// and 99.
+/// A corpus of four thematics and one interview, "a.wav", loaded in the player and read: 125.5 seconds, one
+/// note, variables 1 and 99.
 struct EntretienOuvert {
     PlateformeDeTest hote;
     Session session;
@@ -20,6 +20,10 @@ struct EntretienOuvert {
         session.reglages.separateurDecimal = separateur;
         EtatCorpus& corpus = session.corpus;
         corpus.RepCorpus = hote.dossier.chemin();
+        corpus.ThmCode = {"", "000", "001", "002", "003"};
+        corpus.ThmCouleur = {"", "&H0", "1", "2", "3"};
+        corpus.ThmNom = {"", " Pas de th\xE9matique", "Nom 001", "Nom 002", "Nom 003"};
+        corpus.ThmVisible.assign(5, 1), corpus.NbThm = 4;
         corpus.NbEntretiens = corpus.EntretienCourant = 1;
         corpus.Entretiens.resize(1);
         Entretien& entretien = corpus.Entretiens.emplace_back();
@@ -41,21 +45,6 @@ struct EntretienOuvert {
     void attendre(std::initializer_list<const char*> messages) {
         for (const char* message : messages)
             hote.dialogues.repondre(Reponse::Ok, message);
-    }
-
-    /// Row 1 "000" black, then one row a code, colours 1, 2 and so on, names "Nom" and the code.
-    void thematiques(std::vector<Texte> codes) {
-        EtatCorpus& corpus = session.corpus;
-        codes.insert(codes.begin(), {"", "000"});
-        corpus.ThmCode = codes;
-        corpus.ThmCouleur = {"", "&H0"};
-        corpus.ThmNom = {"", " Pas de th\xE9matique"};
-        for (std::size_t rang = 2; rang < codes.size(); ++rang) {
-            corpus.ThmCouleur.push_back(std::to_string(rang - 1));
-            corpus.ThmNom.push_back("Nom " + codes[rang]);
-        }
-        corpus.NbThm = static_cast<float>(codes.size() - 1);
-        corpus.ThmVisible.assign(codes.size(), 1);
     }
 };
 

@@ -67,17 +67,9 @@ TEST(Transcript, WithAFaultIsToldOnceAndNeverRewritten) {
     }
 }
 
-TEST(Transcript, IsRewrittenWithoutNegativeStarts) {
-    EntretienOuvert e(TETE + UN + DEUX);
-    e.etat.ExtraitCode[1] = "002 Travail";
-    e.etat.ExtraitTexte[1] = "";
+TEST(Transcript, IsRewrittenUnderItsNameWithTheMachinesCommaAndNoNegativeStart) {
+    EntretienOuvert e("60\r\n::1,5::000\r\na\r\n::2::\r\n::3::001\r\n::4::\r\n", {}, ',', "A.RTR");
     e.etat.ExtraitDebut[2] = -1.0;
-    EXPECT_TRUE(EnregistrerExtraits(e.session, e.hote));
-    EXPECT_EQ(e.disque(), TETE + "::10.00::002 Travail\r\n\r\n::12.50::\r\n");
-}
-
-TEST(Transcript, KeepsTheDisksNameAndTheMachinesComma) {
-    EntretienOuvert e("60\r\n::1,5::000\r\na\r\n::2::\r\n", {}, ',', "A.RTR");
     EXPECT_TRUE(EnregistrerExtraits(e.session, e.hote));
     const std::string ecrit = e.hote.dossier.lire("A.RTR");
     EXPECT_EQ(ecrit.substr(0, 9) + ecrit.substr(ecrit.find("::")),
@@ -207,14 +199,9 @@ TEST(Thematics, WhatAnExtractShowsAndWhatMayBeAdded) {
     for (const int rang : {0, 4})
         EXPECT_THROW(thematiqueDuRang(corpus, rang), FauteExecution);
 
-    const Refus refus = verifierThematique(corpus, {"a", "n", "1"}).value_or(Refus{});
-    EXPECT_TRUE(refus.message.texte.starts_with("Le code 'a' existe déjà")) << "it would be 000";
-    EXPECT_TRUE(refus.codeFautif);
     CorpusDEssai essai;
     essai.ecrireCorpus("000,&H0, Sans\r\n", "");
     ASSERT_TRUE(essai.ouvrir());
-    EXPECT_FALSE(ajouterThematique(essai.session, essai.hote, {"8", "Vie, travail", "255"}));
-    EXPECT_EQ(thematiqueDeCode(essai.corpus(), "008").caption, "008 Vie, travail");
     std::string pleine;
     for (int code = 0; code < 999; ++code)
         pleine += std::to_string(code) + ",0,n\r\n";

@@ -42,16 +42,14 @@ TEST(WordLayout, OneColumn) {
 }
 
 TEST(WordLayout, ColumnsFromTenLinesOn) {
-    struct Cas {
-        int lignes, colonnes, parColonne;
-    };
-    for (const Cas& cas : {Cas{9, 2, 9}, {10, 2, 5}, {11, 2, 6}, {10, 3, 4}, {10, 0, 5}}) {
+    for (const auto& [lignes, colonnes, parColonne] :
+         {std::tuple(9, 2, 9), {10, 2, 5}, {11, 2, 6}, {10, 3, 4}, {10, 0, 5}}) {
         Texte texte;
-        for (int n = 0; n < cas.lignes; ++n)
+        for (int n = 0; n < lignes; ++n)
             texte += "a\r";
-        const ReglagesMots reglages{.LargeurTexte = 40000, .ColonnesTexte = cas.colonnes, .PasListe = 195};
+        const ReglagesMots reglages{.LargeurTexte = 40000, .ColonnesTexte = colonnes, .PasListe = 195};
         const MotsDisposes disposes = disposerMots(texte, reglages, metriquesFixes);
-        EXPECT_EQ(disposes.lignesParColonne, cas.parColonne) << cas.lignes << " lines, " << cas.colonnes;
+        EXPECT_EQ(disposes.lignesParColonne, parColonne) << lignes << " lines, " << colonnes;
     }
 }
 

@@ -2,7 +2,6 @@
 #include "corpus/Session.h"
 #include "support/FenetresMuettes.h"
 #include "support/PlateformeDeTest.h"
-#include "window/ui/Lien.h"
 
 #include <QLineEdit>
 #include <QTest>
@@ -10,46 +9,26 @@
 namespace vermo {
 namespace {
 
-/// A window of four commands, a button that is none of them, and a field.
+/// A window of three commands, and a field.
 struct FenetreDEssai : Forme {
     FenetreDEssai(Session& session, Plateforme& plateforme, Fenetres& fenetres)
-        : Forme("FenetreDEssai", session, plateforme, fenetres), autre(QStringLiteral("Autre"), {}, {}, this),
-          champ(this) {
+        : Forme("FenetreDEssai", session, plateforme, fenetres), champ(this) {
         champ.setObjectName(QStringLiteral("Champ"));
-        commandes.avantBouton = [this] { fait += "bouton "; };
-        ouvrir = commandes.bouton("ouvrir", this);
-        ligne = commandes.ligne("ouvrir", this);
         commandes.ecouter();
         show();
     }
-    static std::string& faitDe(Forme& f) { return static_cast<FenetreDEssai&>(f).fait; }
-    static bool permis(const Forme& f) { return static_cast<const FenetreDEssai&>(f).peut; }
-
+    template <char nom>
+    static void noter(Forme& f) {
+        static_cast<FenetreDEssai&>(f).fait += nom;
+    }
     static constexpr Commande TABLE[] = {
-        {.id = "ouvrir",
-         .bouton = "Ouvrir",
-         .bulle = "Ouvrir ({})",
-         .ligne = "ligneOuvrir",
-         .texte = "Ouvrir...",
-         .touches = {{"Espace"}, {"Ctrl + O"}},
-         .faire = [](Forme& f) { faitDe(f) += "ouvrir "; },
-         .permise = permis},
-        {.id = "avancer",
-         .touches = {{"→"}},
-         .faire = [](Forme& f) { faitDe(f) += "avancer "; },
-         .relacher = [](Forme& f) { faitDe(f) += "arrivé "; }},
-        {.id = "marquer",
-         .touches = {{"Entrée"}},
-         .seule = true,
-         .faire = [](Forme& f) { faitDe(f) += "marquer "; }},
-        {.id = "effacer", .touches = {{"A", "Champ", 0}}, .faire = [](Forme& f) { faitDe(f) += "A "; }},
+        {.id = "avancer", .touches = {{"→"}}, .faire = noter<'a'>, .relacher = noter<'.'>},
+        {.id = "marquer", .touches = {{"Entrée"}, {"Ctrl + O"}}, .seule = true, .faire = noter<'m'>},
+        {.id = "effacer", .touches = {{"A", "Champ", 0}}, .faire = noter<'e'>},
     };
 
     std::string fait;
-    bool peut = true;
     Commandes commandes{*this, TABLE};
-    BoutonImage autre, *ouvrir;
-    Lien* ligne;
     QLineEdit champ;
 };
 
@@ -70,11 +49,10 @@ struct CommandesTest : testing::Test {
 };
 
 TEST_F(CommandesTest, KeysComeAfterTheFocusedControlButForThoseThatHoldInIt) {
-    EXPECT_EQ(apres(fenetre, Qt::Key_Space), "ouvrir ");
-    EXPECT_EQ(apres(fenetre.autre, Qt::Key_Space), "") << "the button's own";
-    EXPECT_EQ(apres(fenetre.autre, Qt::Key_O, Qt::ControlModifier), "ouvrir ");
-    EXPECT_EQ(apres(fenetre.champ, Qt::Key_Space), "") << "typed";
-    EXPECT_EQ(apres(fenetre.champ, Qt::Key_A), "A ");
+    EXPECT_EQ(apres(fenetre, Qt::Key_Right), "a.");
+    EXPECT_EQ(apres(fenetre.champ, Qt::Key_Right), "") << "the field's own";
+    EXPECT_EQ(apres(fenetre.champ, Qt::Key_O, Qt::ControlModifier), "m");
+    EXPECT_EQ(apres(fenetre.champ, Qt::Key_A), "e");
     EXPECT_EQ(apres(fenetre, Qt::Key_A), "");
 }
 
@@ -86,22 +64,7 @@ TEST_F(CommandesTest, PressReleaseAndRepeatAreToldApart) {
         envoyer(QEvent::KeyRelease, touche, false);
         envoyer(QEvent::KeyRelease, touche, false);
     }
-    EXPECT_EQ(fenetre.fait, "avancer avancer arrivé marquer ");
-}
-
-TEST_F(CommandesTest, ADisabledCommandIsDisabledEverywhere) {
-    EXPECT_EQ(fenetre.ouvrir->toolTip(), QStringLiteral("Ouvrir (Espace)"));
-    QTest::mouseClick(fenetre.ouvrir, Qt::LeftButton);
-    QTest::mouseClick(fenetre.ligne, Qt::LeftButton);
-    EXPECT_EQ(fenetre.fait, "bouton ouvrir bouton ouvrir ");
-    for (const bool enService : {true, false}) {
-        fenetre.peut = !enService;
-        fenetre.commandes.enService = [enService] { return enService; };
-        fenetre.commandes.actualiser();
-        EXPECT_FALSE(fenetre.ouvrir->isEnabled());
-        EXPECT_FALSE(fenetre.ligne->isEnabled());
-        EXPECT_EQ(apres(fenetre, Qt::Key_Space), "");
-    }
+    EXPECT_EQ(fenetre.fait, "aa.m");
 }
 
 TEST_F(CommandesTest, ATableThatNamesWhatIsntThereIsRefused) {

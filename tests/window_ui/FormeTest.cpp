@@ -48,21 +48,5 @@ TEST_F(FormeTest, PlacedWithinTheScreen) {
     EXPECT_EQ(forme.geometry(), QRect(0, 0, 1920, 1040));
 }
 
-TEST_F(FormeTest, MovedByItsTitle) {
-    QWidget titre(&forme);
-    titre.resize(100, 20);
-    forme.deplacerPar(&titre);
-    forme.placer({1500, 1500, 6000, 3000});
-    forme.show();
-    QTest::mousePress(&titre, Qt::LeftButton, {}, {10, 10});
-    QMouseEvent mouvement(QEvent::MouseMove, {40, 30}, titre.mapToGlobal(QPointF(40, 30)), Qt::NoButton,
-                          Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&titre, &mouvement);
-    EXPECT_EQ(forme.pos(), QPoint(130, 120));
-    QTest::mouseRelease(&titre, Qt::LeftButton, {}, {10, 10});
-    QTest::mouseMove(&titre, {60, 10});
-    EXPECT_EQ(forme.pos(), QPoint(130, 120));
-}
-
 } // namespace
 } // namespace vermo
