@@ -75,28 +75,6 @@ TEST(Opening, RefusesWhatItCannotRead) {
     }
 }
 
-TEST(CorpusRewriting, LeavesOutWhatIsEmptyAndAFileWithoutItsTag) {
-    CorpusDEssai essai;
-    for (const char* nom : {"a", "b"})
-        essai.ajouterEntretien(nom, ENTETE);
-    essai.ecrireCorpus(PAS + "001,255, Un\r\n002,9,Deux\r\n", "a.wav\r\nparti.wav\r\nb.wav\r\n");
-    essai.dialogues().repondre(Reponse::Ok, "parti.wav");
-    ASSERT_TRUE(essai.ouvrir());
-    const auto ecrire = [&] {
-        EcrireThematiques(essai.session, essai.hote);
-        EcrireEntretiens(essai.session, essai.hote);
-        return essai.dossier().lire("c/Essai.Crp");
-    };
-    essai.corpus().ThmCode[2].clear();
-    essai.corpus().Entretiens[1].Fichier.clear();
-    EXPECT_EQ(ecrire(), "Projet\r\n<|THEM|\r\n" + PAS + "002,9,Deux\r\n>|THEM|\r\n<|POS|\r\n>|POS|\r\n" +
-                            "<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\nb.wav\r\n>|ENTR|\r\n");
-    essai.dossier().ecrire("c/Essai.Crp", "rien\r\n");
-    for (const char* dit : {"changé par un autre", "d'ouverture des thématiques", "changé par un autre"})
-        essai.dialogues().repondre(Reponse::Ok, dit);
-    EXPECT_EQ(ecrire(), "rien\r\n");
-}
-
 TEST(Order, MovesInterviewsWithTheirExtracts) {
     const std::tuple<int, int, std::string> cas[] = {
         {3, 1, "3 1 2 4 "}, {0, 2, "1 2 3 4 "}, {1, 5, "1 2 3 4 "}};

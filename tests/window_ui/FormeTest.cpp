@@ -40,13 +40,5 @@ TEST_F(FormeTest, AFaultThatRepeatsIsToldOnce) {
     EXPECT_EQ(hote.dialogues.journal().size(), 2u);
 }
 
-TEST_F(FormeTest, PlacedWithinTheScreen) {
-    hote.ecran.zone.barreDesTaches = 40;
-    forme.placer({27000, -300, 6000, 3000});
-    EXPECT_EQ(forme.geometry(), QRect(1520, 0, 400, 200));
-    forme.placer({0, 1305, 28800, 30000});
-    EXPECT_EQ(forme.geometry(), QRect(0, 0, 1920, 1040));
-}
-
 } // namespace
 } // namespace vermo
