@@ -4,8 +4,6 @@
 #include "support/CorpusDEssai.h"
 #include "textfile/faute.h"
 
-#include <gtest/gtest.h>
-
 using namespace vermo;
 using namespace vermo::essai;
 

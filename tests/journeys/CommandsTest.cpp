@@ -7,8 +7,6 @@
 #include "support/CommandesCouvertes.h"
 #include "support/Gestes.h"
 
-#include <gtest/gtest.h>
-
 namespace vermo::essai {
 namespace {
 

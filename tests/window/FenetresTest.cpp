@@ -11,7 +11,6 @@
 
 #include <cstdlib>
 #include <fcntl.h>
-#include <gtest/gtest.h>
 
 using namespace vermo;
 using namespace vermo::essai;

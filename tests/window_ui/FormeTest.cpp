@@ -6,7 +6,6 @@
 #include "window/ui/Toile.h"
 
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace vermo {
 namespace {
@@ -32,11 +31,9 @@ TEST_F(FormeTest, AFaultInACallbackBecomesAMessage) {
 }
 
 TEST_F(FormeTest, AFaultThatRepeatsIsToldOnce) {
-    auto tic = [&] { forme.garder([] { throw FauteExecution("encore"); }); };
     hote.dialogues.repondre(Reponse::Ok, "encore").repondre(Reponse::Ok, "autre");
-    tic();
-    tic();
-    forme.garder([] { throw FauteExecution("autre"); });
+    for (const char* dite : {"encore", "encore", "autre"})
+        forme.garder([&] { throw FauteExecution(dite); });
     EXPECT_EQ(hote.dialogues.journal().size(), 2u);
 }
 
