@@ -6,8 +6,6 @@
 #include "support/DossierTemporaire.h"
 #include "textfile/faute.h"
 
-#include <gtest/gtest.h>
-
 using namespace vermo;
 using namespace vermo::essai;
 

@@ -1,7 +1,6 @@
 #include "support/CorpusDEssai.h"
 
 #include <filesystem>
-#include <gtest/gtest.h>
 
 using namespace vermo;
 using namespace vermo::essai;
@@ -132,10 +131,9 @@ TEST_F(Scan, AFaultIsToldOnceForEachStateOfItsFile) {
 }
 
 TEST(Analysis, FaultsAreToldInTheOrderOfTheRows) {
-    constexpr int entretiens = 60;
-    essai::CorpusDEssai essai;
+    CorpusDEssai essai;
     std::string liste;
-    for (int i = 0; i < entretiens; ++i) {
+    for (int i = 0; i < 60; ++i) {
         const std::string nom = "e" + std::to_string(i);
         // The first of them take longest to read.
         essai.ajouterEntretien(nom, "duree\r\n" + std::string(i < 2 ? 2'000'000 : 0, '\r'));

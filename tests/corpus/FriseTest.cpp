@@ -5,7 +5,6 @@
 #include "support/Fiches.h"
 
 #include <cmath>
-#include <gtest/gtest.h>
 
 using namespace vermo;
 using namespace vermo::essai;

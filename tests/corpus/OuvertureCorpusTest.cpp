@@ -4,8 +4,6 @@
 #include "support/CorpusDEssai.h"
 #include "textfile/faute.h"
 
-#include <gtest/gtest.h>
-
 using namespace vermo;
 using namespace vermo::essai;
 
@@ -73,28 +71,6 @@ TEST(Opening, RefusesWhatItCannotRead) {
         EXPECT_THROW(EcrireEntretiens(essai.session, essai.hote), FauteExecution);
         EXPECT_THROW(EcrireThematiques(essai.session, essai.hote), FauteExecution);
     }
-}
-
-TEST(CorpusRewriting, LeavesOutWhatIsEmptyAndAFileWithoutItsTag) {
-    CorpusDEssai essai;
-    for (const char* nom : {"a", "b"})
-        essai.ajouterEntretien(nom, ENTETE);
-    essai.ecrireCorpus(PAS + "001,255, Un\r\n002,9,Deux\r\n", "a.wav\r\nparti.wav\r\nb.wav\r\n");
-    essai.dialogues().repondre(Reponse::Ok, "parti.wav");
-    ASSERT_TRUE(essai.ouvrir());
-    const auto ecrire = [&] {
-        EcrireThematiques(essai.session, essai.hote);
-        EcrireEntretiens(essai.session, essai.hote);
-        return essai.dossier().lire("c/Essai.Crp");
-    };
-    essai.corpus().ThmCode[2].clear();
-    essai.corpus().Entretiens[1].Fichier.clear();
-    EXPECT_EQ(ecrire(), "Projet\r\n<|THEM|\r\n" + PAS + "002,9,Deux\r\n>|THEM|\r\n<|POS|\r\n>|POS|\r\n" +
-                            "<|DIC|\r\n>|DIC|\r\n<|ENTR|\r\nb.wav\r\n>|ENTR|\r\n");
-    essai.dossier().ecrire("c/Essai.Crp", "rien\r\n");
-    for (const char* dit : {"changé par un autre", "d'ouverture des thématiques", "changé par un autre"})
-        essai.dialogues().repondre(Reponse::Ok, dit);
-    EXPECT_EQ(ecrire(), "rien\r\n");
 }
 
 TEST(Order, MovesInterviewsWithTheirExtracts) {

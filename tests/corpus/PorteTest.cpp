@@ -5,7 +5,6 @@
 #include "textfile/faute.h"
 
 #include <cerrno>
-#include <gtest/gtest.h>
 #include <sys/file.h>
 
 using namespace vermo;

@@ -3,8 +3,6 @@
 #include "corpus/AnalyserEntretiens.h"
 #include "support/PlateformeDeTest.h"
 
-#include <gtest/gtest.h>
-
 using namespace vermo;
 using namespace vermo::essai;
 

@@ -7,8 +7,6 @@
 #include "support/CommandesCouvertes.h"
 #include "support/Gestes.h"
 
-#include <gtest/gtest.h>
-
 namespace vermo::essai {
 namespace {
 
@@ -25,8 +23,8 @@ void poserFichiers(Programme& p) {
         dossier.ecrire(nom, "son");
     dossier.ecrire("d/F.Crp", std::string(TETE) + "x.wav\r\n>|ENTR|\r\n");
     dossier.ecrire("d/x.wav", MONO);
-    for (const char* nom : {"d/x.Rtr", "c/garde.Rtr"})
-        dossier.ecrire(nom, RTR);
+    dossier.ecrire("d/x.Rtr", " 60 \r\n<|ATTR|\r\n3,7\r\n>|ATTR|\r\n");
+    dossier.ecrire("c/garde.Rtr", RTR);
     dossier.ecrire("donnees/Vermo de Vermo.mp3", "son");
     p.hote.media.durees = {{"nul.wav", 0}, {"été.wav", 75.5}};
 }

@@ -131,6 +131,7 @@ inline void Programme::releverCorpus(Releve& releve) const {
         const std::string initiale = lisible(corpus.Entretiens[i].Fichier.substr(0, 1));
         releve["liste"] += initiale;
         releve["eteints"] += corpus.Entretiens[i].Visible ? "" : initiale;
+        if (const float lu = corpus.Entretiens[i].Attributs[2]; lu != 0) releve["attributs"] += dixieme(lu);
     }
     for (std::size_t i = 1; i < corpus.ThmVisible.size(); ++i)
         releve["thematiques"] += std::to_string(corpus.ThmVisible[i]);

@@ -14,7 +14,6 @@
 #include <QTest>
 #include <QTimer>
 #include <functional>
-#include <gtest/gtest.h>
 
 namespace vermo::essai {
 namespace {

@@ -9,7 +9,6 @@
 #include <cstring>
 #include <filesystem>
 #include <functional>
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 namespace fs = std::filesystem;

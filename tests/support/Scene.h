@@ -154,9 +154,16 @@ class Scene {
         souris(QEvent::MouseButtonPress, *cible, point, bouton, bouton);
         souris(QEvent::MouseButtonRelease, *cible, point, {}, bouton);
     }
-    void signaler(QEvent::Type type, const std::string& ou) {
+    void survoler(const std::string& ou) {
         const auto [cible, point] = viser(ou);
-        souris(type, *cible, point);
+        souris(QEvent::MouseMove, *cible, point);
+    }
+    /// The second click of two.
+    void doubler(const std::string& ou) {
+        const auto [cible, point] = viser(ou);
+        const QPointer<QWidget> vivante(cible);
+        souris(QEvent::MouseButtonDblClick, *cible, point, Qt::LeftButton);
+        if (vivante) souris(QEvent::MouseButtonRelease, *cible, point);
     }
     static void entrer(QWidget& cible, bool dedans) {
         const QPointF ici = cible.rect().center();
@@ -242,8 +249,8 @@ inline Scene::Scene() {
     verbes = {
         {"clic", [this](S ou) { cliquer(ou); }},
         {"droit", [this](S ou) { cliquer(ou, Qt::RightButton); }},
-        {"double", [this](S ou) { signaler(QEvent::MouseButtonDblClick, ou); }},
-        {"survole", [this](S ou) { signaler(QEvent::MouseMove, ou); }},
+        {"double", [this](S ou) { doubler(ou); }},
+        {"survole", [this](S ou) { survoler(ou); }},
         {"glisse", [this](S ou) { glisser(ou); }},
         {"roule", [this](S ou) { rouler(ou); }},
         {"focus", [this](S nom) { attirer(nom); }},

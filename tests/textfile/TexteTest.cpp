@@ -5,8 +5,6 @@
 #include "textfile/jetons.h"
 #include "textfile/lignes.h"
 
-#include <gtest/gtest.h>
-
 using namespace vermo;
 using namespace vermo::essai;
 

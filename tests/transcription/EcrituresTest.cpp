@@ -5,8 +5,6 @@
 #include "textfile/fichier.h"
 #include "transcription/Entretien.h"
 
-#include <gtest/gtest.h>
-
 using namespace vermo;
 using namespace vermo::essai;
 

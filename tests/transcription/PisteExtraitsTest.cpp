@@ -5,8 +5,6 @@
 #include "transcription/Entretien.h"
 #include "transcription/Marquage.h"
 
-#include <gtest/gtest.h>
-
 using namespace vermo;
 using namespace vermo::essai;
 

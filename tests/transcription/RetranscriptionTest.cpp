@@ -7,7 +7,6 @@
 #include "transcription/Saisie.h"
 
 #include <filesystem>
-#include <gtest/gtest.h>
 
 using namespace vermo;
 using namespace vermo::essai;

@@ -6,7 +6,6 @@
 #include "window/ui/Toile.h"
 
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace vermo {
 namespace {
@@ -32,20 +31,10 @@ TEST_F(FormeTest, AFaultInACallbackBecomesAMessage) {
 }
 
 TEST_F(FormeTest, AFaultThatRepeatsIsToldOnce) {
-    auto tic = [&] { forme.garder([] { throw FauteExecution("encore"); }); };
     hote.dialogues.repondre(Reponse::Ok, "encore").repondre(Reponse::Ok, "autre");
-    tic();
-    tic();
-    forme.garder([] { throw FauteExecution("autre"); });
+    for (const char* dite : {"encore", "encore", "autre"})
+        forme.garder([&] { throw FauteExecution(dite); });
     EXPECT_EQ(hote.dialogues.journal().size(), 2u);
-}
-
-TEST_F(FormeTest, PlacedWithinTheScreen) {
-    hote.ecran.zone.barreDesTaches = 40;
-    forme.placer({27000, -300, 6000, 3000});
-    EXPECT_EQ(forme.geometry(), QRect(1520, 0, 400, 200));
-    forme.placer({0, 1305, 28800, 30000});
-    EXPECT_EQ(forme.geometry(), QRect(0, 0, 1920, 1040));
 }
 
 } // namespace

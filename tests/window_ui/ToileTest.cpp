@@ -3,7 +3,6 @@
 #include "window/ui/Glace.h"
 
 #include <QPainter>
-#include <QTest>
 #include <gtest/gtest.h>
 
 namespace vermo {
@@ -78,39 +77,6 @@ TEST(ToileTest, NarrowBarsAreFilledAsThePainterFillsThem) {
         }
         EXPECT_EQ(image, temoin.convertToFormat(QImage::Format_RGB32));
     }
-}
-
-TEST(ToileTest, AClickTakesOneItemTwice) {
-    Toile toile(QStringLiteral("Picture1"));
-    taille(toile, 40, 10).decalage(150, 0);
-    Element a = barre({150, 0, 150, 150}, ROUGE), b = barre({300, 0, 150, 150}, BLEU);
-    a.index = 1, b.index = 2;
-    toile.elements({a, b});
-    std::string journal;
-    auto noter = [&](const char* quoi) {
-        return [&journal, quoi](const Souris& s) {
-            journal += quoi + std::to_string(s.element ? s.element->index : 0) + "@" +
-                       std::to_string(static_cast<int>(s.x)) + " ";
-        };
-    };
-    toile.surPression = noter("p"), toile.surRelachement = noter("r"), toile.surClic = noter("c");
-    QTest::mouseClick(&toile, Qt::LeftButton, {}, {12, 5});
-    QTest::mouseClick(&toile, Qt::RightButton, {}, {12, 5});
-    QTest::mousePress(&toile, Qt::LeftButton, {}, {2, 5});
-    QTest::mouseRelease(&toile, Qt::LeftButton, {}, {12, 5});
-    EXPECT_EQ(journal, "p2@330 r2@330 c2@330 p2@330 r2@330 p1@180 r2@330 ");
-    journal.clear();
-    auto deuxClics = [&] {
-        QTest::mouseClick(&toile, Qt::LeftButton, {}, {2, 5});
-        QTest::mouseDClick(&toile, Qt::LeftButton, {}, {2, 5});
-        QTest::mouseRelease(&toile, Qt::LeftButton, {}, {2, 5});
-    };
-    deuxClics();
-    EXPECT_EQ(journal, "p1@180 r1@180 c1@180 p1@180 r1@180 c1@180 ") << "a quick second click is a click";
-    journal.clear();
-    toile.surDoubleClic = noter("d");
-    deuxClics();
-    EXPECT_EQ(journal, "p1@180 r1@180 c1@180 d1@180 r1@180 ");
 }
 
 TEST(GlaceTest, TypedTextBecomesBytes) {
