@@ -30,7 +30,7 @@ struct Accord : Dialogues {
     Utf8 choisirFichier(const DemandeFichier&) override { return {}; }
 };
 
-/// A corpus of two interviews as the program has it open, the first one shown.
+/// A program without a screen, with a corpus of two interviews open and the first one current.
 struct Programme : CorpusDEssai {
     Accord accord;
     PlateformeDeTest& p = CorpusDEssai::hote;
