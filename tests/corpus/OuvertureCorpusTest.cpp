@@ -103,12 +103,16 @@ TEST(Import, AsksForTheFormatThatIsntTheLightest) {
     EXPECT_EQ(hote.lanceur.lances, std::vector<Utf8>{chemin});
 }
 
-TEST(Import, RefusesNamesAndNumbersThatTheListCannotHold) {
+TEST(Import, KeepsATranscriptAndRefusesWhatTheListCannotHold) {
     for (const char* nom : {"/x/a\rb.wav", "/x/a\\b.wav"})
         EXPECT_THROW(nomImporte(nom), FauteExecution);
     Session session;
     while (session.corpus.NbEntretiens < 999)
         ajouterEntretien(session, "x.wav", 1);
+    const DossierTemporaire dossier;
+    dossier.ecrire("x.Rtr", "gardée");
+    session.corpus.RepCorpus = dossier.chemin();
+    EXPECT_FALSE(retranscriptionACreer(session, 1));
     EXPECT_THROW(ajouterEntretien(session, "y.wav", 1), FauteExecution);
 }
 

@@ -19,7 +19,7 @@ void poserFichiers(Programme& p) {
         dossier.ecrire(nom, wav(1, 8, std::string(9000, '\x7F')));
     for (const char* nom : {"c/s.wav", "ailleurs/été.wav", "ailleurs/Z.wav"})
         dossier.ecrire(nom, STEREO);
-    for (const char* nom : {"ailleurs/e.mp3", "ailleurs/A.mp3", "c/a.mp3", "c/A 2.Rtr"})
+    for (const char* nom : {"ailleurs/e.mp3", "ailleurs/A.mp3", "ailleurs/B.mp3", "c/a.mp3", "c/A 2.Rtr"})
         dossier.ecrire(nom, "son");
     dossier.ecrire("d/F.Crp", std::string(TETE) + "x.wav\r\n>|ENTR|\r\n");
     dossier.ecrire("d/x.wav", MONO);

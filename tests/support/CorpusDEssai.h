@@ -5,7 +5,6 @@
 #include "support/PlateformeDeTest.h"
 
 #include <algorithm>
-#include <string>
 
 namespace vermo::essai {
 

@@ -6,8 +6,6 @@
 
 #include <ctime>
 #include <functional>
-#include <string>
-#include <vector>
 
 namespace vermo::essai {
 

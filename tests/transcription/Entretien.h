@@ -3,7 +3,6 @@
 #include "transcription/Retranscription.h"
 
 #include <functional>
-#include <string>
 
 namespace vermo::essai {
 
