@@ -84,6 +84,7 @@ void fermerCorpus(Programme& programme, const std::string& crp) {
     const std::string repertoire = std::filesystem::path(crp).parent_path();
     auto& emplacements = programme.hote().plateforme().emplacements;
     emplacements.programme = emplacements.etat = repertoire + "/";
+    emplacements.execution.clear(); // a measure in its own process finds the corpus open in this one
     std::ofstream(repertoire + "/Projets.ini") << crp << "\r\n";
 }
 
