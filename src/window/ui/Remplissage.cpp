@@ -62,23 +62,26 @@ void Remplissage::remplir(const QRectF& cadre, const QColor& couleur) {
 }
 
 void Remplissage::finir() {
+    if (barres_.empty()) return;
     const std::size_t couches = empiler();
-    for (int y = haut_; y <= bas_; ++y)
+    for (int y = haut_; y <= bas_; ++y) {
+        QRgb* ligne = pixels_ + static_cast<qsizetype>(y) * parLigne_ + gauche_;
         for (std::size_t k = 0; k < couches; ++k) {
             const auto& [encres, restes, debut, fin] = couches_[k];
-            fondre(pixels_ + static_cast<qsizetype>(y) * parLigne_ + debut, &encres[debut], &restes[debut],
-                   fin - debut);
+            fondre(ligne + debut, &encres[debut], &restes[debut], fin - debut);
         }
+    }
     barres_.clear();
 }
 
 /// Parts the bars that wait into layers, each pixel's in their order; gives how many.
 std::size_t Remplissage::empiler() {
+    gauche_ = std::ranges::min(barres_, {}, &Barre::gauche).gauche;
+    const auto place = [this](int x) { return static_cast<std::size_t>(x - gauche_); };
+    pile_.assign(place(std::ranges::max(barres_, {}, &Barre::droite).droite) + 1, 0);
     std::size_t couches = 0;
-    pile_.assign(barres_.empty() ? 0 : static_cast<std::size_t>(parLigne_), 0);
     for (const Barre& barre : barres_)
-        for (auto x = static_cast<std::size_t>(barre.gauche); x <= static_cast<std::size_t>(barre.droite);
-             ++x) {
+        for (std::size_t x = place(barre.gauche); x <= place(barre.droite); ++x) {
             const std::size_t k = pile_[x]++;
             if (k == couches) commencer(couches++, x);
             Couche& couche = couches_[k];
@@ -93,9 +96,8 @@ std::size_t Remplissage::empiler() {
 /// An empty layer: it leaves all.
 void Remplissage::commencer(std::size_t k, std::size_t x) {
     if (k == couches_.size()) couches_.emplace_back();
-    const auto largeur = static_cast<std::size_t>(parLigne_);
-    couches_[k].encres.assign(largeur, 0);
-    couches_[k].restes.assign(largeur, ~QRgb(0));
+    couches_[k].encres.assign(pile_.size(), 0);
+    couches_[k].restes.assign(pile_.size(), ~QRgb(0));
     couches_[k].debut = couches_[k].fin = x;
 }
 

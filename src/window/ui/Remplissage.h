@@ -44,6 +44,7 @@ class Remplissage {
     std::vector<Barre> barres_;     ///< that wait
     std::vector<Couche> couches_;   ///< of the same
     std::vector<std::size_t> pile_; ///< how many layers have a bar at each pixel
+    int gauche_ = 0;                ///< pixel of the picture at which layers and pile begin
     int haut_ = 0, bas_ = -1;       ///< their lines, the last one included
     QPainter& peintre_;
     QRgb* pixels_ = nullptr; ///< of the picture; null: the painter does it all
