@@ -1,5 +1,6 @@
 #include "window/ui/Toile.h"
 
+#include "support/DossierTemporaire.h"
 #include "window/ui/Glace.h"
 
 #include <QPainter>
@@ -87,6 +88,18 @@ TEST(GlaceTest, TypedTextBecomesBytes) {
         if (octet != '\n') tous += static_cast<char>(octet);
     EXPECT_EQ(depuisQt(versQt(tous)), tous);
     EXPECT_ANY_THROW(depuisQt(QStringLiteral("\u4E2D")));
+}
+
+TEST(GlaceTest, PicturesOfTheDiskAreReadAgainOnceTheyChanged) {
+    const essai::DossierTemporaire dossier;
+    const std::string chemin = dossier.chemin("a.Bmp");
+    for (const QColor couleur : {Qt::red, Qt::blue}) {
+        QImage image(4, 4, QImage::Format_RGB32);
+        image.fill(couleur);
+        ASSERT_TRUE(image.save(QString::fromStdString(chemin), "BMP"));
+        oublierImagesChangees();
+        EXPECT_EQ(imageEtiree(chemin, {2, 2}).pixelColor(0, 0), couleur);
+    }
 }
 
 } // namespace
