@@ -99,17 +99,11 @@ class Analyseur {
 
     /// Without the section the reading starts again from the first line.
     Texte lireObservations() {
-        Texte observations;
-        std::string_view ligne;
         if (!lignes_.jusqua(rtr::OBS)) {
             lignes_ = Lignes(octets_);
-            return observations;
+            return {};
         }
-        while (lignes_.suivante(ligne) && !contient(ligne, rtr::FIN_OBS)) {
-            refuserNul(ligne, lieu());
-            if (!ligne.empty()) observations.append(ligne) += CR;
-        }
-        return observations;
+        return rtr::lireObservations(lignes_, [this](std::string_view ligne) { refuserNul(ligne, lieu()); });
     }
 
     /// An extract's end waits until its text is complete: lines may follow the closing one.

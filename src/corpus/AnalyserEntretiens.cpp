@@ -108,9 +108,9 @@ void relever(Releve& releve, const Fichiers& fichiers, const Reglages& reglages,
         releve.lecture = lireTable(*fichiers.rtr, reglages, lu, releve.connu ? &*releve.connu : nullptr);
 }
 
-/// Calls `faire` with 0 to `nombre` - 1, each once, on so many threads, and a tool that the thread keeps; and
-/// `dire` with the same on this thread, in order, as soon as all up to there are done. Passes on the first
-/// exception in this order; nothing further is begun after it.
+/// Calls `faire` with 0 to `nombre` - 1, each once, on at most so many threads, no more than the machine runs
+/// at a time, and a tool that the thread keeps; and `dire` with the same on this thread, in order, as soon as
+/// all up to there are done. Passes on the first exception in this order; nothing further is begun after it.
 template <class Outil, class Faire, class Dire>
 void enParallele(std::size_t nombre, std::size_t fils, const Faire& faire, const Dire& dire) {
     std::atomic<std::size_t> suivant = 0;
@@ -134,6 +134,7 @@ void enParallele(std::size_t nombre, std::size_t fils, const Faire& faire, const
         }
     };
     std::vector<std::jthread> autres;
+    fils = std::min<std::size_t>(fils, std::thread::hardware_concurrency());
     try {
         while (autres.size() + 1 < fils)
             autres.emplace_back(aider);
@@ -204,15 +205,13 @@ std::vector<Fichiers> fichiersDes(const EtatCorpus& corpus, int premier, int der
             fichiers[i] =
                 fichiersDe(entretienDe(corpus, premier + static_cast<int>(i)), corpus.RepCorpus, index);
     };
-    enParallele<char>(lots, std::min<std::size_t>(lots, std::thread::hardware_concurrency()), chercher,
-                      [](std::size_t) {});
+    enParallele<char>(lots, lots, chercher, [](std::size_t) {});
     return fichiers;
 }
 
 /// Threads come for transcripts that are to be read, not to find that none is.
 std::size_t filsPour(const std::vector<Releve>& releves) {
-    const auto aLire = std::count_if(releves.begin(), releves.end(), [](const Releve& r) { return r.aLire; });
-    return std::min<std::size_t>(static_cast<std::size_t>(aLire), std::thread::hardware_concurrency());
+    return static_cast<std::size_t>(std::ranges::count(releves, true, &Releve::aLire));
 }
 
 } // namespace
@@ -246,7 +245,7 @@ void RelireEntretien(Session& session, Plateforme& plateforme, int slot) {
     ExtraitsEntretien avant = std::exchange(table, {});
     const Utf8 chemin = cheminCompagnon(session, slot, "Rtr");
     const IdentiteFichier identite = identiteFichier(chemin);
-    if (fichierExiste(chemin)) {
+    if (identite != IdentiteFichier{}) {
         FichierLu lu;
         auto lecture = lireTable({chemin, identite}, session.reglages, lu);
         table = std::move(lecture->extraits);

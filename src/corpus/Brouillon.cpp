@@ -88,11 +88,6 @@ bool tientEncore(const Brouillon& brouillon) {
            fichierExiste(repertoireDe(brouillon.corpus) + brouillon.enregistrement);
 }
 
-bool memeFichier(const Utf8& a, const Utf8& b) {
-    const IdentiteFichier x = identiteFichier(a), y = identiteFichier(b);
-    return x.inode != 0 && x.inode == y.inode && x.peripherique == y.peripherique;
-}
-
 } // namespace
 
 std::string ecrireBrouillon(const Brouillon& brouillon) {
@@ -145,8 +140,7 @@ Brouillon nouveauBrouillon(const Session& session, int slot, const Utf8& genre) 
 
 int slotDuBrouillon(const Session& session, const Brouillon& brouillon) {
     const EtatCorpus& corpus = session.corpus;
-    const bool ici =
-        corpus.CheminCorpus == brouillon.corpus || memeFichier(corpus.CheminCorpus, brouillon.corpus);
+    const bool ici = memeFichier(corpus.CheminCorpus, brouillon.corpus);
     if (!ici && tientEncore(brouillon)) return 0;
     for (int slot = 1; slot <= corpus.NbEntretiens; ++slot) {
         if (versUtf8(entretienDe(corpus, slot).Fichier) != brouillon.enregistrement) continue;

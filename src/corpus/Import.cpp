@@ -12,19 +12,12 @@
 
 #include <algorithm>
 #include <chrono>
-#include <filesystem>
 
 namespace vermo {
 namespace {
 
 constexpr const char* CONVERTISSEUR = "Convertisseur.exe";
 constexpr std::chrono::milliseconds ENTRE_DEUX_ATTENTES{100}; ///< a wait sleeps: not at each block
-
-bool memeFichier(const Utf8& un, const Utf8& autre) {
-    if (un == autre) return true;
-    std::error_code absent;
-    return std::filesystem::equivalent(un, autre, absent);
-}
 
 /// False when the copy that is there is to be used.
 bool aCopier(Plateforme& plateforme, const Utf8& cible, const Utf8& nom) {

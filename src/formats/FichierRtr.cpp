@@ -89,15 +89,6 @@ void verifierExtrait(const Extrait& extrait, const LignesMarques& lignes, const 
     tempsOuFaute(extrait.fin, reglages, "La fin", {fichier, lignes.fermeture});
 }
 
-/// Lines of the section up to its closing one, as the scan takes them.
-Texte lireObservations(Lignes& lignes) {
-    Texte observations;
-    std::string_view ligne;
-    while (lignes.suivante(ligne) && !contient(ligne, FIN_OBS))
-        if (!ligne.empty()) observations.append(ligne) += CR;
-    return observations;
-}
-
 void ecrireObservations(std::string& sortie, std::string_view observations) {
     for (const std::string_view ligne : {OBS, observations, FIN_OBS})
         ecrireLigne(sortie, ligne);
@@ -228,7 +219,7 @@ std::string reecrireEnTete(std::string_view octets, const Utf8& fichier, const R
     while (lignes.suivante(ligne)) {
         if (!obs && contient(ligne, OBS)) {
             obs = true;
-            ecrireObservations(sortie, lireObservations(lignes));
+            ecrireObservations(sortie, lireObservations(lignes, [](std::string_view) {}));
         } else if (!attr && contient(ligne, ATTR)) {
             attr = true;
             lignes.jusqua(FIN_ATTR);

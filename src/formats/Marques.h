@@ -15,6 +15,19 @@ namespace vermo::rtr {
 constexpr std::string_view OBS = "<|OBS|", FIN_OBS = ">|OBS|";
 constexpr std::string_view MARQUE = "::";
 
+/// The observations, behind their opening line up to the closing one, each line that isn't empty ended by a
+/// CR; `voir` is called with each line.
+template <class Voir>
+Texte lireObservations(Lignes& lignes, const Voir& voir) {
+    Texte observations;
+    std::string_view ligne;
+    while (lignes.suivante(ligne) && !contient(ligne, FIN_OBS)) {
+        voir(ligne);
+        if (!ligne.empty()) observations.append(ligne) += CR;
+    }
+    return observations;
+}
+
 /// The fields of a mark line: between its marks, and behind the second.
 struct Marque {
     std::string_view temps;

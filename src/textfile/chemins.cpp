@@ -2,7 +2,9 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 
 namespace vermo {
 namespace {
@@ -27,6 +29,12 @@ Utf8 repertoireDe(const Utf8& chemin) {
 
 Utf8 nomDe(const Utf8& chemin) {
     return chemin.substr(chemin.rfind('/') + 1);
+}
+
+bool memeFichier(const Utf8& un, const Utf8& autre) {
+    if (un == autre) return true;
+    std::error_code absent;
+    return std::filesystem::equivalent(un, autre, absent);
 }
 
 std::string compagnon(std::string_view nom, std::string_view extension) {

@@ -17,6 +17,9 @@ Utf8 repertoireDe(const Utf8& chemin);
 /// Everything after the last slash.
 Utf8 nomDe(const Utf8& chemin);
 
+/// True for one path, and for two that lead to one file or directory, which is there.
+bool memeFichier(const Utf8& un, const Utf8& autre);
+
 /// A recording's companion: the last three characters replaced ("a.wav", "Rtr" -> "a.Rtr"). A name of fewer
 /// than three characters is replaced whole. Works on CP1252 and on ASCII-ended UTF-8 alike.
 std::string compagnon(std::string_view nom, std::string_view extension);

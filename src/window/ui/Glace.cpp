@@ -1,6 +1,5 @@
 #include "window/ui/Glace.h"
 
-#include "textfile/nombres.h"
 #include "window/ui/Theme.h"
 
 #include <QPainter>
@@ -43,24 +42,15 @@ Rectangle enTwips(const QRectF& r) {
     return {enTwips(r.x()), enTwips(r.y()), enTwips(r.width()), enTwips(r.height())};
 }
 
-namespace {
-
-/// A place that an integer holds: an extract may end a million years behind its recording's end.
-double place(double pixels) {
-    constexpr double PIXELS_MAX = 1e9;
-    return borner(pixels, PIXELS_MAX);
-}
-
-} // namespace
-
 QRect enPixelsEntiers(const Rectangle& r) {
-    const QPoint coin(qRound(place(enPixels(r.gauche))), qRound(place(enPixels(r.haut))));
-    const QPoint fin(qRound(place(enPixels(r.droite()))), qRound(place(enPixels(r.bas()))));
+    const QPoint coin(qRound(pixelsTenus(enPixels(r.gauche))), qRound(pixelsTenus(enPixels(r.haut))));
+    const QPoint fin(qRound(pixelsTenus(enPixels(r.droite()))), qRound(pixelsTenus(enPixels(r.bas()))));
     return {coin, QSize(fin.x() - coin.x(), fin.y() - coin.y())};
 }
 
 QRect pixelsTouches(const QRectF& r) {
-    return QRectF(QPointF(place(r.left()), place(r.top())), QPointF(place(r.right()), place(r.bottom())))
+    return QRectF(QPointF(pixelsTenus(r.left()), pixelsTenus(r.top())),
+                  QPointF(pixelsTenus(r.right()), pixelsTenus(r.bottom())))
         .toAlignedRect();
 }
 

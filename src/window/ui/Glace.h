@@ -1,4 +1,5 @@
 #pragma once
+#include "textfile/nombres.h"
 #include "textfile/texte.h"
 #include "window/Bitmap8.h"
 #include "window/Element.h"
@@ -31,6 +32,11 @@ inline double enPixels(Twips t) {
 }
 inline Twips enTwips(double pixels) {
     return pixels * TWIPS_PAR_PIXEL;
+}
+/// A place that an integer holds: an extract may end a million years behind its recording's end.
+inline double pixelsTenus(double pixels) {
+    constexpr double PIXELS_MAX = 1e9;
+    return borner(pixels, PIXELS_MAX);
 }
 QRectF enPixels(const Rectangle& r);
 Rectangle enTwips(const QRectF& r);

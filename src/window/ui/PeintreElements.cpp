@@ -1,6 +1,5 @@
 #include "window/ui/PeintreElements.h"
 
-#include "textfile/nombres.h"
 #include "window/ui/Glace.h"
 
 #include <QPainter>
@@ -14,11 +13,9 @@ namespace {
 // Opacities of fills, of 255: what lies under them stays seen.
 constexpr int FUSION = 140, VOILE = 60;
 
-/// As std::round for what fits a window, in a third of its time: it is asked four times a bar. What lies
-/// farther out than any window stays out, within what an integer holds.
+/// As std::round for what fits a window, in a third of its time: it is asked four times a bar.
 double pixelProche(double pixels) {
-    constexpr double PIXELS_MAX = 1e9;
-    pixels = borner(pixels, PIXELS_MAX);
+    pixels = pixelsTenus(pixels);
     return static_cast<double>(static_cast<std::int64_t>(pixels < 0 ? pixels - 0.5 : pixels + 0.5));
 }
 

@@ -57,8 +57,6 @@ class Toile : public QWidget {
     /// Repaints one part of the surface only, after a change of the items in it.
     virtual void repeindre(const Rectangle& partie);
 
-    /// Forgets a picture of the disk that was read for items, so that it is read again.
-
     /// Paints ground and items onto any device, as on the screen; `zone` in pixels of the canvas.
     virtual void peindre(QPainter& peintre, const QRectF& zone);
 
